@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <ZEVGlobalUtils/Platform/ZEVErrorPresentation.h>
+
+#include <ZEVGlobalUtils/Platform/ZEVError.h>
+#include <ZEVGlobalUtils/Platform/ZEVLog_p.h>
+
+#include <QApplication>
+#include <QMessageBox>
+
+namespace {
+
+ZEVErrorPresentation::Presenter &hostPresenter()
+{
+    static ZEVErrorPresentation::Presenter presenter;
+    return presenter;
+}
+
+void showAlert(const ZEVError &error)
+{
+    QMessageBox alert(QMessageBox::Critical, QGuiApplication::applicationDisplayName(),
+                      error.localizedDescription(), QMessageBox::Ok, QApplication::activeWindow());
+    // Expressions and file names stand in these texts: none of them may be taken for rich text.
+    alert.setTextFormat(Qt::PlainText);
+    alert.exec();
+}
+
+} // namespace
+
+void ZEVErrorPresentation::presentError(const ZEVError &error)
+{
+    // A copy, since a presenter may well put another in its own place.
+    if (const Presenter presenter = hostPresenter())
+        presenter(error);
+    else if (qobject_cast<QApplication *>(QCoreApplication::instance()))
+        showAlert(error);
+    else
+        qCWarning(zevLog).noquote() << error.localizedDescription();
+}
+
+ZEVErrorPresentation::Presenter ZEVErrorPresentation::setPresenter(Presenter presenter)
+{
+    return std::exchange(hostPresenter(), std::move(presenter));
+}

@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <ZEVGlobalUtils/Export.h>
+
+#include <functional>
+
+class ZEVError;
+
+/// How errors that are meant for the user reach the user. Main thread only.
+namespace ZEVErrorPresentation {
+
+using Presenter = std::function<void(const ZEVError &)>;
+
+/// Shows \a error through the host's presenter, else in an alert of plain text; without a QApplication it is
+/// logged.
+ZEV_EXPORT void presentError(const ZEVError &error);
+
+/// Puts \a presenter in the alert's place and returns the one before; an empty one brings the alert back.
+ZEV_EXPORT Presenter setPresenter(Presenter presenter);
+
+} // namespace ZEVErrorPresentation

@@ -1,0 +1,139 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>ZEVGlobalUtils</name>
+    <message>
+        <source>Wildcard</source>
+        <translation>Platzhalter</translation>
+    </message>
+    <message>
+        <source>Any Characters</source>
+        <translation>Beliebige Zeichen</translation>
+    </message>
+    <message>
+        <source>Any Character</source>
+        <translation>Beliebiges Zeichen</translation>
+    </message>
+    <message>
+        <source>Any Word</source>
+        <translation>Beliebiges Wort</translation>
+    </message>
+    <message>
+        <source>White Space</source>
+        <translation>Leerraum</translation>
+    </message>
+    <message>
+        <source>Digits</source>
+        <translation>Ziffern</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tabulator</translation>
+    </message>
+    <message>
+        <source>Email Address</source>
+        <translation>E-Mail-Adresse</translation>
+    </message>
+    <message>
+        <source>Web Address</source>
+        <translation>Webadresse</translation>
+    </message>
+    <message>
+        <source>Line Break</source>
+        <translation>Zeilenumbruch</translation>
+    </message>
+    <message>
+        <source>Any</source>
+        <translation>Beliebig</translation>
+    </message>
+    <message>
+        <source>Char</source>
+        <translation>Zeichen</translation>
+    </message>
+    <message>
+        <source>Word</source>
+        <translation>Wort</translation>
+    </message>
+    <message>
+        <source>Wildcards</source>
+        <translation>Platzhalter</translation>
+    </message>
+    <message>
+        <source>Contains</source>
+        <translation>Enthält</translation>
+    </message>
+    <message>
+        <source>Begins With</source>
+        <translation>Beginnt mit</translation>
+    </message>
+    <message>
+        <source>Matches Word</source>
+        <translation>Ist das Wort</translation>
+    </message>
+    <message>
+        <source>Ends With</source>
+        <translation>Endet mit</translation>
+    </message>
+    <message>
+        <source>Regular Expression</source>
+        <translation>Regulärer Ausdruck</translation>
+    </message>
+    <message>
+        <source>Matches Contents</source>
+        <translation>Ist der ganze Inhalt</translation>
+    </message>
+    <message>
+        <source>Case Sensitive</source>
+        <translation>Groß-/Kleinschreibung beachten</translation>
+    </message>
+    <message>
+        <source>The operation couldn’t be completed. (%1 error %2.)</source>
+        <translation>Der Vorgang konnte nicht abgeschlossen werden. (%1, Fehler %2)</translation>
+    </message>
+    <message>
+        <source>The expression “%1” is not valid: %2.</source>
+        <translation>Der Ausdruck „%1“ ist nicht gültig: %2.</translation>
+    </message>
+    <message>
+        <source>(Character %1)</source>
+        <translation>(Zeichen %1)</translation>
+    </message>
+    <message>
+        <source>a backslash stands before a character that it does not go with</source>
+        <translation>ein umgekehrter Schrägstrich steht vor einem Zeichen, zu dem er nicht passt</translation>
+    </message>
+    <message>
+        <source>a parenthesis has no partner</source>
+        <translation>einer runden Klammer fehlt ihr Gegenstück</translation>
+    </message>
+    <message>
+        <source>a bracket is not closed</source>
+        <translation>eine eckige Klammer ist nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>er ist zu groß</translation>
+    </message>
+    <message>
+        <source>a repetition in braces is not well formed</source>
+        <translation>eine Wiederholung in geschweiften Klammern ist nicht richtig gebildet</translation>
+    </message>
+    <message>
+        <source>it refers to a group that it does not have</source>
+        <translation>er verweist auf eine Gruppe, die es nicht gibt</translation>
+    </message>
+    <message>
+        <source>a look-behind has no limit to its length</source>
+        <translation>die Länge eines Rückblicks ist nicht begrenzt</translation>
+    </message>
+    <message>
+        <source>a range of characters runs backwards</source>
+        <translation>ein Zeichenbereich läuft rückwärts</translation>
+    </message>
+    <message>
+        <source>it is not well formed</source>
+        <translation>er ist nicht richtig gebildet</translation>
+    </message>
+</context>
+</TS>

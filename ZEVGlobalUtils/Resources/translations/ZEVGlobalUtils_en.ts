@@ -1,0 +1,139 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>ZEVGlobalUtils</name>
+    <message>
+        <source>Wildcard</source>
+        <translation>Wildcard</translation>
+    </message>
+    <message>
+        <source>Any Characters</source>
+        <translation>Any Characters</translation>
+    </message>
+    <message>
+        <source>Any Character</source>
+        <translation>Any Character</translation>
+    </message>
+    <message>
+        <source>Any Word</source>
+        <translation>Any Word</translation>
+    </message>
+    <message>
+        <source>White Space</source>
+        <translation>White Space</translation>
+    </message>
+    <message>
+        <source>Digits</source>
+        <translation>Digits</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>Email Address</source>
+        <translation>Email Address</translation>
+    </message>
+    <message>
+        <source>Web Address</source>
+        <translation>Web Address</translation>
+    </message>
+    <message>
+        <source>Line Break</source>
+        <translation>Line Break</translation>
+    </message>
+    <message>
+        <source>Any</source>
+        <translation>Any</translation>
+    </message>
+    <message>
+        <source>Char</source>
+        <translation>Char</translation>
+    </message>
+    <message>
+        <source>Word</source>
+        <translation>Word</translation>
+    </message>
+    <message>
+        <source>Wildcards</source>
+        <translation>Wildcards</translation>
+    </message>
+    <message>
+        <source>Contains</source>
+        <translation>Contains</translation>
+    </message>
+    <message>
+        <source>Begins With</source>
+        <translation>Begins With</translation>
+    </message>
+    <message>
+        <source>Matches Word</source>
+        <translation>Matches Word</translation>
+    </message>
+    <message>
+        <source>Ends With</source>
+        <translation>Ends With</translation>
+    </message>
+    <message>
+        <source>Regular Expression</source>
+        <translation>Regular Expression</translation>
+    </message>
+    <message>
+        <source>Matches Contents</source>
+        <translation>Matches Contents</translation>
+    </message>
+    <message>
+        <source>Case Sensitive</source>
+        <translation>Case Sensitive</translation>
+    </message>
+    <message>
+        <source>The operation couldn’t be completed. (%1 error %2.)</source>
+        <translation>The operation couldn’t be completed. (%1 error %2.)</translation>
+    </message>
+    <message>
+        <source>The expression “%1” is not valid: %2.</source>
+        <translation>The expression “%1” is not valid: %2.</translation>
+    </message>
+    <message>
+        <source>(Character %1)</source>
+        <translation>(Character %1)</translation>
+    </message>
+    <message>
+        <source>a backslash stands before a character that it does not go with</source>
+        <translation>a backslash stands before a character that it does not go with</translation>
+    </message>
+    <message>
+        <source>a parenthesis has no partner</source>
+        <translation>a parenthesis has no partner</translation>
+    </message>
+    <message>
+        <source>a bracket is not closed</source>
+        <translation>a bracket is not closed</translation>
+    </message>
+    <message>
+        <source>it is too large</source>
+        <translation>it is too large</translation>
+    </message>
+    <message>
+        <source>a repetition in braces is not well formed</source>
+        <translation>a repetition in braces is not well formed</translation>
+    </message>
+    <message>
+        <source>it refers to a group that it does not have</source>
+        <translation>it refers to a group that it does not have</translation>
+    </message>
+    <message>
+        <source>a look-behind has no limit to its length</source>
+        <translation>a look-behind has no limit to its length</translation>
+    </message>
+    <message>
+        <source>a range of characters runs backwards</source>
+        <translation>a range of characters runs backwards</translation>
+    </message>
+    <message>
+        <source>it is not well formed</source>
+        <translation>it is not well formed</translation>
+    </message>
+</context>
+</TS>
