@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
+
+#include <ZEVGlobalUtils/FindEngine/ZEVTextFinderClient.h>
+#include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
+#include <ZEVGlobalUtils/Platform/ZEVRegularExpressionMatcher.h>
+
+#include <QPointer>
+
+ZEVTextFinderClient::~ZEVTextFinderClient() = default;
+
+ZEVTextFinder::ZEVTextFinder(QObject *parent)
+    : QObject(parent)
+{
+}
+
+ZEVTextFinder::~ZEVTextFinder() = default;
+
+void ZEVTextFinder::setNumberOfMatches(std::optional<qsizetype> number)
+{
+    if (m_numberOfMatches == number)
+        return;
+    m_numberOfMatches = number;
+    Q_EMIT numberOfMatchesChanged();
+}
+
+/// One walk over the client's text. Every announced match runs code of the host, after which the finder may
+/// be gone, busy with a newer search, or without its client.
+class ZEVTextFinder::Search {
+public:
+    explicit Search(ZEVTextFinder *finder)
+        : m_finder(finder)
+        , m_number(++finder->m_searchNumber)
+    {
+    }
+
+    bool isCurrent() const { return m_finder && m_finder->m_searchNumber == m_number; }
+
+    void run(const ZEVRegularExpression &expression)
+    {
+        ZEVRegularExpressionMatcher matcher(expression);
+        const qsizetype total = m_finder->m_client->stringLength();
+        qsizetype index = 0;
+        while (index < total && !matcher.isExhausted()) {
+            ZEVRange piece;
+            const QString text = m_finder->m_client->stringAtIndex(index, piece);
+            if (piece.length <= 0 || !collect(matcher, text, piece.location))
+                break;
+            m_finder->m_limitReached = matcher.limitReached();
+            if (piece.length > total - index)
+                break; // a client that claims more than it has
+            index += piece.length;
+        }
+        if (isCurrent())
+            m_finder->m_limitReached = matcher.limitReached();
+    }
+
+private:
+    /// False when the host's answer to a match ends this search.
+    bool collect(ZEVRegularExpressionMatcher &matcher, const QString &text, qsizetype offset)
+    {
+        matcher.setText(text);
+        while (matcher.findNext()) {
+            const ZEVRange match = matcher.matchedRange();
+            m_finder->m_foundMatches.append({offset + match.location, match.length});
+            m_finder->setNumberOfMatches(m_finder->m_foundMatches.size());
+            if (!isCurrent() || !m_finder->m_client)
+                return false;
+        }
+        return true;
+    }
+
+    QPointer<ZEVTextFinder> m_finder;
+    quint64 m_number;
+};
+
+void ZEVTextFinder::performSearchAgainstExpression(const std::optional<ZEVRegularExpression> &expression)
+{
+    Search search(this);
+    m_foundMatches.clear();
+    m_limitReached = false;
+    setNumberOfMatches(std::nullopt);
+    if (!search.isCurrent() || !m_client || !expression || m_client->stringLength() <= 0)
+        return;
+    search.run(*expression);
+    if (search.isCurrent())
+        setNumberOfMatches(m_foundMatches.size());
+}
