@@ -1,0 +1,148 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <ZEVGlobalUtils/Platform/ZEVLocalizedStrings.h>
+#include <ZEVGlobalUtils/Transforms/ZEVGlobalHelper.h>
+
+#include <QDir>
+#include <QLocale>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTest>
+#include <QXmlStreamReader>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A table's texts by their keys.
+QMap<QString, QString> readTable(const QString &path)
+{
+    QFile file(path);
+    QMap<QString, QString> texts;
+    if (!file.open(QFile::ReadOnly))
+        return texts;
+    QXmlStreamReader xml(&file);
+    QString key;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (xml.name() == u"source")
+            key = xml.readElementText();
+        else if (xml.name() == u"translation")
+            texts.insert(key, xml.readElementText());
+    }
+    return texts;
+}
+
+QStringList placeholders(const QString &text)
+{
+    static const QRegularExpression placeholder(u"%(\\d|l?[ud]|@)"_s);
+    QStringList found;
+    for (auto match = placeholder.globalMatch(text); match.hasNext();)
+        found.append(match.next().captured());
+    found.sort();
+    return found;
+}
+
+/// Every text that the library's sources look up, as far as they name it.
+QSet<QString> keysInSources()
+{
+    static const QRegularExpression lookUp(
+        u"(?:localizedString(?:ForKey)?|localized|wildcard)\\(u\"((?:[^\"\\\\]|\\\\.)+)\""_s);
+    QSet<QString> keys;
+    const QDir root(QStringLiteral(ZEV_SOURCE_DIR "/ZEVGlobalUtils"));
+    for (const QFileInfo &room : root.entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        for (const QFileInfo &source : QDir(room.filePath()).entryInfoList({u"*.cpp"_s})) {
+            QFile file(source.filePath());
+            if (!file.open(QFile::ReadOnly))
+                continue;
+            for (auto match = lookUp.globalMatch(QString::fromUtf8(file.readAll())); match.hasNext();)
+                keys.insert(match.next().captured(1));
+        }
+    }
+    return keys;
+}
+
+} // namespace
+
+class tst_Translations : public QObject {
+    Q_OBJECT
+
+private:
+    QDir m_tables{QStringLiteral(ZEV_SOURCE_DIR "/ZEVGlobalUtils/Resources/translations")};
+    QMap<QString, QString> m_english = readTable(m_tables.filePath(u"ZEVGlobalUtils_en.ts"_s));
+
+private Q_SLOTS:
+    void theEnglishTableSaysWhatItsKeysSay()
+    {
+        QVERIFY(m_english.size() > 20);
+        for (auto text = m_english.cbegin(); text != m_english.cend(); ++text)
+            QCOMPARE(text.value(), text.key());
+    }
+
+    void everyTextOfTheSourcesIsInTheTable()
+    {
+        const QSet<QString> keys = keysInSources();
+        QVERIFY(keys.size() > 15);
+        for (const QString &key : keys)
+            QVERIFY2(m_english.contains(key), qPrintable(key));
+    }
+
+    void everyLanguageIsComplete()
+    {
+        const QStringList files = m_tables.entryList({u"*.ts"_s});
+        QVERIFY(files.size() >= 2);
+        for (const QString &file : files) {
+            const QMap<QString, QString> texts = readTable(m_tables.filePath(file));
+            QCOMPARE(texts.keys(), m_english.keys());
+            for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
+                QVERIFY2(!text.value().isEmpty(), qPrintable(file + u": "_s + text.key()));
+                QCOMPARE(placeholders(text.value()), placeholders(text.key()));
+            }
+        }
+    }
+
+    /// The table is chosen once a process, so every language gets one of its own.
+    void theUsersLanguageIsSpoken_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("digits");
+        QTest::newRow("German") << u"de_AT.UTF-8"_s << u"Ziffern"_s;
+        QTest::newRow("English") << u"en_GB.UTF-8"_s << u"Digits"_s;
+        QTest::newRow("none") << u"C"_s << u"Digits"_s;
+        QTest::newRow("one without a table") << u"ja_JP.UTF-8"_s << u"Digits"_s;
+    }
+    void theUsersLanguageIsSpoken()
+    {
+        QFETCH(QString, language);
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.remove(u"LANGUAGE"_s);
+        environment.insert(u"LC_ALL"_s, language);
+        environment.insert(u"ZEV_SAY"_s, u"Digits"_s);
+        process.setProcessEnvironment(environment);
+        process.start(QCoreApplication::applicationFilePath());
+        QVERIFY(process.waitForFinished());
+        QTEST(QString::fromUtf8(process.readAllStandardOutput()), "digits");
+    }
+
+    void aMissingKeyComesBackUnchanged()
+    {
+        const QString key = u"No such text… \U0001F3B5 %1"_s;
+        QCOMPARE(ZEVGlobalHelper::localizedStringForKey(key), key);
+        QCOMPARE(ZEVGlobalHelper::localizedStringForKey(u""), QString());
+    }
+};
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication application(argc, argv);
+    if (const QString key = qEnvironmentVariable("ZEV_SAY"); !key.isEmpty()) {
+        std::fputs(qPrintable(ZEVGlobalHelper::localizedStringForKey(key)), stdout);
+        return 0;
+    }
+    tst_Translations test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_Translations.moc"
