@@ -20,6 +20,13 @@ inline constexpr QLatin1StringView UnitsKey("$utf16be");
 /// Deeper than any honest archive, and far from what a stack holds.
 inline constexpr int MaximumDepth = 64;
 
+/// Of all that CBOR can say, what archives hold.
+inline bool isScalar(const QCborValue &value)
+{
+    return value.isString() || value.isInteger() || value.isBool() || value.isDouble() || value.isByteArray()
+        || value.isDateTime() || value.isUrl() || value.isUuid();
+}
+
 inline QByteArray wrapped(const QCborValue &root)
 {
     return QCborValue(QCborMap{{NameKey, Name}, {RootKey, root}}).toCbor();

@@ -105,7 +105,7 @@ QCborValue ZEVKeyedArchiver::encodedValue(const QVariant &object)
         return encodedEntries(object.toMap());
     default: {
         const QCborValue plain = QCborValue::fromVariant(object);
-        return plain.isContainer() ? QCborValue() : plain;
+        return ZEVArchiveFormat::isScalar(plain) ? plain : QCborValue();
     }
     }
 }

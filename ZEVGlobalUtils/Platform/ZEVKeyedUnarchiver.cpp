@@ -93,8 +93,10 @@ QVariant ZEVKeyedUnarchiver::decodedValue(const QCborValue &value)
         object = decodedMap(value.toMap());
     else if (value.isArray())
         object = decodedElements(value.toArray());
-    else if (!value.isNull() && !value.isUndefined())
+    else if (ZEVArchiveFormat::isScalar(value))
         object = value.toVariant();
+    else if (!value.isNull() && !value.isUndefined())
+        failDecoding();
     --m_depth;
     return object;
 }
@@ -124,7 +126,7 @@ QVariantList ZEVKeyedUnarchiver::decodedElements(const QCborArray &array)
 {
     QVariantList elements;
     elements.reserve(array.size());
-    for (const QCborValue &element : array)
+    for (const auto &element : array)
         elements.append(decodedValue(element));
     return elements;
 }

@@ -8,6 +8,7 @@
 
 #include <QCborArray>
 #include <QRandomGenerator>
+#include <QRegularExpression>
 #include <QTest>
 #include <QUrl>
 
@@ -107,6 +108,7 @@ private Q_SLOTS:
             << archive(object(u"ZEVFindPanelQuery"_s, u"searchPattern"_s,
                               QCborArray{object(u"ZEVPatternItem"_s, u"title"_s, 12)}));
         QTest::newRow("half a code unit") << archive(QCborMap{{u"$utf16be"_s, "abc"_ba}});
+        QTest::newRow("foreign tag") << archive(QCborValue(QCborTag(9), text));
         QTest::newRow("deep") << archive(nested(500));
         QTest::newRow("deeper than the parser goes") << QByteArray(1'000'000, '\x81');
         QTest::newRow("a text of 2^62 bytes") << "\x7B\x40\0\0\0\0\0\0\0abc"_ba;
