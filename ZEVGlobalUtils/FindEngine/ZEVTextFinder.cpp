@@ -7,6 +7,7 @@
 #include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
 #include <ZEVGlobalUtils/Platform/ZEVRegularExpressionMatcher.h>
 
+#include <QMetaMethod>
 #include <QPointer>
 
 ZEVTextFinderClient::~ZEVTextFinderClient() = default;
@@ -33,6 +34,8 @@ public:
     explicit Search(ZEVTextFinder *finder)
         : m_finder(finder)
         , m_number(++finder->m_searchNumber)
+        , m_isObserved(
+              finder->isSignalConnected(QMetaMethod::fromSignal(&ZEVTextFinder::numberOfMatchesChanged)))
     {
     }
 
@@ -48,7 +51,6 @@ public:
             const QString text = m_finder->m_client->stringAtIndex(index, piece);
             if (piece.length <= 0 || !collect(matcher, text, piece.location))
                 break;
-            m_finder->m_limitReached = matcher.limitReached();
             if (piece.length > total - index)
                 break; // a client that claims more than it has
             index += piece.length;
@@ -62,18 +64,25 @@ private:
     bool collect(ZEVRegularExpressionMatcher &matcher, const QString &text, qsizetype offset)
     {
         matcher.setText(text);
-        while (matcher.findNext()) {
-            const ZEVRange match = matcher.matchedRange();
-            m_finder->m_foundMatches.append({offset + match.location, match.length});
-            m_finder->setNumberOfMatches(m_finder->m_foundMatches.size());
-            if (!isCurrent() || !m_finder->m_client)
+        while (const auto match = matcher.findNext()) {
+            ZEVTextFinder *finder = m_finder;
+            finder->m_foundMatches.append({offset + match->location, match->length});
+            finder->m_numberOfMatches = finder->m_foundMatches.size();
+            if (m_isObserved && !announce())
                 return false;
         }
         return true;
     }
 
+    bool announce()
+    {
+        Q_EMIT m_finder->numberOfMatchesChanged();
+        return isCurrent() && m_finder->m_client;
+    }
+
     QPointer<ZEVTextFinder> m_finder;
     quint64 m_number;
+    bool m_isObserved; // a signal for every match costs a tenth of a search even where nobody listens
 };
 
 void ZEVTextFinder::performSearchAgainstExpression(const std::optional<ZEVRegularExpression> &expression)
@@ -86,5 +95,5 @@ void ZEVTextFinder::performSearchAgainstExpression(const std::optional<ZEVRegula
         return;
     search.run(*expression);
     if (search.isCurrent())
-        setNumberOfMatches(m_foundMatches.size());
+        setNumberOfMatches(m_foundMatches.size()); // 0, no longer nil, where nothing was found
 }

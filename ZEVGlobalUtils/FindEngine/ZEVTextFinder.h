@@ -38,7 +38,8 @@ public:
     /// Nil before any search and when nothing was searched; 0 when a search found nothing.
     std::optional<qsizetype> numberOfMatches() const { return m_numberOfMatches; }
 
-    /// The last search left out a part of the text, since its expression took too long or too much stack.
+    /// The last search left out a part of the text, since its expression took too long or too much stack;
+    /// said when the search has ended.
     bool limitReached() const { return m_limitReached; }
 
 Q_SIGNALS:

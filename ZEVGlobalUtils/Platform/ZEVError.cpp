@@ -14,7 +14,7 @@ ZEVError::ZEVError(QStringView domain, qint64 code, const QVariantMap &userInfo)
 
 QString ZEVError::localizedDescription() const
 {
-    const QString described = m_userInfo.value(LocalizedDescriptionKey.toString()).toString();
+    QString described = m_userInfo.value(LocalizedDescriptionKey.toString()).toString();
     if (!described.isEmpty())
         return described;
     return ZEVLocalizedStrings::localizedString(u"The operation couldn’t be completed. (%1 error %2.)")

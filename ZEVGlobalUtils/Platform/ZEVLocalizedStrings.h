@@ -5,7 +5,7 @@
 
 #include <ZEVGlobalUtils/Export.h>
 
-#include <QStringView>
+#include <QString>
 
 /// The library's own texts in the user's language, looked up by their English wording.
 namespace ZEVLocalizedStrings {

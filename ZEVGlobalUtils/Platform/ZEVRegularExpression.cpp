@@ -108,8 +108,8 @@ ZEVRegularExpression::Matches ZEVRegularExpression::matchesInString(QStringView 
     Matches matches;
     ZEVRegularExpressionMatcher matcher(*this);
     matcher.setText(text);
-    while (matcher.findNext())
-        matches.ranges.append(matcher.matchedRange());
+    while (const auto range = matcher.findNext())
+        matches.ranges.append(*range);
     matches.limitReached = matcher.limitReached();
     return matches;
 }
@@ -118,7 +118,7 @@ std::optional<ZEVRange> ZEVRegularExpression::rangeOfFirstMatchInString(QStringV
 {
     ZEVRegularExpressionMatcher matcher(*this);
     matcher.setText(text);
-    return matcher.findNext() ? std::optional(matcher.matchedRange()) : std::nullopt;
+    return matcher.findNext();
 }
 
 void ZEVRegularExpression::setTimeLimit(std::chrono::milliseconds limit) { currentTimeLimit = limit; }

@@ -30,7 +30,7 @@ constexpr qint64 HonestStretch = 65536;
 /// more for every 4 Mi units of it: several times what such a run takes.
 constexpr qint64 UnitsPerExtraLimit = qint64(4) << 20;
 
-/// Reading the clock costs more than a failed attempt at a match, so it is read at every 256th.
+/// Reading the clock costs more than many an attempt at a match, so it is read at every 256th.
 constexpr unsigned AttemptsPerReading = 256;
 
 /// A busy machine must not strike an honest search: only this thread's own time counts.
@@ -41,42 +41,59 @@ nanoseconds threadTime()
     return std::chrono::seconds(now.tv_sec) + nanoseconds(now.tv_nsec);
 }
 
-/// Times the matching of one text. ICU asks it from within a match (every few thousand steps) and after each
-/// failed attempt, so that neither one endless attempt nor endlessly many short ones go unseen.
+/// Possessive and atomic parts run over text without the steps that ICU counts, so that it does not ask from
+/// within a match. That this also sees a few harmless patterns costs them a little speed.
+bool runsUncounted(const QString &pattern)
+{
+    static constexpr QStringView marks[]{u"*+", u"++", u"?+", u"}+", u"(?>"};
+    return std::any_of(std::begin(marks), std::end(marks),
+                       [&pattern](QStringView mark) { return pattern.contains(mark); });
+}
+
+/// Times the matching of one text. ICU asks it from within a match, every few thousand steps; only when those
+/// have taken a while is it asked for the position too, since that question comes at every character and
+/// would double the time of a plain search.
 class Watch {
 public:
-    explicit Watch(nanoseconds limit)
-        : m_limit(limit)
+    Watch(icu::RegexMatcher &matcher, nanoseconds limit, bool alwaysAsksForPosition)
+        : m_matcher(matcher)
+        , m_limit(limit)
+        , m_alwaysAsksForPosition(alwaysAsksForPosition)
     {
+        UErrorCode code = U_ZERO_ERROR;
+        m_matcher.setMatchCallback(goOnWithinMatch, this, code);
+        askForPosition(alwaysAsksForPosition);
     }
 
     void restart(qint64 textLength)
     {
-        m_textLimit = m_limit + m_limit * textLength / UnitsPerExtraLimit;
+        m_textLength = textLength;
         m_running = false;
-        m_stretchBegin = 0;
-        m_attempts = 0;
+        beginStretch(0);
     }
 
     bool mayGoOn()
     {
-        if (m_running)
-            return threadTime() - m_stretchStart < m_textLimit;
-        m_running = true;
-        m_textStart = m_stretchStart = threadTime();
-        return true;
+        const nanoseconds now = threadTime();
+        if (!m_running) {
+            m_running = true;
+            m_textStart = m_stretchStart = now;
+        }
+        const nanoseconds spent = now - m_stretchStart;
+        const nanoseconds limit = m_limit + m_limit * m_textLength / UnitsPerExtraLimit;
+        if (spent >= limit / 2)
+            askForPosition(true);
+        return spent < limit;
     }
 
     bool mayGoOnFrom(qint64 position)
     {
         if (++m_attempts % AttemptsPerReading != 0)
             return true;
-        if (position - m_stretchBegin >= HonestStretch) {
-            m_stretchBegin = position;
-            m_stretchStart = threadTime();
-            return true;
-        }
-        return mayGoOn();
+        if (position - m_stretchBegin < HonestStretch)
+            return mayGoOn();
+        beginStretch(position);
+        return true;
     }
 
     nanoseconds charge() const
@@ -86,22 +103,50 @@ public:
     }
 
 private:
+    static Watch *from(const void *context) { return static_cast<Watch *>(const_cast<void *>(context)); }
+    static UBool goOnWithinMatch(const void *context, int32_t) { return from(context)->mayGoOn(); }
+    static UBool goOnFrom(const void *context, int64_t position)
+    {
+        return from(context)->mayGoOnFrom(position);
+    }
+
+    void beginStretch(qint64 position)
+    {
+        m_stretchBegin = position;
+        if (m_running)
+            m_stretchStart = threadTime();
+        askForPosition(m_alwaysAsksForPosition);
+    }
+
+    /// ICU looks at its callback anew before every call, so it may be changed from within one.
+    void askForPosition(bool ask)
+    {
+        if (ask == m_asksForPosition)
+            return;
+        UErrorCode code = U_ZERO_ERROR;
+        m_matcher.setFindProgressCallback(ask ? goOnFrom : nullptr, this, code);
+        m_asksForPosition = ask;
+    }
+
+    icu::RegexMatcher &m_matcher;
     const nanoseconds m_limit;
-    nanoseconds m_textLimit{};
+    const bool m_alwaysAsksForPosition;
     nanoseconds m_textStart{};
     nanoseconds m_stretchStart{};
+    qint64 m_textLength = 0;
     qint64 m_stretchBegin = 0;
     unsigned m_attempts = 0;
     bool m_running = false;
+    bool m_asksForPosition = false;
 };
 
-Watch *watchIn(const void *context) { return static_cast<Watch *>(const_cast<void *>(context)); }
-
-UBool goOnWithinMatch(const void *context, int32_t) { return watchIn(context)->mayGoOn(); }
-
-UBool goOnAfterAttempt(const void *context, int64_t position)
+std::unique_ptr<icu::RegexMatcher> makeMatcher(const icu::RegexPattern &pattern)
 {
-    return watchIn(context)->mayGoOnFrom(position);
+    UErrorCode code = U_ZERO_ERROR;
+    std::unique_ptr<icu::RegexMatcher> matcher(pattern.matcher(code));
+    if (U_FAILURE(code))
+        throw std::bad_alloc(); // an expression that compiled lacks nothing else
+    return matcher;
 }
 
 } // namespace
@@ -113,34 +158,27 @@ struct ZEVRegularExpressionMatcher::Private {
 
     void strike(UErrorCode code);
 
-    ZEVRegularExpression expression; // keeps alive what the matcher runs
-    std::unique_ptr<icu::RegexMatcher> matcher;
+    const ZEVRegularExpression expression; // keeps alive what the matcher runs
+    const std::unique_ptr<icu::RegexMatcher> matcher;
     UText text = UTEXT_INITIALIZER;
-    Watch watch;
+    std::optional<Watch> watch;
     nanoseconds charged{};
-    bool limited = false;
-    bool textStruck = false;
+    bool textStruck = false; // or never begun, when the walk is exhausted
     bool anyStruck = false;
 };
 
 ZEVRegularExpressionMatcher::Private::Private(const ZEVRegularExpression &usedExpression)
     : expression(usedExpression)
-    , watch(ZEVRegularExpression::timeLimit())
-    , limited(ZEVRegularExpression::timeLimit() > 0ms)
+    , matcher(makeMatcher(*expression.m_compiled->icuPattern))
 {
-    UErrorCode code = U_ZERO_ERROR;
-    matcher.reset(expression.m_compiled->icuPattern->matcher(code));
-    if (limited && U_SUCCESS(code)) {
-        matcher->setMatchCallback(goOnWithinMatch, &watch, code);
-        matcher->setFindProgressCallback(goOnAfterAttempt, &watch, code);
-    }
-    if (U_FAILURE(code))
-        throw std::bad_alloc(); // an expression that compiled lacks nothing else
+    const nanoseconds limit = ZEVRegularExpression::timeLimit();
+    if (limit > 0ns)
+        watch.emplace(*matcher, limit, runsUncounted(expression.pattern()));
 }
 
 void ZEVRegularExpressionMatcher::Private::strike(UErrorCode code)
 {
-    charged += watch.charge();
+    charged += watch ? watch->charge() : 0ns;
     if (!anyStruck)
         qCWarning(zevLog) << "Matching was cut short:" << u_errorName(code) << expression.pattern();
     textStruck = true;
@@ -159,27 +197,28 @@ void ZEVRegularExpressionMatcher::setText(QStringView text)
     UErrorCode code = U_ZERO_ERROR;
     utext_openUChars(&d->text, text.utf16(), text.size(), &code);
     d->matcher->reset(&d->text);
-    d->watch.restart(text.size());
-    d->textStruck = false;
+    if (d->watch)
+        d->watch->restart(text.size());
+    d->textStruck = d->charged >= WalkAllowance;
 }
 
-bool ZEVRegularExpressionMatcher::findNext()
+std::optional<ZEVRange> ZEVRegularExpressionMatcher::findNext()
 {
-    if (d->textStruck || isExhausted())
-        return false;
+    if (d->textStruck)
+        return std::nullopt;
     UErrorCode code = U_ZERO_ERROR;
     const bool found = d->matcher->find(code);
-    if (U_FAILURE(code)) {
+    if (U_FAILURE(code))
         d->strike(code);
-        return false;
-    }
+    if (!found || U_FAILURE(code))
+        return std::nullopt;
+    const qint64 start = d->matcher->start64(0, code);
+    const qint64 end = d->matcher->end64(0, code);
     // Many short matches are as much a way through the text as failed attempts are.
-    if (found && d->limited && !d->watch.mayGoOnFrom(d->matcher->end64(code)))
+    if (d->watch && !d->watch->mayGoOnFrom(end))
         d->strike(U_REGEX_TIME_OUT);
-    return found;
+    return ZEVRange{static_cast<qsizetype>(start), static_cast<qsizetype>(end - start)};
 }
-
-ZEVRange ZEVRegularExpressionMatcher::matchedRange() const { return rangeOfGroup(0).value_or(ZEVRange()); }
 
 std::optional<ZEVRange> ZEVRegularExpressionMatcher::rangeOfGroup(int group) const
 {
@@ -195,4 +234,4 @@ bool ZEVRegularExpressionMatcher::textReachedLimit() const { return d->textStruc
 
 bool ZEVRegularExpressionMatcher::limitReached() const { return d->anyStruck; }
 
-bool ZEVRegularExpressionMatcher::isExhausted() const { return d->limited && d->charged >= WalkAllowance; }
+bool ZEVRegularExpressionMatcher::isExhausted() const { return d->charged >= WalkAllowance; }

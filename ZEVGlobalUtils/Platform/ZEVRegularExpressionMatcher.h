@@ -26,11 +26,10 @@ public:
     /// The characters of \a text must stay where they are until the next setText().
     void setText(QStringView text);
 
-    /// False when the text has no further match, or when a limit has struck.
-    bool findNext();
+    /// Nil when the text has no further match, or when a limit has struck.
+    std::optional<ZEVRange> findNext();
 
-    /// Where the match of the last findNext() lies, or one of its groups; nil for a group that took no part.
-    ZEVRange matchedRange() const;
+    /// Where a group of the last match lies; nil for one that took no part in it.
     std::optional<ZEVRange> rangeOfGroup(int group) const;
 
     /// A limit has struck on this text; on any text since the matcher was made; too often to go on.

@@ -6,6 +6,7 @@
 #include <ZEVGlobalUtils/Export.h>
 
 #include <QByteArrayView>
+#include <QString>
 
 namespace ZEVDataMD5 {
 

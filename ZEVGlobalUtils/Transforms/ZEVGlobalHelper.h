@@ -5,7 +5,7 @@
 
 #include <ZEVGlobalUtils/Export.h>
 
-#include <QStringView>
+#include <QString>
 
 /// Where every user-visible text of the library comes from.
 class ZEV_EXPORT ZEVGlobalHelper {

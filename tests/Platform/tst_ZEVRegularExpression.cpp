@@ -122,6 +122,8 @@ private Q_SLOTS:
         QTest::newRow("many exponential words, each short")
             << u"(a+)+$"_s << (QString(22, u'a') + u"! "_s).repeated(5000) << 0;
         QTest::newRow("quadratic, every attempt honest") << u"a*b"_s << QString(100'000, u'a') << 0;
+        QTest::newRow("quadratic in steps that ICU does not count")
+            << u"[^x]*+x"_s << QString(200'000, u'a') << 0;
         QTest::newRow("four wildcards, nothing fits") << u"^(.*)(.*)(.*)(.*)x$"_s << QString(400, u'a') << 0;
     }
     void runawaysEndWithWhatTheyFound()
