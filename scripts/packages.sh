@@ -1,0 +1,26 @@
+# SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+# SPDX-License-Identifier: MIT
+
+# The packages of Debian 12, and how they come onto the machine. Sourced by the other scripts.
+
+build_packages=(
+    g++ cmake ninja-build ccache pkg-config
+    qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6opengl6-dev libgl1-mesa-dev
+    libicu-dev libtag1-dev
+)
+# Without a display of its own, a machine also lacks the server and the fonts.
+display_packages=(xvfb xauth fonts-dejavu-core fonts-ipafont-gothic)
+check_packages=(clang-format clang-tidy)
+
+install_packages() {
+    local missing=() package
+    for package in "$@"; do
+        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q ' installed$' || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return
+    echo "Installing ${missing[*]}"
+    local as_root=()
+    [ "$(id -u)" -eq 0 ] || as_root=(sudo)
+    "${as_root[@]}" apt-get update -q
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}"
+}
