@@ -1,0 +1,209 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include "MusicLibrary.h"
+
+#include <ZEVGlobalUtils/FindEngine/ZEVPatternItem.h>
+#include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
+#include <ZEVGlobalUtils/FindEngine/ZEVTextFinderClient.h>
+#include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
+#include <ZEVGlobalUtils/Platform/ZEVRegularExpressionMatcher.h>
+
+#include <QRegularExpression>
+
+#include <benchmark/benchmark.h>
+#include <unicode/regex.h>
+
+#include <array>
+#include <chrono>
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Pieces = std::vector<QString>;
+using Clock = std::chrono::steady_clock;
+
+struct Search {
+    QString pattern;
+    bool insensitive;
+};
+
+/// Hands the pieces out in their order, remembering where it is.
+class Client : public ZEVTextFinderClient {
+public:
+    explicit Client(const Pieces &pieces)
+        : m_pieces(pieces)
+    {
+        for (const QString &piece : pieces)
+            m_length += piece.size();
+    }
+
+    qsizetype stringLength() const override { return m_length; }
+
+    QString stringAtIndex(qsizetype index, ZEVRange &effectiveRange) const override
+    {
+        if (index == 0)
+            m_next = 0;
+        const QString &piece = m_pieces.at(m_next++);
+        effectiveRange = {index, piece.size()};
+        return piece;
+    }
+
+private:
+    const Pieces &m_pieces;
+    qsizetype m_length = 0;
+    mutable size_t m_next = 0;
+};
+
+ZEVRegularExpression compiled(const Search &search)
+{
+    return *ZEVRegularExpression::compile(search.pattern,
+                                          search.insensitive ? ZEVRegularExpression::CaseInsensitive
+                                                             : ZEVRegularExpression::NoOptions);
+}
+
+/// The whole way: a client asked for its pieces, every match collected and announced.
+qsizetype countOfFinder(const Search &search, const Pieces &pieces)
+{
+    Client client(pieces);
+    ZEVTextFinder finder;
+    finder.setClient(&client);
+    finder.performSearchAgainstExpression(compiled(search));
+    return finder.limitReached() ? -1 : finder.foundMatches().size();
+}
+
+/// Only the matching and collecting.
+qsizetype countOfMatcher(const Search &search, const Pieces &pieces)
+{
+    ZEVRegularExpressionMatcher matcher(compiled(search));
+    QList<ZEVRange> found;
+    qsizetype offset = 0;
+    for (const QString &piece : pieces) {
+        matcher.setText(piece);
+        while (const auto match = matcher.findNext())
+            found.append({offset + match->location, match->length});
+        offset += piece.size();
+    }
+    return matcher.limitReached() ? -1 : found.size();
+}
+
+/// The bare engine: one matcher for all the pieces, the ranges collected, no limit of time.
+qsizetype countOfIcu(const Search &search, const Pieces &pieces)
+{
+    UErrorCode code = U_ZERO_ERROR;
+    const icu::UnicodeString pattern(false, search.pattern.utf16(), int32_t(search.pattern.size()));
+    icu::RegexMatcher matcher(pattern, search.insensitive ? UREGEX_CASE_INSENSITIVE : 0, code);
+    QList<ZEVRange> found;
+    UText text = UTEXT_INITIALIZER;
+    qsizetype offset = 0;
+    for (const QString &piece : pieces) {
+        utext_openUChars(&text, reinterpret_cast<const UChar *>(piece.utf16()), piece.size(), &code);
+        matcher.reset(&text);
+        while (matcher.find(code)) {
+            const qint64 start = matcher.start64(code);
+            found.append({offset + qsizetype(start), qsizetype(matcher.end64(code) - start)});
+        }
+        offset += piece.size();
+    }
+    utext_close(&text);
+    return U_SUCCESS(code) ? found.size() : -1;
+}
+
+qsizetype countOfQt(const Search &search, const Pieces &pieces)
+{
+    QRegularExpression::PatternOptions options = QRegularExpression::UseUnicodePropertiesOption;
+    options.setFlag(QRegularExpression::CaseInsensitiveOption, search.insensitive);
+    const QRegularExpression expression(search.pattern, options);
+    QList<ZEVRange> found;
+    qsizetype offset = 0;
+    for (const QString &piece : pieces) {
+        for (auto matches = expression.globalMatch(piece); matches.hasNext();) {
+            const auto match = matches.next();
+            found.append({offset + match.capturedStart(), match.capturedLength()});
+        }
+        offset += piece.size();
+    }
+    return found.size();
+}
+
+/// What runs and how: ours, and the peers beside which its time is told.
+struct Runner {
+    const char *name;
+    qsizetype (*count)(const Search &, const Pieces &);
+};
+
+constexpr std::array<Runner, 4> Runners{{
+    {"finder", countOfFinder},
+    {"matcher", countOfMatcher},
+    {"icu", countOfIcu},
+    {"qt", countOfQt},
+}};
+
+/// One turn of each, another one first every time. A ratio above 1 says that the peer takes longer.
+void compare(benchmark::State &state, const Search &search, const Pieces &pieces)
+{
+    static size_t first = 0;
+    for ([[maybe_unused]] auto iteration : state) {
+        std::array<qsizetype, Runners.size()> counts{};
+        std::array<double, Runners.size()> times{};
+        ++first;
+        for (size_t turn = 0; turn < Runners.size(); ++turn) {
+            const size_t runner = (first + turn) % Runners.size();
+            const auto start = Clock::now();
+            counts.at(runner) = Runners.at(runner).count(search, pieces);
+            times.at(runner) = std::chrono::duration<double>(Clock::now() - start).count();
+        }
+        state.SetIterationTime(times[0]);
+        state.counters["matches"] = double(counts[0]);
+        state.counters["qt_matches"] = double(counts[3]);
+        state.counters["icu/finder"] = times[2] / times[0];
+        state.counters["icu/matcher"] = times[2] / times[1];
+        state.counters["qt/finder"] = times[3] / times[0];
+        if (counts[0] != counts[2] || counts[1] != counts[2])
+            return state.SkipWithError("the counts are not those of ICU");
+    }
+}
+
+/// ZEV_BENCH_SCALE shrinks the library for a quick look: 0.01 is a hundredth of it.
+double scale()
+{
+    bool given = false;
+    const double scale = qEnvironmentVariable("ZEV_BENCH_SCALE").toDouble(&given);
+    return given ? scale : 1.0;
+}
+
+void registerSearches(const std::string &library, const Pieces &pieces)
+{
+    const std::pair<const char *, Search> searches[]{
+        {"literal", {u"Strange"_s, false}},
+        {"literal, any case", {u"strange"_s, true}},
+        {"Track (\\d+)", {u"Track (\\d+)"_s, false}},
+        {"\\bword\\b", {u"\\bword\\b"_s, false}},
+        {"(\\w+)", {u"(\\w+)"_s, false}},
+        {"e-mail", {*ZEVPatternItem::email().regexString(), false}},
+        {"web address", {*ZEVPatternItem::webAddress().regexString(), false}},
+    };
+    for (const auto &[name, search] : searches) {
+        benchmark::RegisterBenchmark((library + '/' + name).c_str(), compare, search, std::cref(pieces))
+            ->UseManualTime()
+            ->Iterations(1)
+            ->Repetitions(9)
+            ->ReportAggregatesOnly()
+            ->Unit(benchmark::kMillisecond);
+    }
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const Pieces shortPieces = MusicLibrary::pieces(qsizetype(1'000'000 * scale()));
+    const Pieces oneText{MusicLibrary::text(qsizetype(64'000'000 * scale()))};
+    registerSearches("pieces", shortPieces);
+    registerSearches("text", oneText);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+}
