@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <tageditor/AutomatedRun.h>
+
+#include <tageditor/FindLine.h>
+#include <tageditor/MainWindow.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QScreen>
+#include <QWindow>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A match is one line, whatever stands in it.
+QString onOneLine(QString text)
+{
+    return text.replace(u'\\', u"\\\\"_s)
+        .replace(u'\n', u"\\n"_s)
+        .replace(u'\t', u"\\t"_s)
+        .replace(u'\r', u"\\r"_s);
+}
+
+QString reportLine(const MainWindow &window, const TrackFinderClient::Place &place)
+{
+    const Track &track = window.tracks().track(place.row);
+    const QString file = QDir(window.folder()).relativeFilePath(displayedPath(track.path));
+    const QString range = u"{%1, %2}"_s.arg(place.range.location).arg(place.range.length);
+    const QString found = track.text(place.field).sliced(place.range.location, place.range.length);
+    return QStringList{onOneLine(file), TrackTableModel::titleForField(place.field), range, onOneLine(found)}
+               .join(u'\t')
+        + u'\n';
+}
+
+} // namespace
+
+AutomatedRun::AutomatedRun(MainWindow *window, const CommandLine &commandLine)
+    : QObject(window)
+    , m_window(window)
+    , m_commandLine(commandLine)
+{
+    window->winId(); // from here on there is a window to watch
+    window->windowHandle()->installEventFilter(this);
+    connect(window, &MainWindow::folderRead, this, [this](const QString &failure) {
+        m_isRead = true;
+        m_hasFailed = !failure.isEmpty();
+        performWhenReady();
+    });
+}
+
+bool AutomatedRun::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Expose && m_window->windowHandle()->isExposed()) {
+        m_isExposed = true;
+        // The window answers the event first, and paints.
+        QMetaObject::invokeMethod(this, &AutomatedRun::performWhenReady, Qt::QueuedConnection);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void AutomatedRun::performWhenReady()
+{
+    if (!m_isRead || !m_isExposed || m_isDone)
+        return;
+    m_isDone = true;
+    perform();
+}
+
+void AutomatedRun::perform()
+{
+    m_window->search().searchIfPending();
+    if (m_commandLine.writesReport)
+        std::fputs(report(*m_window).toUtf8().constData(), stdout);
+    std::fflush(stdout);
+    if (!m_commandLine.screenshotFile.isEmpty() && !saveScreenshot()) {
+        std::fprintf(stderr, "%s\n", qPrintable(tr("The screenshot could not be saved.")));
+        m_hasFailed = true;
+    }
+    if (m_commandLine.quits)
+        QCoreApplication::exit(m_hasFailed ? 1 : 0);
+}
+
+QString AutomatedRun::report(MainWindow &window)
+{
+    const qsizetype count = window.search().numberOfMatches().value_or(0);
+    QString report;
+    for (qsizetype n = 0; n < count; ++n)
+        report += reportLine(window, window.search().match(n));
+    return report + u"%1 matches\n"_s.arg(count);
+}
+
+/// Drawing is done now rather than later, and the grab comes behind it in the order of the connection.
+bool AutomatedRun::saveScreenshot()
+{
+    m_window->repaint();
+    const QPixmap picture = m_window->screen()->grabWindow(m_window->winId());
+    return !picture.isNull() && picture.save(m_commandLine.screenshotFile, "PNG");
+}

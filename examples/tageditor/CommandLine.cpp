@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <tageditor/CommandLine.h>
+
+#include <ZEVGlobalUtils/FindEngine/ZEVFindPanelQuery.h>
+
+#include <QCommandLineParser>
+#include <QDir>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString text(const char *wording) { return QCoreApplication::translate("CommandLine", wording); }
+
+/// Beside the installed binary, else where the sources are.
+QString sampleFolder()
+{
+    const QDir installed(QCoreApplication::applicationDirPath() + u"/../share/tageditor/sample"_s);
+    return installed.exists() ? installed.canonicalPath() : QStringLiteral(TAGEDITOR_SAMPLE);
+}
+
+void describe(QCommandLineParser &parser)
+{
+    parser.setApplicationDescription(text("Shows the tags of the audio files in a folder."));
+    parser.addHelpOption();
+    parser.addPositionalArgument(text("FOLDER"), text("The folder to open; else the sample."), u"[FOLDER]"_s);
+    parser.addOptions({
+        {u"find"_s, text("Find PATTERN."), text("PATTERN")},
+        {u"matching-type"_s, text("How to match, from 0 (contains) to 5."), u"N"_s, u"0"_s},
+        {u"case-sensitive"_s, text("Tell upper case from lower case.")},
+        {u"report"_s, text("Write the matches to the standard output.")},
+        {u"screenshot"_s, text("Save a picture of the window as PNG in FILE."), text("FILE")},
+        {u"quit"_s, text("Leave once all that is done.")},
+        {u"dark"_s, text("Draw light on dark.")},
+    });
+}
+
+qint64 matchingType(const QCommandLineParser &parser)
+{
+    bool isNumber = false;
+    const qint64 type = parser.value(u"matching-type"_s).toLongLong(&isNumber);
+    if (isNumber && ZEVFindPanelQuery::titleForMatchingType(type))
+        return type;
+    std::fprintf(stderr, "%s\n", qPrintable(text("--matching-type takes a number from 0 to 5.")));
+    std::exit(2);
+}
+
+} // namespace
+
+CommandLine CommandLine::parsed(const QCoreApplication &application)
+{
+    QCommandLineParser parser;
+    describe(parser);
+    parser.process(application);
+    return {
+        .folder = parser.positionalArguments().value(0, sampleFolder()),
+        .findText = parser.value(u"find"_s),
+        .matchingType = ::matchingType(parser),
+        .isCaseSensitive = parser.isSet(u"case-sensitive"_s),
+        .writesReport = parser.isSet(u"report"_s),
+        .quits = parser.isSet(u"quit"_s),
+        .isDark = parser.isSet(u"dark"_s),
+        .screenshotFile = parser.value(u"screenshot"_s),
+    };
+}

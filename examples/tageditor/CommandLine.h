@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+
+class QCoreApplication;
+
+/// What the application is asked for when it is started.
+struct CommandLine {
+    QString folder;
+    QString findText;
+    qint64 matchingType = 0;
+    bool isCaseSensitive = false;
+    bool writesReport = false;
+    bool quits = false;
+    bool isDark = false;
+    QString screenshotFile;
+
+    /// Leaves the process with a message where the arguments cannot be understood or ask for help.
+    static CommandLine parsed(const QCoreApplication &application);
+};

@@ -1,0 +1,210 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <tageditor/FindLine.h>
+
+#include <tageditor/MatchColors.h>
+#include <tageditor/PatternString.h>
+#include <tageditor/TrackSearch.h>
+
+#include <ZEVGlobalUtils/FindEngine/ZEVPatternItem.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QToolButton>
+
+namespace {
+
+/// A search may report a hundred thousand matches; the count is drawn about every so many milliseconds.
+constexpr qint64 CountInterval = 50;
+
+} // namespace
+
+FindLine::FindLine(TrackSearch *search, QWidget *parent)
+    : QWidget(parent)
+    , m_search(search)
+    , m_pattern(new QLineEdit(this))
+    , m_matchingType(new QComboBox(this))
+    , m_caseSensitive(new QCheckBox(tr("Case &Sensitive"), this))
+    , m_message(new QLabel(this))
+{
+    m_pattern->setPlaceholderText(tr("Find in all tracks"));
+    m_pattern->setAccessibleName(tr("Find"));
+    m_pattern->setClearButtonEnabled(true);
+    m_pattern->installEventFilter(this);
+    m_matchingType->setAccessibleName(tr("Matching Type"));
+    m_matchingType->setToolTip(tr("How a cell must match the pattern"));
+    fillMatchingTypes();
+    layOut();
+    watchSearch();
+    showResult();
+    setFocusProxy(m_pattern);
+}
+
+void FindLine::fillMatchingTypes()
+{
+    for (qint64 type = 0; const auto title = ZEVFindPanelQuery::titleForMatchingType(type); ++type)
+        m_matchingType->addItem(*title, type);
+}
+
+void FindLine::layOut()
+{
+    auto *controls = new QHBoxLayout;
+    controls->addWidget(m_pattern, 1);
+    controls->addWidget(makeTokenButton());
+    controls->addWidget(m_matchingType);
+    controls->addWidget(m_caseSensitive);
+    controls->addWidget(makeStepButton(Qt::LeftArrow, tr("Previous Match"), TrackSearch::Backward));
+    controls->addWidget(makeStepButton(Qt::RightArrow, tr("Next Match"), TrackSearch::Forward));
+
+    // The message has a row of its own, always: what stands in it never moves the table.
+    m_message->setTextFormat(Qt::PlainText); // expressions stand in it
+    m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    auto *rows = new QVBoxLayout(this);
+    rows->addLayout(controls);
+    rows->addWidget(m_message);
+    rows->setSpacing(rows->spacing() / 2);
+}
+
+QWidget *FindLine::makeTokenButton()
+{
+    auto *menu = new QMenu(this);
+    for (const ZEVPatternItem &item : PatternString::vocabulary()) {
+        QAction *action = menu->addAction(item.title().value_or(QString()));
+        connect(action, &QAction::triggered, this, [this, item] { insertToken(item); });
+    }
+    auto *button = new QToolButton(this);
+    button->setText(tr("Insert Token"));
+    button->setToolTip(tr("Insert a token that stands for a kind of text"));
+    button->setPopupMode(QToolButton::InstantPopup);
+    button->setFocusPolicy(Qt::StrongFocus);
+    button->setMenu(menu);
+    return button;
+}
+
+QWidget *FindLine::makeStepButton(Qt::ArrowType arrow, const QString &name, int direction)
+{
+    auto *button = new QToolButton(this);
+    button->setArrowType(arrow);
+    button->setAccessibleName(name);
+    button->setToolTip(name);
+    button->setFocusPolicy(Qt::StrongFocus);
+    connect(button, &QToolButton::clicked, m_search,
+            [this, direction] { m_search->step(TrackSearch::Direction(direction)); });
+    return button;
+}
+
+void FindLine::watchSearch()
+{
+    connect(m_pattern, &QLineEdit::textChanged, this, &FindLine::submitQuery);
+    connect(m_matchingType, &QComboBox::currentIndexChanged, this, &FindLine::submitQuery);
+    connect(m_caseSensitive, &QCheckBox::toggled, this, &FindLine::submitQuery);
+    connect(m_search, &TrackSearch::countChanged, this, &FindLine::showGrowingCount);
+    connect(m_search, &TrackSearch::searched, this, &FindLine::showResult);
+    connect(m_search, &TrackSearch::currentMatchChanged, this, &FindLine::showResult);
+}
+
+void FindLine::setPatternText(const QString &text) { m_pattern->setText(text); }
+
+void FindLine::setMatchingType(qint64 matchingType)
+{
+    m_matchingType->setCurrentIndex(m_matchingType->findData(matchingType));
+}
+
+void FindLine::setCaseSensitive(bool sensitive) { m_caseSensitive->setChecked(sensitive); }
+
+void FindLine::beginEditing()
+{
+    m_pattern->setFocus(Qt::ShortcutFocusReason);
+    m_pattern->selectAll();
+}
+
+bool FindLine::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_pattern && event->type() == QEvent::KeyPress) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
+            const bool backward = key->modifiers().testFlag(Qt::ShiftModifier);
+            m_search->step(backward ? TrackSearch::Backward : TrackSearch::Forward);
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void FindLine::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        showResult();
+    QWidget::changeEvent(event);
+}
+
+void FindLine::insertToken(const ZEVPatternItem &item)
+{
+    m_pattern->insert(PatternString::textForItem(item));
+    m_pattern->setFocus();
+}
+
+void FindLine::submitQuery()
+{
+    ZEVFindPanelQuery query;
+    query.setSearchPattern(PatternString::patternFromText(m_pattern->text()));
+    query.setMatchingType(m_matchingType->currentData().toLongLong());
+    query.setCaseInsensitiveSearch(!m_caseSensitive->isChecked());
+    m_search->setQuery(query);
+}
+
+/// The search keeps the main thread, so the count is drawn at once. The first match only starts the clock:
+/// most searches are done before it strikes, and their result does not flicker.
+void FindLine::showGrowingCount()
+{
+    if (m_search->numberOfMatches().value_or(0) <= 1) {
+        m_sinceShown.start();
+    } else if (m_sinceShown.hasExpired(CountInterval)) {
+        m_sinceShown.start();
+        setMessage(countText(), false);
+        m_message->repaint();
+    }
+}
+
+void FindLine::showResult() { setMessage(resultText(), !m_search->error().isEmpty()); }
+
+QString FindLine::resultText() const
+{
+    if (!m_search->error().isEmpty())
+        return m_search->error();
+    if (!m_search->numberOfMatches())
+        return {};
+    const QString text = m_search->currentMatch() < 0
+        ? countText()
+        : tr("Match %L1 of %L2").arg(m_search->currentMatch() + 1).arg(*m_search->numberOfMatches());
+    return m_search->isCutShort() ? tr("%1 (cut short)").arg(text) : text;
+}
+
+QString FindLine::countText() const
+{
+    switch (const qsizetype count = m_search->numberOfMatches().value_or(0)) {
+    case 0:
+        return tr("No matches");
+    case 1:
+        return tr("1 match");
+    default:
+        return tr("%L1 matches").arg(count);
+    }
+}
+
+void FindLine::setMessage(const QString &text, bool isError)
+{
+    QPalette colors = palette();
+    if (isError)
+        colors.setColor(QPalette::WindowText, MatchColors::errorText(colors));
+    m_message->setPalette(colors);
+    m_message->setText(text);
+    m_message->setToolTip(isError ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : QString());
+    m_pattern->setAccessibleDescription(text);
+}

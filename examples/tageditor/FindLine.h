@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QElapsedTimer>
+#include <QWidget>
+
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class TrackSearch;
+class ZEVPatternItem;
+
+/// Where the user says what to find: a line for the pattern, how it matches, and steps through the matches.
+class FindLine : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit FindLine(TrackSearch *search, QWidget *parent = nullptr);
+
+    void setPatternText(const QString &text);
+    void setMatchingType(qint64 matchingType);
+    void setCaseSensitive(bool sensitive);
+
+    /// Puts the cursor into the line and selects what stands there.
+    void beginEditing();
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    QWidget *makeTokenButton();
+    QWidget *makeStepButton(Qt::ArrowType arrow, const QString &name, int direction);
+    void fillMatchingTypes();
+    void layOut();
+    void watchSearch();
+
+    void insertToken(const ZEVPatternItem &item);
+    void submitQuery();
+    void showGrowingCount();
+    void showResult();
+    QString resultText() const;
+    QString countText() const;
+    void setMessage(const QString &text, bool isError);
+
+    TrackSearch *m_search;
+    QLineEdit *m_pattern;
+    QComboBox *m_matchingType;
+    QCheckBox *m_caseSensitive;
+    QLabel *m_message;
+    QElapsedTimer m_sinceShown;
+};

@@ -1,0 +1,222 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <tageditor/MainWindow.h>
+
+#include <tageditor/FindLine.h>
+#include <tageditor/MatchColors.h>
+#include <tageditor/MatchHighlightDelegate.h>
+
+#include <ZEVGlobalUtils/Platform/ZEVUserDefaults.h>
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMenuBar>
+#include <QProgressBar>
+#include <QStatusBar>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString GeometryKey = u"MainWindowGeometry"_s;
+
+/// The widths of columns in average characters: what one begins with, and what its contents may make of it.
+constexpr std::array<int, TrackFieldCount> FirstWidths{24, 24, 22, 20, 8, 8, 14, 30};
+constexpr int NarrowestColumn = 6;
+constexpr int WidestColumn = 36;
+
+} // namespace
+
+MainWindow::MainWindow(QWidget *parent)
+    : QMainWindow(parent)
+    , m_search(&m_model)
+    , m_findLine(new FindLine(&m_search))
+    , m_table(new QTableView)
+    , m_counts(new QLabel)
+    , m_problem(new QLabel)
+    , m_progress(new QProgressBar)
+{
+    auto *content = new QWidget;
+    auto *rows = new QVBoxLayout(content);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    rows->addWidget(m_findLine);
+    rows->addWidget(m_table, 1);
+    setCentralWidget(content);
+    makeMenus();
+    setUpTable();
+    setUpStatusBar();
+    watchReader();
+    restoreGeometryFromDefaults();
+    m_table->setFocus();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::makeMenus()
+{
+    QMenu *file = menuBar()->addMenu(tr("&File"));
+    file->addAction(tr("&Open Folder…"), QKeySequence(u"Ctrl+O"_s), this, &MainWindow::chooseFolder);
+    file->addSeparator();
+    file->addAction(tr("&Quit"), QKeySequence(u"Ctrl+Q"_s), this, &QWidget::close);
+
+    QMenu *edit = menuBar()->addMenu(tr("&Edit"));
+    edit->addAction(tr("&Find"), QKeySequence(u"Ctrl+F"_s), m_findLine, &FindLine::beginEditing);
+    edit->addAction(tr("Find &Next"), this, [this] { m_search.step(TrackSearch::Forward); })
+        ->setShortcuts({QKeySequence(u"F3"_s), QKeySequence(u"Ctrl+G"_s)});
+    edit->addAction(tr("Find &Previous"), this, [this] { m_search.step(TrackSearch::Backward); })
+        ->setShortcuts({QKeySequence(u"Shift+F3"_s), QKeySequence(u"Ctrl+Shift+G"_s)});
+}
+
+void MainWindow::setUpTable()
+{
+    m_table->setAccessibleName(tr("Tracks"));
+    m_table->setModel(&m_model);
+    m_table->setItemDelegate(new MatchHighlightDelegate(&m_search, m_table));
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setAlternatingRowColors(true);
+    m_table->setShowGrid(false);
+    m_table->setWordWrap(false);
+    m_table->setTabKeyNavigation(false); // so that Tab leaves the table
+    m_table->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_table->setFrameShape(QFrame::NoFrame);
+    m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() * 3 / 2);
+    m_table->horizontalHeader()->setStretchLastSection(true);
+    m_table->horizontalHeader()->setHighlightSections(false);
+    for (int column = 0; column < TrackFieldCount; ++column)
+        m_table->setColumnWidth(column,
+                                FirstWidths.at(size_t(column)) * m_table->fontMetrics().averageCharWidth());
+    connect(&m_search, &TrackSearch::searched, m_table->viewport(), qOverload<>(&QWidget::update));
+    connect(&m_search, &TrackSearch::currentMatchChanged, this, &MainWindow::showCurrentMatch);
+}
+
+void MainWindow::setUpStatusBar()
+{
+    m_problem->setTextFormat(Qt::PlainText); // names of folders stand in it
+    m_problem->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_progress->setAccessibleName(tr("Reading progress"));
+    m_progress->setMaximumWidth(m_progress->fontMetrics().averageCharWidth() * 30);
+    m_progress->hide();
+    statusBar()->addWidget(m_counts);
+    statusBar()->addWidget(m_problem, 1);
+    statusBar()->addPermanentWidget(m_progress);
+}
+
+void MainWindow::watchReader()
+{
+    connect(&m_reader, &FolderReader::tracksRead, &m_model, &TrackTableModel::append);
+    connect(&m_reader, &FolderReader::progressed, this, &MainWindow::showProgress);
+    connect(&m_reader, &FolderReader::finished, this, &MainWindow::finishReading);
+    connect(&m_reader, &FolderReader::folderSkipped, this,
+            [this](const QString &folder, const QString &reason) {
+                m_problems.append(tr("%1: %2").arg(folder, reason));
+                setProblem(tr("Not read: %1").arg(m_problems.join(u"; ")));
+            });
+}
+
+void MainWindow::openFolder(const QString &folder)
+{
+    m_folder = QDir::cleanPath(QDir(folder).absolutePath());
+    setWindowTitle(QDir(m_folder).dirName());
+    m_problems.clear();
+    setProblem({});
+    m_model.clear();
+    m_progress->show();
+    m_reader.readFolder(m_folder);
+}
+
+void MainWindow::chooseFolder()
+{
+    const QString folder = QFileDialog::getExistingDirectory(this, tr("Open Folder"), m_folder);
+    if (!folder.isEmpty())
+        openFolder(folder);
+}
+
+void MainWindow::showProgress(qsizetype read, qsizetype total)
+{
+    m_progress->setRange(0, int(total)); // the bar of an empty range tells that it is not known yet
+    m_progress->setValue(int(read));
+    showCounts();
+}
+
+void MainWindow::finishReading(const QString &failure)
+{
+    m_progress->hide();
+    m_search.searchIfPending();
+    showCounts();
+    fitColumns();
+    if (!failure.isEmpty())
+        setProblem(
+            tr("The folder “%1” could not be read: %2").arg(QDir::toNativeSeparators(m_folder), failure));
+    Q_EMIT folderRead(failure);
+}
+
+void MainWindow::showCurrentMatch()
+{
+    const auto place = m_search.match(m_search.currentMatch());
+    const QModelIndex index = m_model.index(place.row, int(place.field));
+    m_table->setCurrentIndex(index);
+    m_table->scrollTo(index);
+    m_table->viewport()->update();
+}
+
+void MainWindow::showCounts()
+{
+    const int count = m_model.rowCount();
+    QString text = count == 1 ? tr("1 track") : tr("%L1 tracks").arg(count);
+    if (m_model.numberOfUnreadable() > 0)
+        text = tr("%1, %L2 unreadable").arg(text).arg(m_model.numberOfUnreadable());
+    m_counts->setText(text);
+}
+
+void MainWindow::setProblem(const QString &problem)
+{
+    QPalette colors = palette();
+    colors.setColor(QPalette::WindowText, MatchColors::errorText(colors));
+    m_problem->setPalette(colors);
+    m_problem->setText(problem);
+    m_problem->setToolTip(Qt::convertFromPlainText(problem, Qt::WhiteSpaceNormal));
+}
+
+void MainWindow::fitColumns()
+{
+    const int character = m_table->fontMetrics().averageCharWidth();
+    m_table->resizeColumnsToContents();
+    for (int column = 0; column < TrackFieldCount - 1; ++column) {
+        const int width = m_table->columnWidth(column);
+        m_table->setColumnWidth(column,
+                                std::clamp(width, NarrowestColumn * character, WidestColumn * character));
+    }
+}
+
+void MainWindow::restoreGeometryFromDefaults()
+{
+    const QVariant geometry = ZEVUserDefaults::standardUserDefaults()->objectForKey(GeometryKey);
+    if (!restoreGeometry(geometry.toByteArray()))
+        resize(fontMetrics().averageCharWidth() * 170, fontMetrics().height() * 32);
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    m_reader.cancel();
+    ZEVUserDefaults::standardUserDefaults()->setObject(saveGeometry(), GeometryKey);
+    QMainWindow::closeEvent(event);
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange && m_problem)
+        setProblem(m_problem->text());
+    QMainWindow::changeEvent(event);
+}

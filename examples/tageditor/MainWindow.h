@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <tageditor/FolderReader.h>
+#include <tageditor/TrackSearch.h>
+#include <tageditor/TrackTableModel.h>
+
+#include <QMainWindow>
+
+class FindLine;
+class QLabel;
+class QProgressBar;
+class QTableView;
+
+/// The tracks of one folder in a table, with a line to find text in them.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+    void openFolder(const QString &folder);
+
+    const QString &folder() const { return m_folder; }
+    const TrackTableModel &tracks() const { return m_model; }
+    TrackSearch &search() { return m_search; }
+    FindLine &findLine() { return *m_findLine; }
+    QTableView &table() { return *m_table; }
+
+Q_SIGNALS:
+    /// The folder was read and searched; with a \a failure, it could not be.
+    void folderRead(const QString &failure);
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void makeMenus();
+    void setUpTable();
+    void setUpStatusBar();
+    void watchReader();
+
+    void chooseFolder();
+    void showProgress(qsizetype read, qsizetype total);
+    void finishReading(const QString &failure);
+    void showCurrentMatch();
+    void showCounts();
+    void setProblem(const QString &problem);
+    void fitColumns();
+    void restoreGeometryFromDefaults();
+
+    QString m_folder;
+    QStringList m_problems; ///< what could not be listed, for the status bar
+    TrackTableModel m_model;
+    TrackSearch m_search;
+    FolderReader m_reader;
+    FindLine *m_findLine;
+    QTableView *m_table;
+    QLabel *m_counts;
+    QLabel *m_problem;
+    QProgressBar *m_progress;
+};

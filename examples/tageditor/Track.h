@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QList>
+#include <QString>
+
+#include <array>
+#include <filesystem>
+
+/// The fields of a track, in the order of the table's columns.
+enum class TrackField : int { FileName, Title, Artist, Album, Year, Number, Genre, Comment };
+
+inline constexpr int TrackFieldCount = 8;
+
+/// One audio file as it was read.
+struct Track {
+    std::filesystem::path path; ///< the file system's own bytes, which need not be UTF-8
+    std::array<QString, TrackFieldCount> fields; ///< empty where the file says nothing
+    QString error; ///< why the tags could not be read; empty when they were
+
+    const QString &text(TrackField field) const { return fields.at(size_t(field)); }
+    QString &text(TrackField field) { return fields.at(size_t(field)); }
+    bool isReadable() const { return error.isEmpty(); }
+};
+
+/// A file's name or path for people: what is no UTF-8 in it shows as U+FFFD.
+QString displayedPath(const std::filesystem::path &path);

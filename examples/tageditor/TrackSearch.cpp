@@ -1,0 +1,159 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <tageditor/TrackSearch.h>
+
+#include <tageditor/TrackTableModel.h>
+
+#include <ZEVGlobalUtils/Platform/ZEVError.h>
+#include <ZEVGlobalUtils/Platform/ZEVErrorPresentation.h>
+
+#include <QElapsedTimer>
+
+#include <algorithm>
+
+namespace {
+
+/// While tracks come in, a search is run again after this many milliseconds, or after this many times what
+/// the last one took: the larger pause of the two keeps the window free for its user.
+constexpr qint64 ShortestPause = 250;
+constexpr qint64 PauseFactor = 4;
+
+/// While this lives, errors that are meant for the user end up in a text instead of an alert.
+class ErrorCatcher {
+public:
+    explicit ErrorCatcher(QString &text)
+        : m_previous(ZEVErrorPresentation::setPresenter(
+            [&text](const ZEVError &error) { text = error.localizedDescription(); }))
+    {
+    }
+    ~ErrorCatcher() { ZEVErrorPresentation::setPresenter(m_previous); }
+    Q_DISABLE_COPY_MOVE(ErrorCatcher)
+
+private:
+    ZEVErrorPresentation::Presenter m_previous;
+};
+
+} // namespace
+
+TrackSearch::TrackSearch(TrackTableModel *model, QObject *parent)
+    : QObject(parent)
+    , m_client(*model)
+{
+    m_finder.setClient(&m_client);
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, &TrackSearch::search);
+    connect(&m_finder, &ZEVTextFinder::numberOfMatchesChanged, this, &TrackSearch::countChanged);
+    connect(model, &TrackTableModel::rowsInserted, this, &TrackSearch::tracksAdded);
+    connect(model, &TrackTableModel::modelReset, this, &TrackSearch::tracksReplaced);
+}
+
+TrackSearch::~TrackSearch() = default;
+
+void TrackSearch::setQuery(const ZEVFindPanelQuery &query)
+{
+    m_query = query;
+    m_queryChanged = true;
+    m_timer.start(0);
+}
+
+void TrackSearch::searchIfPending()
+{
+    if (m_timer.isActive())
+        search();
+}
+
+void TrackSearch::tracksAdded()
+{
+    m_client.takeInNewRows();
+    if (m_expression && !m_timer.isActive())
+        m_timer.start(int(std::max(ShortestPause, PauseFactor * m_searchDuration)));
+}
+
+void TrackSearch::tracksReplaced()
+{
+    m_client.startOver();
+    m_lastLocation = 0;
+    search(); // at once, since the old matches lie in text that is gone
+}
+
+void TrackSearch::search()
+{
+    m_timer.stop();
+    const auto current = m_currentMatch < 0 || m_queryChanged
+        ? std::nullopt
+        : std::optional(m_finder.foundMatches().at(m_currentMatch));
+    if (m_queryChanged)
+        compileExpression();
+    m_currentMatch = -1;
+    QElapsedTimer elapsed;
+    elapsed.start();
+    m_finder.performSearchAgainstExpression(m_expression);
+    m_searchDuration = elapsed.elapsed();
+    restoreCurrentMatch(current);
+    Q_EMIT searched();
+}
+
+void TrackSearch::compileExpression()
+{
+    m_queryChanged = false;
+    m_error.clear();
+    const ErrorCatcher catcher(m_error);
+    m_expression = m_query.searchExpression();
+}
+
+void TrackSearch::restoreCurrentMatch(const std::optional<ZEVRange> &range)
+{
+    if (!range)
+        return;
+    const qsizetype number = firstMatchAt(range->location);
+    const QList<ZEVRange> &matches = m_finder.foundMatches();
+    if (number < matches.size() && matches.at(number) == *range)
+        m_currentMatch = number;
+}
+
+TrackFinderClient::Place TrackSearch::match(qsizetype number) const
+{
+    return m_client.placeOfRange(m_finder.foundMatches().at(number));
+}
+
+TrackSearch::CellMatches TrackSearch::matchesInCell(int row, TrackField field) const
+{
+    CellMatches result;
+    const ZEVRange cell = m_client.rangeOfCell(row, field);
+    const qsizetype first = firstMatchAt(cell.location);
+    const qsizetype end = firstMatchAt(cell.end());
+    for (qsizetype n = first; n < end; ++n) {
+        const ZEVRange &range = m_finder.foundMatches().at(n);
+        result.ranges.append({range.location - cell.location, range.length});
+    }
+    if (m_currentMatch >= first && m_currentMatch < end)
+        result.current = m_currentMatch - first;
+    return result;
+}
+
+qsizetype TrackSearch::firstMatchAt(qsizetype location) const
+{
+    const QList<ZEVRange> &matches = m_finder.foundMatches();
+    return std::ranges::lower_bound(matches, location, {}, &ZEVRange::location) - matches.begin();
+}
+
+void TrackSearch::step(Direction direction)
+{
+    if (m_queryChanged)
+        search();
+    const qsizetype count = m_finder.foundMatches().size();
+    if (count == 0)
+        return;
+    qsizetype next = m_currentMatch + direction;
+    if (m_currentMatch < 0)
+        next = firstMatchAt(m_lastLocation) - (direction == Backward ? 1 : 0);
+    setCurrentMatch((next + count) % count);
+}
+
+void TrackSearch::setCurrentMatch(qsizetype number)
+{
+    m_currentMatch = number;
+    m_lastLocation = m_finder.foundMatches().at(number).location;
+    Q_EMIT currentMatchChanged();
+}

@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <tageditor/TrackTableModel.h>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The reason stands where the title would be.
+QString shownText(const Track &track, TrackField field)
+{
+    return field == TrackField::Title && !track.isReadable() ? track.error : track.text(field);
+}
+
+QString toolTip(const Track &track, TrackField field)
+{
+    const QString path = displayedPath(track.path);
+    if (!track.isReadable())
+        return path + u'\n' + track.error;
+    return field == TrackField::FileName ? path : track.text(field);
+}
+
+/// Tool tips guess at rich text, and what stands in a file's name or tags must never be taken for that.
+QString plainToolTip(const QString &text)
+{
+    return text.isEmpty() ? QString() : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
+}
+
+Qt::Alignment alignment(TrackField field)
+{
+    const bool isNumber = field == TrackField::Year || field == TrackField::Number;
+    return Qt::AlignVCenter | (isNumber ? Qt::AlignRight : Qt::AlignLeft);
+}
+
+} // namespace
+
+void TrackTableModel::append(const QList<Track> &tracks)
+{
+    if (tracks.isEmpty())
+        return;
+    const int first = rowCount();
+    beginInsertRows({}, first, first + int(tracks.size()) - 1);
+    m_tracks += tracks;
+    m_numberOfUnreadable += int(std::ranges::count(tracks, false, &Track::isReadable));
+    endInsertRows();
+}
+
+void TrackTableModel::clear()
+{
+    beginResetModel();
+    m_tracks.clear();
+    m_numberOfUnreadable = 0;
+    endResetModel();
+}
+
+QString TrackTableModel::titleForField(TrackField field)
+{
+    switch (field) {
+    case TrackField::FileName:
+        return tr("File Name");
+    case TrackField::Title:
+        return tr("Title");
+    case TrackField::Artist:
+        return tr("Artist");
+    case TrackField::Album:
+        return tr("Album");
+    case TrackField::Year:
+        return tr("Year");
+    case TrackField::Number:
+        return tr("Track");
+    case TrackField::Genre:
+        return tr("Genre");
+    case TrackField::Comment:
+        return tr("Comment");
+    }
+    return {};
+}
+
+int TrackTableModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(m_tracks.size());
+}
+
+int TrackTableModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : TrackFieldCount;
+}
+
+QVariant TrackTableModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const Track &track = m_tracks.at(index.row());
+    const TrackField field{index.column()};
+    switch (role) {
+    case Qt::DisplayRole:
+        return shownText(track, field);
+    case Qt::ToolTipRole:
+        return plainToolTip(toolTip(track, field));
+    case Qt::TextAlignmentRole:
+        return QVariant(alignment(field));
+    case IsUnreadableRole:
+        return !track.isReadable();
+    default:
+        return {};
+    }
+}
+
+QVariant TrackTableModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal)
+        return QAbstractTableModel::headerData(section, orientation, role);
+    const TrackField field{section};
+    if (role == Qt::TextAlignmentRole)
+        return QVariant(alignment(field));
+    return role == Qt::DisplayRole ? titleForField(field) : QVariant();
+}

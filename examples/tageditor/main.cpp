@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <tageditor/AutomatedRun.h>
+#include <tageditor/DarkPalette.h>
+#include <tageditor/FindLine.h>
+#include <tageditor/MainWindow.h>
+
+#include <QApplication>
+#include <QStyleFactory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void describe(QApplication &application)
+{
+    application.setOrganizationName(u"zevglobalutils"_s);
+    application.setApplicationName(u"tageditor"_s);
+    application.setApplicationDisplayName(QCoreApplication::translate("main", "Tag Editor"));
+    application.setApplicationVersion(u"1.0"_s);
+}
+
+/// Styles that draw in the desktop's own colours would ignore the palette.
+void goDark(QApplication &application)
+{
+    application.setStyle(QStyleFactory::create(u"Fusion"_s));
+    application.setPalette(darkPalette());
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    describe(application);
+    const CommandLine commandLine = CommandLine::parsed(application);
+    if (commandLine.isDark)
+        goDark(application);
+
+    MainWindow window;
+    const AutomatedRun run(&window, commandLine);
+    window.findLine().setMatchingType(commandLine.matchingType);
+    window.findLine().setCaseSensitive(commandLine.isCaseSensitive);
+    window.findLine().setPatternText(commandLine.findText);
+    window.show();
+    window.openFolder(commandLine.folder);
+    return application.exec();
+}
