@@ -9,6 +9,8 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QScreen>
+#include <QTableView>
+#include <QTimer>
 #include <QWindow>
 
 #include <cstdio>
@@ -47,7 +49,8 @@ AutomatedRun::AutomatedRun(MainWindow *window, const CommandLine &commandLine)
     window->winId(); // from here on there is a window to watch
     window->windowHandle()->installEventFilter(this);
     connect(window, &MainWindow::folderRead, this, [this](const QString &failure) {
-        m_isRead = true;
+        if (std::exchange(m_isRead, true))
+            return;
         m_hasFailed = !failure.isEmpty();
         performWhenReady();
     });
@@ -56,24 +59,34 @@ AutomatedRun::AutomatedRun(MainWindow *window, const CommandLine &commandLine)
 bool AutomatedRun::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Expose && m_window->windowHandle()->isExposed()) {
+        m_window->windowHandle()->removeEventFilter(this);
         m_isExposed = true;
-        // The window answers the event first, and paints.
-        QMetaObject::invokeMethod(this, &AutomatedRun::performWhenReady, Qt::QueuedConnection);
+        performWhenReady();
+    } else if (event->type() == QEvent::Paint && m_awaitsPainting) {
+        watched->removeEventFilter(this);
+        m_awaitsPainting = false;
+        // What was painted reaches the screen when the event has returned.
+        QMetaObject::invokeMethod(this, &AutomatedRun::perform, Qt::QueuedConnection);
     }
     return QObject::eventFilter(watched, event);
 }
 
+/// The rows and labels that came last are laid out when the event loop next comes round; only the painting
+/// after that shows them.
 void AutomatedRun::performWhenReady()
 {
-    if (!m_isRead || !m_isExposed || m_isDone)
+    if (!m_isRead || !m_isExposed)
         return;
-    m_isDone = true;
-    perform();
+    QTimer::singleShot(0, this, [this] {
+        QWidget *viewport = m_window->table().viewport();
+        viewport->installEventFilter(this);
+        viewport->update();
+        m_awaitsPainting = true;
+    });
 }
 
 void AutomatedRun::perform()
 {
-    m_window->search().searchIfPending();
     if (m_commandLine.writesReport)
         std::fputs(report(*m_window).toUtf8().constData(), stdout);
     std::fflush(stdout);
@@ -94,10 +107,9 @@ QString AutomatedRun::report(MainWindow &window)
     return report + u"%1 matches\n"_s.arg(count);
 }
 
-/// Drawing is done now rather than later, and the grab comes behind it in the order of the connection.
+/// The grab comes behind the painting in the order of the connection.
 bool AutomatedRun::saveScreenshot()
 {
-    m_window->repaint();
     const QPixmap picture = m_window->screen()->grabWindow(m_window->winId());
     return !picture.isNull() && picture.save(m_commandLine.screenshotFile, "PNG");
 }

@@ -30,6 +30,6 @@ private:
     CommandLine m_commandLine;
     bool m_isExposed = false;
     bool m_isRead = false;
-    bool m_isDone = false;
     bool m_hasFailed = false;
+    bool m_awaitsPainting = false;
 };

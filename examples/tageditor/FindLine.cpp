@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPushButton>
 #include <QToolButton>
 
 namespace {
@@ -55,12 +56,18 @@ void FindLine::fillMatchingTypes()
 void FindLine::layOut()
 {
     auto *controls = new QHBoxLayout;
-    controls->addWidget(m_pattern, 1);
-    controls->addWidget(makeTokenButton());
-    controls->addWidget(m_matchingType);
-    controls->addWidget(m_caseSensitive);
-    controls->addWidget(makeStepButton(Qt::LeftArrow, tr("Previous Match"), TrackSearch::Backward));
-    controls->addWidget(makeStepButton(Qt::RightArrow, tr("Next Match"), TrackSearch::Forward));
+    const QList<QWidget *> inOrder{m_pattern,
+                                   makeTokenButton(),
+                                   m_matchingType,
+                                   m_caseSensitive,
+                                   makeStepButton(Qt::LeftArrow, tr("Previous Match"), TrackSearch::Backward),
+                                   makeStepButton(Qt::RightArrow, tr("Next Match"), TrackSearch::Forward)};
+    for (QWidget *last = nullptr; QWidget * control : inOrder) {
+        controls->addWidget(control, control == m_pattern ? 1 : 0);
+        if (last)
+            setTabOrder(last, control);
+        last = control;
+    }
 
     // The message has a row of its own, always: what stands in it never moves the table.
     m_message->setTextFormat(Qt::PlainText); // expressions stand in it
@@ -78,11 +85,8 @@ QWidget *FindLine::makeTokenButton()
         QAction *action = menu->addAction(item.title().value_or(QString()));
         connect(action, &QAction::triggered, this, [this, item] { insertToken(item); });
     }
-    auto *button = new QToolButton(this);
-    button->setText(tr("Insert Token"));
+    auto *button = new QPushButton(tr("Insert &Token"), this);
     button->setToolTip(tr("Insert a token that stands for a kind of text"));
-    button->setPopupMode(QToolButton::InstantPopup);
-    button->setFocusPolicy(Qt::StrongFocus);
     button->setMenu(menu);
     return button;
 }

@@ -17,7 +17,9 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QProgressBar>
+#include <QScreen>
 #include <QStatusBar>
+#include <QStyle>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -33,6 +35,7 @@ const QString GeometryKey = u"MainWindowGeometry"_s;
 constexpr std::array<int, TrackFieldCount> FirstWidths{24, 24, 22, 20, 8, 8, 14, 30};
 constexpr int NarrowestColumn = 6;
 constexpr int WidestColumn = 36;
+constexpr int ColumnPadding = 2;
 
 } // namespace
 
@@ -108,6 +111,7 @@ void MainWindow::setUpStatusBar()
     m_progress->setAccessibleName(tr("Reading progress"));
     m_progress->setMaximumWidth(m_progress->fontMetrics().averageCharWidth() * 30);
     m_progress->hide();
+    m_counts->setContentsMargins(style()->pixelMetric(QStyle::PM_LayoutLeftMargin), 0, 0, 0);
     statusBar()->addWidget(m_counts);
     statusBar()->addWidget(m_problem, 1);
     statusBar()->addPermanentWidget(m_progress);
@@ -194,7 +198,7 @@ void MainWindow::fitColumns()
     const int character = m_table->fontMetrics().averageCharWidth();
     m_table->resizeColumnsToContents();
     for (int column = 0; column < TrackFieldCount - 1; ++column) {
-        const int width = m_table->columnWidth(column);
+        const int width = m_table->columnWidth(column) + ColumnPadding * character;
         m_table->setColumnWidth(column,
                                 std::clamp(width, NarrowestColumn * character, WidestColumn * character));
     }
@@ -203,8 +207,10 @@ void MainWindow::fitColumns()
 void MainWindow::restoreGeometryFromDefaults()
 {
     const QVariant geometry = ZEVUserDefaults::standardUserDefaults()->objectForKey(GeometryKey);
-    if (!restoreGeometry(geometry.toByteArray()))
-        resize(fontMetrics().averageCharWidth() * 170, fontMetrics().height() * 32);
+    if (restoreGeometry(geometry.toByteArray()))
+        return;
+    const QSize wanted(fontMetrics().averageCharWidth() * 170, fontMetrics().height() * 32);
+    resize(wanted.boundedTo(screen()->availableSize() * 9 / 10));
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

@@ -66,8 +66,8 @@ QString TagReader::obstacle(const std::filesystem::path &path)
     if (failure != 0)
         return systemError(failure);
     if (!S_ISREG(status.st_mode))
-        return tr("This is not a regular file.");
-    return status.st_size == 0 ? tr("The file is empty.") : QString();
+        return tr("Not a regular file");
+    return status.st_size == 0 ? tr("Empty file") : QString();
 }
 
 QString TagReader::readTags(Track &track)
@@ -75,7 +75,7 @@ QString TagReader::readTags(Track &track)
     const TagLib::FileRef reference(track.path.c_str(), true, TagLib::AudioProperties::Fast);
     const TagLib::File *file = reference.file();
     if (!file || !hasAudio(*file))
-        return tr("No audio was found in the file; it may be damaged or cut off.");
+        return tr("No audio found: damaged or cut off");
     const TagLib::Tag &tag = *file->tag();
     track.text(TrackField::Title) = text(tag.title());
     track.text(TrackField::Artist) = text(tag.artist());

@@ -29,12 +29,6 @@ QString plainToolTip(const QString &text)
     return text.isEmpty() ? QString() : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
 }
 
-Qt::Alignment alignment(TrackField field)
-{
-    const bool isNumber = field == TrackField::Year || field == TrackField::Number;
-    return Qt::AlignVCenter | (isNumber ? Qt::AlignRight : Qt::AlignLeft);
-}
-
 } // namespace
 
 void TrackTableModel::append(const QList<Track> &tracks)
@@ -100,8 +94,6 @@ QVariant TrackTableModel::data(const QModelIndex &index, int role) const
         return shownText(track, field);
     case Qt::ToolTipRole:
         return plainToolTip(toolTip(track, field));
-    case Qt::TextAlignmentRole:
-        return QVariant(alignment(field));
     case IsUnreadableRole:
         return !track.isReadable();
     default:
@@ -113,8 +105,7 @@ QVariant TrackTableModel::headerData(int section, Qt::Orientation orientation, i
 {
     if (orientation != Qt::Horizontal)
         return QAbstractTableModel::headerData(section, orientation, role);
-    const TrackField field{section};
     if (role == Qt::TextAlignmentRole)
-        return QVariant(alignment(field));
-    return role == Qt::DisplayRole ? titleForField(field) : QVariant();
+        return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+    return role == Qt::DisplayRole ? titleForField(TrackField(section)) : QVariant();
 }

@@ -7,6 +7,7 @@
 #include <tageditor/MainWindow.h>
 
 #include <QApplication>
+#include <QStyle>
 #include <QStyleFactory>
 
 using namespace Qt::StringLiterals;
@@ -24,7 +25,8 @@ void describe(QApplication &application)
 /// Styles that draw in the desktop's own colours would ignore the palette.
 void goDark(QApplication &application)
 {
-    application.setStyle(QStyleFactory::create(u"Fusion"_s));
+    if (application.style()->name() != u"fusion")
+        application.setStyle(QStyleFactory::create(u"Fusion"_s));
     application.setPalette(darkPalette());
 }
 
