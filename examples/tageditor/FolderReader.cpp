@@ -22,7 +22,7 @@ constexpr qint64 MillisecondsPerBatch = 50;
 /// In the C locale no collation takes place and "10" would stand before "2".
 QCollator fileNameCollator()
 {
-    QCollator collator(QLocale() == QLocale::c() ? QLocale(QLocale::English) : QLocale());
+    QCollator collator(QLocale().language() == QLocale::C ? QLocale(QLocale::English) : QLocale());
     collator.setNumericMode(true);
     return collator;
 }
