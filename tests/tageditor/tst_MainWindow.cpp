@@ -1,0 +1,211 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include "Samples.h"
+
+#include <tageditor/DarkPalette.h>
+#include <tageditor/FindLine.h>
+#include <tageditor/MainWindow.h>
+#include <tageditor/MatchColors.h>
+
+#include <ZEVGlobalUtils/Platform/ZEVUserDefaults.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QStatusBar>
+#include <QTableView>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The window as its user sees it.
+struct Shown {
+    Shown()
+    {
+        window.show();
+        visible = QTest::qWaitForWindowActive(&window);
+    }
+
+    bool open(const QString &folder)
+    {
+        QSignalSpy read(&window, &MainWindow::folderRead);
+        window.openFolder(folder);
+        return read.wait();
+    }
+
+    QString message() const { return messageLabel()->text(); }
+    QLabel *messageLabel() const { return window.findChild<FindLine *>()->findChild<QLabel *>(); }
+    QString status() const
+    {
+        QStringList texts;
+        for (const QLabel *label : window.statusBar()->findChildren<QLabel *>())
+            texts.append(label->text());
+        return texts.join(u'|');
+    }
+    /// The file name and column of the current cell.
+    QString currentCell()
+    {
+        const QModelIndex index = window.table().currentIndex();
+        return index.siblingAtColumn(0).data().toString() + u'/' + QString::number(index.column());
+    }
+
+    MainWindow window;
+    QLineEdit *line = window.findChild<QLineEdit *>();
+    bool visible = false;
+};
+
+} // namespace
+
+class tst_MainWindow : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        ZEVUserDefaults::setStandardStore(
+            std::make_unique<QSettings>(m_store.filePath(u"defaults.ini"_s), QSettings::IniFormat));
+    }
+
+    void theSampleIsShown()
+    {
+        Shown shown;
+        QVERIFY(shown.visible);
+        auto *progress = shown.window.findChild<QProgressBar *>();
+        QVERIFY(!progress->isVisible());
+        shown.window.openFolder(Samples::folder());
+        QVERIFY(progress->isVisible()); // the window is there before the first track is
+        QCOMPARE(shown.window.tracks().rowCount(), 0);
+        QSignalSpy read(&shown.window, &MainWindow::folderRead);
+        QVERIFY(read.wait());
+        QVERIFY(!progress->isVisible());
+        QCOMPARE(shown.status(), u"16 tracks|"_s);
+    }
+
+    void typingFindsAndReturnSteps()
+    {
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(Samples::folder()));
+        QTest::keyClick(&shown.window, Qt::Key_F, Qt::ControlModifier);
+        QTRY_VERIFY(shown.line->hasFocus());
+        QTest::keyClicks(shown.line, u"tra"_s);
+        QTRY_COMPARE(shown.message(), u"4 matches"_s);
+        QTest::keyClick(shown.line, Qt::Key_Return);
+        QCOMPARE(shown.message(), u"Match 1 of 4"_s);
+        QCOMPARE(shown.currentCell(), u"01 Track 12.mp3/0"_s);
+        QTest::keyClick(shown.line, Qt::Key_F3);
+        QCOMPARE(shown.currentCell(), u"01 Track 12.mp3/1"_s);
+        QTest::keyClick(shown.line, Qt::Key_Return, Qt::ShiftModifier);
+        QTest::keyClick(shown.line, Qt::Key_G, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(shown.message(), u"Match 4 of 4"_s);
+        QTest::keyClick(shown.line, Qt::Key_G, Qt::ControlModifier);
+        QCOMPARE(shown.message(), u"Match 1 of 4"_s);
+    }
+
+    void tokensTypesAndCaseCount()
+    {
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(Samples::folder()));
+        const QList<QAction *> tokens = shown.window.findChild<FindLine *>()->findChild<QMenu *>()->actions();
+        QCOMPARE(tokens.size(), 10);
+        tokens.at(8)->trigger();
+        QCOMPARE(shown.line->text(), u"%(\\@)%"_s);
+        QTRY_COMPARE(shown.message(), u"3 matches"_s); // comments that are an address and nothing else
+        shown.line->setText(u"folk"_s);
+        shown.window.findLine().setMatchingType(ZEVFindPanelQuery::MatchesContents);
+        QTRY_COMPARE(shown.message(), u"3 matches"_s);
+        shown.window.findLine().setCaseSensitive(true);
+        QTRY_COMPARE(shown.message(), u"No matches"_s);
+        QCOMPARE(shown.window.findChild<QComboBox *>()->currentText(), u"Matches Contents"_s);
+    }
+
+    void anInvalidExpressionOpensNoDialog()
+    {
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(Samples::folder()));
+        shown.window.findLine().setMatchingType(ZEVFindPanelQuery::RegularExpression);
+        shown.window.findLine().beginEditing();
+        QTest::keyClicks(shown.line, u"(tr"_s);
+        QTRY_VERIFY2(shown.message().contains(u"(tr"), qPrintable(shown.message()));
+        QCOMPARE(QApplication::activeModalWidget(), nullptr);
+        const auto color = [&] { return shown.messageLabel()->palette().color(QPalette::WindowText); };
+        QCOMPARE(color(), MatchColors::errorText(shown.window.palette()));
+        const QColor before = color();
+        QApplication::setPalette(darkPalette());
+        QTRY_VERIFY(color() != before);
+        QCOMPARE(color(), MatchColors::errorText(darkPalette()));
+        QApplication::setPalette(QPalette());
+        QTest::keyClicks(shown.line, u")"_s);
+        QTRY_COMPARE(shown.message(), u"6 matches"_s);
+    }
+
+    void aFolderThatIsNotThereIsTold()
+    {
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(u"/no/such/folder"_s));
+        QCOMPARE(shown.status(),
+                 u"0 tracks|The folder “/no/such/folder” could not be read: No such file or directory"_s);
+        QVERIFY(shown.open(Samples::folder() + u"/Sever"_s));
+        QCOMPARE(shown.status(), u"2 tracks|"_s);
+    }
+
+    void unreadableFilesAreRowsOfTheirOwn()
+    {
+        const QTemporaryDir folder;
+        QVERIFY(Samples::copy(u"Interlude.ogg"_s, folder.filePath(u"<b>.ogg"_s), 0));
+        QVERIFY(Samples::copy(u"Interlude.ogg"_s, folder.filePath(u"a.ogg"_s)));
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(folder.path()));
+        QCOMPARE(shown.status(), u"2 tracks, 1 unreadable|"_s);
+        const QModelIndex title = shown.window.table().model()->index(0, int(TrackField::Title));
+        QCOMPARE(title.data().toString(), u"Empty file"_s);
+        QVERIFY(title.data(Qt::ToolTipRole).toString().contains(u"&lt;b&gt;.ogg"));
+    }
+
+    void everyControlHasANameForScreenReaders()
+    {
+        Shown shown;
+        const auto named = [](const QWidget *control) {
+            const QAccessibleInterface *face =
+                QAccessible::queryAccessibleInterface(const_cast<QWidget *>(control));
+            return face && !face->text(QAccessible::Name).isEmpty();
+        };
+        int controls = 0;
+        for (const QWidget *control : shown.window.findChild<FindLine *>()->findChildren<QWidget *>()) {
+            if (control->focusPolicy() == Qt::NoFocus || control->parentWidget() != &shown.window.findLine())
+                continue;
+            ++controls;
+            QVERIFY2(named(control), control->metaObject()->className());
+        }
+        QCOMPARE(controls, 6);
+        QVERIFY(named(&shown.window.table()));
+    }
+
+    void theSizeIsRemembered()
+    {
+        const QSize size(871, 477);
+        {
+            Shown shown;
+            shown.window.resize(size);
+            QTRY_COMPARE(shown.window.size(), size);
+            shown.window.close();
+        }
+        const MainWindow window;
+        QCOMPARE(window.size(), size);
+    }
+
+private:
+    QTemporaryDir m_store;
+};
+
+QTEST_MAIN(tst_MainWindow)
+#include "tst_MainWindow.moc"
