@@ -33,6 +33,7 @@ struct Shown {
     Shown()
     {
         window.show();
+        window.activateWindow(); // where no window manager does it
         visible = QTest::qWaitForWindowActive(&window);
     }
 

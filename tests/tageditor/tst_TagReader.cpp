@@ -19,63 +19,38 @@ private Q_SLOTS:
     void everyFieldIsRead_data()
     {
         QTest::addColumn<QString>("file");
-        QTest::addColumn<QStringList>("fields");
-        QTest::newRow("MP3, comment in a frame of the user's")
-            << u"Harbour/01 Track 12.mp3"_s
-            << QStringList{u"01 Track 12.mp3"_s,
-                           u"Track 12"_s,
-                           u"The Paper Lanterns"_s,
-                           u"Harbour Lights"_s,
-                           u"1998"_s,
-                           u"1"_s,
-                           u"Folk"_s,
-                           u"Recorded in 1997, take 3. More at https://music.example.org/harbour?id=12"_s};
-        QTest::newRow("FLAC, two lines")
-            << u"Maree/05 Fenetre.flac"_s << QStringList{u"05 Fenetre.flac"_s,
-                                                         u"La fenêtre d’Édouard"_s,
-                                                         u"Zoé Lumière"_s,
-                                                         u"Les Marées"_s,
-                                                         u"2004"_s,
-                                                         u"5"_s,
-                                                         u"Chanson"_s,
-                                                         u"Première prise,\n12 août 2003"_s};
-        QTest::newRow("Ogg, Japanese")
-            << u"Minato/11 Yoru.ogg"_s
-            << QStringList{u"11 Yoru.ogg"_s,    u"夜の電車"_s,
-                           u"みなと合奏団"_s,   u"雨と窓"_s,
-                           u"2019"_s,           u"11"_s,
-                           u"エレクトロニカ"_s, u"録音 2019年3月 https://example.com/minato"_s};
-        QTest::newRow("M4A, Arabic") << u"Nakhil/13 Layl.m4a"_s
-                                     << QStringList{u"13 Layl.m4a"_s, u"ليل المدينة"_s,
-                                                    u"فرقة النخيل"_s, u"ضوء القمر"_s,
-                                                    u"2021"_s,        u"13"_s,
-                                                    u"طرب"_s,         u"للتواصل: info@example.com"_s};
-        QTest::newRow("FLAC, Cyrillic")
-            << u"Sever/09 Reka.flac"_s
-            << QStringList{u"09 Reka.flac"_s, u"Тихая река"_s,
-                           u"Анна Лесная"_s,  u"Северный ветер"_s,
-                           u"2015"_s,         u"9"_s,
-                           u"Ambient"_s,      u"Запись 2015 года, связь: anna@example.org"_s};
-        QTest::newRow("M4A, beyond the first plane")
-            << u"Track 7.m4a"_s
-            << QStringList{u"Track 7.m4a"_s,
-                           u"Track 7"_s,
-                           u"Nobody & the 404s"_s,
-                           u"Found Tapes"_s,
-                           u"1987"_s,
-                           u"7"_s,
-                           u"Lo-Fi"_s,
-                           u"Tape 3 of 12 \U0001F4FC side B, 0:42"_s};
-        QTest::newRow("no number is no zero")
-            << u"Interlude.ogg"_s << QStringList{u"Interlude.ogg"_s, u"Interlude"_s, {}, {}, {}, {}, {}, {}};
+        QTest::addColumn<QString>("fields");
+        const auto row = [](const char *name, const QString &file, const QString &fields) {
+            QTest::newRow(name) << file << fields;
+        };
+        row("MP3, comment in a frame of the user's", u"Harbour/01 Track 12.mp3"_s,
+            u"01 Track 12.mp3|Track 12|The Paper Lanterns|Harbour Lights|1998|1|Folk|"
+            "Recorded in 1997, take 3. More at https://music.example.org/harbour?id=12"_s);
+        row("FLAC, two lines", u"Maree/05 Fenetre.flac"_s,
+            u"05 Fenetre.flac|La fenêtre d’Édouard|Zoé Lumière|Les Marées|2004|5|Chanson|"
+            "Première prise,\n12 août 2003"_s);
+        row("Ogg, Japanese", u"Minato/11 Yoru.ogg"_s,
+            u"11 Yoru.ogg|夜の電車|みなと合奏団|雨と窓|2019|11|エレクトロニカ|"
+            "録音 2019年3月 https://example.com/minato"_s);
+        row("M4A, Arabic", u"Nakhil/13 Layl.m4a"_s,
+            u"13 Layl.m4a|ليل المدينة|فرقة النخيل|ضوء القمر|2021|13|طرب|للتواصل: info@example.com"_s);
+        row("FLAC, Cyrillic", u"Sever/09 Reka.flac"_s,
+            u"09 Reka.flac|Тихая река|Анна Лесная|Северный ветер|2015|9|Ambient|"
+            "Запись 2015 года, связь: anna@example.org"_s);
+        row("M4A, beyond the first plane", u"Track 7.m4a"_s,
+            u"Track 7.m4a|Track 7|Nobody & the 404s|Found Tapes|1987|7|Lo-Fi|"
+            "Tape 3 of 12 \U0001F4FC side B, 0:42"_s);
+        row("M4A, artwork", u"Harbour/03 Percent.m4a"_s,
+            u"03 Percent.m4a|100% Live|The Paper Lanterns|Harbour Lights|1999|3|Folk|"
+            "24 bit, 48000 Hz; see http://example.com/a_(live)"_s);
+        row("no number is no zero", u"Interlude.ogg"_s, u"Interlude.ogg|Interlude||||||"_s);
     }
     void everyFieldIsRead()
     {
         QFETCH(QString, file);
-        QFETCH(QStringList, fields);
         const Track track = TagReader::read(Samples::path(file));
         QCOMPARE(track.error, QString());
-        QCOMPARE(QStringList(track.fields.begin(), track.fields.end()), fields);
+        QTEST(QStringList(track.fields.begin(), track.fields.end()).join(u'|'), "fields");
     }
 
     void whatCannotBeReadSaysWhy_data()
