@@ -37,6 +37,9 @@ constexpr int NarrowestColumn = 6;
 constexpr int WidestColumn = 36;
 constexpr int ColumnPadding = 2;
 
+/// How many rows are looked at for the widths, besides those in view.
+constexpr int RowsMeasured = 200;
+
 } // namespace
 
 MainWindow::MainWindow(QWidget *parent)
@@ -97,6 +100,7 @@ void MainWindow::setUpTable()
     m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() * 3 / 2);
     m_table->horizontalHeader()->setStretchLastSection(true);
     m_table->horizontalHeader()->setHighlightSections(false);
+    m_table->horizontalHeader()->setResizeContentsPrecision(RowsMeasured);
     for (int column = 0; column < TrackFieldCount; ++column)
         m_table->setColumnWidth(column,
                                 FirstWidths.at(size_t(column)) * m_table->fontMetrics().averageCharWidth());

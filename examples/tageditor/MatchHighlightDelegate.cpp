@@ -93,18 +93,26 @@ void drawEmptyMatches(QPainter *painter, const QTextLine &line, QPointF origin,
     }
 }
 
+/// Eliding shapes the text once more, so only a text that does not fit pays for it.
+void layOutElided(QTextLayout &layout, const QStyleOptionViewItem &cell, int width)
+{
+    layOut(layout, cell, width);
+    if (layout.lineAt(0).naturalTextWidth() <= width)
+        return;
+    layout.setText(cell.fontMetrics.elidedText(layout.text(), cell.textElideMode, width));
+    layOut(layout, cell, width);
+}
+
 void drawText(QPainter *painter, const QStyleOptionViewItem &cell, const QRect &rect,
               const TrackSearch::CellMatches &matches)
 {
-    const QString start = cell.text.left(LongestLine);
-    const QString visible = cell.fontMetrics.elidedText(start, cell.textElideMode, rect.width());
-    const QColor base = cellColor(cell, QPalette::Base, QPalette::Highlight);
-    const auto ranges = marks(MatchHighlightDelegate::visibleMatches(matches, cell.text, visible), base);
-
-    QTextLayout layout(visible, cell.font, painter->device());
-    layOut(layout, cell, rect.width());
+    QTextLayout layout(cell.text.left(LongestLine), cell.font, painter->device());
+    layOutElided(layout, cell, rect.width());
     const QTextLine line = layout.lineAt(0);
     const QPointF origin(rect.x(), rect.y() + (rect.height() - line.height()) / 2);
+    const QColor base = cellColor(cell, QPalette::Base, QPalette::Highlight);
+    const auto ranges =
+        marks(MatchHighlightDelegate::visibleMatches(matches, cell.text, layout.text()), base);
     painter->save();
     painter->setClipRect(rect, Qt::IntersectClip);
     painter->setPen(cellColor(cell, QPalette::Text, QPalette::HighlightedText));
