@@ -3,12 +3,11 @@
 
 #include <tageditor/FolderReader.h>
 
+#include <tageditor/NaturalOrder.h>
 #include <tageditor/TagReader.h>
 
-#include <QCollator>
 #include <QElapsedTimer>
 
-#include <algorithm>
 #include <functional>
 #include <vector>
 
@@ -19,26 +18,15 @@ namespace {
 
 constexpr qint64 MillisecondsPerBatch = 50;
 
-/// In the C locale no collation takes place and "10" would stand before "2".
-QCollator fileNameCollator()
-{
-    QCollator collator(QLocale().language() == QLocale::C ? QLocale(QLocale::English) : QLocale());
-    collator.setNumericMode(true);
-    return collator;
-}
-
 std::vector<fs::path> sortedByName(const std::vector<fs::path> &paths)
 {
-    const QCollator collator = fileNameCollator();
-    std::vector<std::pair<QCollatorSortKey, const fs::path *>> keyed;
-    keyed.reserve(paths.size());
+    QStringList names;
     for (const fs::path &path : paths)
-        keyed.emplace_back(collator.sortKey(displayedPath(path)), &path);
-    std::ranges::stable_sort(keyed, [](const auto &a, const auto &b) { return a.first < b.first; });
+        names.append(displayedPath(path));
     std::vector<fs::path> sorted;
     sorted.reserve(paths.size());
-    for (const auto &entry : keyed)
-        sorted.push_back(*entry.second);
+    for (const int index : naturalOrder(names))
+        sorted.push_back(paths[size_t(index)]);
     return sorted;
 }
 

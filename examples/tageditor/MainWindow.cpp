@@ -101,6 +101,9 @@ void MainWindow::setUpTable()
     m_table->horizontalHeader()->setStretchLastSection(true);
     m_table->horizontalHeader()->setHighlightSections(false);
     m_table->horizontalHeader()->setResizeContentsPrecision(RowsMeasured);
+    m_table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    m_table->horizontalHeader()->setSortIndicatorClearable(true);
+    m_table->setSortingEnabled(true);
     for (int column = 0; column < TrackFieldCount; ++column)
         m_table->setColumnWidth(column,
                                 FirstWidths.at(size_t(column)) * m_table->fontMetrics().averageCharWidth());
@@ -161,6 +164,9 @@ void MainWindow::showProgress(qsizetype read, qsizetype total)
 void MainWindow::finishReading(const QString &failure)
 {
     m_progress->hide();
+    const QHeaderView *header = m_table->horizontalHeader();
+    if (header->sortIndicatorSection() >= 0)
+        m_model.sort(header->sortIndicatorSection(), header->sortIndicatorOrder());
     m_search.searchIfPending();
     showCounts();
     fitColumns();

@@ -28,8 +28,8 @@ public:
 
     explicit TrackFinderClient(const TrackTableModel &model);
 
-    /// To be called when rows were added behind the others, or all are new. Ranges that were found before
-    /// rows were added stay good.
+    /// To be called when rows were added behind the others, or all are new or elsewhere. Ranges that were
+    /// found before rows were added stay good.
     void takeInNewRows();
     void startOver();
 

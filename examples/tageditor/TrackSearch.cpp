@@ -38,14 +38,17 @@ private:
 
 TrackSearch::TrackSearch(TrackTableModel *model, QObject *parent)
     : QObject(parent)
+    , m_model(*model)
     , m_client(*model)
 {
     m_finder.setClient(&m_client);
     m_timer.setSingleShot(true);
-    connect(&m_timer, &QTimer::timeout, this, &TrackSearch::search);
+    connect(&m_timer, &QTimer::timeout, this, &TrackSearch::searchIfPending);
     connect(&m_finder, &ZEVTextFinder::numberOfMatchesChanged, this, &TrackSearch::countChanged);
     connect(model, &TrackTableModel::rowsInserted, this, &TrackSearch::tracksAdded);
     connect(model, &TrackTableModel::modelReset, this, &TrackSearch::tracksReplaced);
+    connect(model, &TrackTableModel::layoutAboutToBeChanged, this, &TrackSearch::keepCurrentMatch);
+    connect(model, &TrackTableModel::layoutChanged, this, &TrackSearch::tracksSorted);
 }
 
 TrackSearch::~TrackSearch() = default;
@@ -54,35 +57,40 @@ void TrackSearch::setQuery(const ZEVFindPanelQuery &query)
 {
     m_query = query;
     m_queryChanged = true;
-    m_timer.start(0);
+    searchIn(0);
 }
 
 void TrackSearch::searchIfPending()
 {
-    if (m_timer.isActive())
-        search();
+    if (m_isPending)
+        search(currentRange());
+}
+
+void TrackSearch::searchIn(qint64 milliseconds)
+{
+    m_isPending = true;
+    m_timer.start(int(milliseconds));
 }
 
 void TrackSearch::tracksAdded()
 {
     m_client.takeInNewRows();
-    if (m_expression && !m_timer.isActive())
-        m_timer.start(int(std::max(ShortestPause, PauseFactor * m_searchDuration)));
+    if (m_expression && !m_isPending)
+        searchIn(std::max(ShortestPause, PauseFactor * m_searchDuration));
 }
 
 void TrackSearch::tracksReplaced()
 {
     m_client.startOver();
     m_lastLocation = 0;
-    search(); // at once, since the old matches lie in text that is gone
+    search(std::nullopt); // at once, since the old matches lie in text that is gone
 }
 
-void TrackSearch::search()
+/// \a current is where the current match is to be found again, if it is still one.
+void TrackSearch::search(const std::optional<ZEVRange> &current)
 {
     m_timer.stop();
-    const auto current = m_currentMatch < 0 || m_queryChanged
-        ? std::nullopt
-        : std::optional(m_finder.foundMatches().at(m_currentMatch));
+    m_isPending = false;
     if (m_queryChanged)
         compileExpression();
     m_currentMatch = -1;
@@ -92,6 +100,36 @@ void TrackSearch::search()
     m_searchDuration = elapsed.elapsed();
     restoreCurrentMatch(current);
     Q_EMIT searched();
+}
+
+std::optional<ZEVRange> TrackSearch::currentRange() const
+{
+    if (m_currentMatch < 0 || m_queryChanged)
+        return std::nullopt;
+    return m_finder.foundMatches().at(m_currentMatch);
+}
+
+void TrackSearch::keepCurrentMatch()
+{
+    m_keptCell = QModelIndex();
+    if (!currentRange())
+        return;
+    const TrackFinderClient::Place place = match(m_currentMatch);
+    m_keptCell = m_model.index(place.row, int(place.field));
+    m_keptRange = place.range;
+}
+
+void TrackSearch::tracksSorted()
+{
+    m_client.startOver();
+    m_lastLocation = 0;
+    std::optional<ZEVRange> current;
+    if (m_keptCell.isValid()) {
+        const ZEVRange cell = m_client.rangeOfCell(m_keptCell.row(), TrackField(m_keptCell.column()));
+        current = {cell.location + m_keptRange.location, m_keptRange.length};
+        m_lastLocation = current->location;
+    }
+    search(current);
 }
 
 void TrackSearch::compileExpression()
@@ -141,7 +179,7 @@ qsizetype TrackSearch::firstMatchAt(qsizetype location) const
 void TrackSearch::step(Direction direction)
 {
     if (m_queryChanged)
-        search();
+        search(std::nullopt);
     const qsizetype count = m_finder.foundMatches().size();
     if (count == 0)
         return;

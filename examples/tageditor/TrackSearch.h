@@ -9,6 +9,7 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
 #include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
 
+#include <QPersistentModelIndex>
 #include <QTimer>
 
 /// Keeps the matches of one query in a table of tracks up to date, and one of them as the current match.
@@ -60,14 +61,19 @@ Q_SIGNALS:
     void currentMatchChanged();
 
 private:
+    void searchIn(qint64 milliseconds);
     void tracksAdded();
     void tracksReplaced();
-    void search();
+    void keepCurrentMatch();
+    void tracksSorted();
+    void search(const std::optional<ZEVRange> &current);
+    std::optional<ZEVRange> currentRange() const;
     void compileExpression();
     void restoreCurrentMatch(const std::optional<ZEVRange> &range);
     void setCurrentMatch(qsizetype number);
     qsizetype firstMatchAt(qsizetype location) const;
 
+    const TrackTableModel &m_model;
     TrackFinderClient m_client;
     ZEVTextFinder m_finder;
     ZEVFindPanelQuery m_query;
@@ -77,5 +83,8 @@ private:
     qsizetype m_currentMatch = -1;
     qsizetype m_lastLocation = 0; ///< where the last current match was
     qint64 m_searchDuration = 0; ///< milliseconds
+    bool m_isPending = false; ///< a search is due
     bool m_queryChanged = false;
+    QPersistentModelIndex m_keptCell; ///< the current match's, while the table is sorted
+    ZEVRange m_keptRange;
 };

@@ -3,6 +3,8 @@
 
 #include <tageditor/TrackTableModel.h>
 
+#include <tageditor/NaturalOrder.h>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -108,4 +110,32 @@ QVariant TrackTableModel::headerData(int section, Qt::Orientation orientation, i
     if (role == Qt::TextAlignmentRole)
         return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
     return role == Qt::DisplayRole ? titleForField(TrackField(section)) : QVariant();
+}
+
+void TrackTableModel::sort(int column, Qt::SortOrder order)
+{
+    const bool byPath = column < 0 || column >= TrackFieldCount;
+    QStringList texts;
+    for (const Track &track : std::as_const(m_tracks))
+        texts.append(byPath ? displayedPath(track.path) : track.text(TrackField(column)));
+    Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
+    rearrange(naturalOrder(texts, byPath ? Qt::AscendingOrder : order));
+    Q_EMIT layoutChanged({}, VerticalSortHint);
+}
+
+void TrackTableModel::rearrange(const std::vector<int> &oldRows)
+{
+    QList<Track> tracks;
+    tracks.reserve(m_tracks.size());
+    std::vector<int> newRows(oldRows.size());
+    for (const int oldRow : oldRows) {
+        newRows[size_t(oldRow)] = int(tracks.size());
+        tracks.append(std::move(m_tracks[oldRow]));
+    }
+    m_tracks = std::move(tracks);
+    const QModelIndexList before = persistentIndexList();
+    QModelIndexList after;
+    for (const QModelIndex &old : before)
+        after.append(index(newRows[size_t(old.row())], old.column()));
+    changePersistentIndexList(before, after);
 }

@@ -7,7 +7,8 @@
 
 #include <QAbstractTableModel>
 
-/// The tracks as a table: a row a track, a column a field. Rows are only ever added behind the others.
+/// The tracks as a table: a row a track, a column a field. Rows are only ever added behind the others,
+/// whatever the table was sorted by; sort() puts them in their places.
 class TrackTableModel : public QAbstractTableModel {
     Q_OBJECT
 
@@ -31,7 +32,12 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
+    /// By a column's text or, for a \a column that is none, by path.
+    void sort(int column, Qt::SortOrder order) override;
+
 private:
+    void rearrange(const std::vector<int> &oldRows);
+
     QList<Track> m_tracks;
     int m_numberOfUnreadable = 0;
 };

@@ -13,6 +13,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -147,6 +148,24 @@ private Q_SLOTS:
         QApplication::setPalette(QPalette());
         QTest::keyClicks(shown.line, u")"_s);
         QTRY_COMPARE(shown.message(), u"6 matches"_s);
+    }
+
+    void aClickOnAHeaderSorts()
+    {
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(Samples::folder()));
+        const auto firstYear = [&] { return shown.window.tracks().track(0).text(TrackField::Year); };
+        QHeaderView *header = shown.window.table().horizontalHeader();
+        const int x = header->sectionViewportPosition(int(TrackField::Year)) + 10;
+        const QPoint year(x, header->height() / 2);
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, year);
+        QCOMPARE(firstYear(), u"1987"_s);
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, year);
+        QCOMPARE(firstYear(), u"2021"_s);
+        QVERIFY(shown.open(Samples::folder() + u"/Harbour"_s)); // what is read next is sorted too
+        QCOMPARE(firstYear(), u"1999"_s);
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, year);
+        QCOMPARE(firstYear(), u"1998"_s); // as it was read
     }
 
     void aFolderThatIsNotThereIsTold()

@@ -162,6 +162,35 @@ private Q_SLOTS:
         QTRY_COMPARE(table.search.numberOfMatches(), 4);
     }
 
+    void theCurrentMatchMovesWithItsTrack()
+    {
+        Fixture table({Samples::track({u"c ab"_s, u"Track 10"_s}), Samples::track({u"b ab"_s, {}}),
+                       Samples::track({u"a ab"_s, u"track 9 ab"_s})});
+        table.find(u"ab"_s);
+        table.search.step(TrackSearch::Forward);
+        table.search.step(TrackSearch::Forward);
+        QCOMPARE(table.places().at(table.search.currentMatch()), (Place{1, TrackField::FileName, {2, 2}}));
+        const auto names = [&table] {
+            QString initials;
+            for (int row = 0; row < 3; ++row)
+                initials += table.model.track(row).text(TrackField::FileName).front();
+            return initials;
+        };
+        table.model.sort(int(TrackField::Title), Qt::AscendingOrder);
+        QCOMPARE(names(), u"acb"_s); // by number, whatever the case, and without a title last
+        QCOMPARE(table.places().at(table.search.currentMatch()), (Place{2, TrackField::FileName, {2, 2}}));
+        table.model.sort(int(TrackField::Title), Qt::DescendingOrder);
+        QCOMPARE(names(), u"cab"_s);
+        table.model.sort(int(TrackField::FileName), Qt::AscendingOrder);
+        QCOMPARE(names(), u"abc"_s);
+        QCOMPARE(table.places(),
+                 (QList<Place>{{0, TrackField::FileName, {2, 2}},
+                               {0, TrackField::Title, {8, 2}},
+                               {1, TrackField::FileName, {2, 2}},
+                               {2, TrackField::FileName, {2, 2}}}));
+        QCOMPARE(table.search.currentMatch(), 2);
+    }
+
     void stepsGoAroundTheEnd()
     {
         Fixture table;
