@@ -3,7 +3,7 @@
 
 #include <tageditor/FindLine.h>
 
-#include <tageditor/MatchColors.h>
+#include <tageditor/MessageLabel.h>
 #include <tageditor/PatternString.h>
 #include <tageditor/TrackSearch.h>
 
@@ -13,7 +13,6 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -32,7 +31,7 @@ FindLine::FindLine(TrackSearch *search, QWidget *parent)
     , m_pattern(new QLineEdit(this))
     , m_matchingType(new QComboBox(this))
     , m_caseSensitive(new QCheckBox(tr("Case &Sensitive"), this))
-    , m_message(new QLabel(this))
+    , m_message(new MessageLabel(this))
 {
     m_pattern->setPlaceholderText(tr("Find in all tracks"));
     m_pattern->setAccessibleName(tr("Find"));
@@ -70,8 +69,6 @@ void FindLine::layOut()
     }
 
     // The message has a row of its own, always: what stands in it never moves the table.
-    m_message->setTextFormat(Qt::PlainText); // expressions stand in it
-    m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     auto *rows = new QVBoxLayout(this);
     rows->addLayout(controls);
     rows->addWidget(m_message);
@@ -141,13 +138,6 @@ bool FindLine::eventFilter(QObject *watched, QEvent *event)
     return QWidget::eventFilter(watched, event);
 }
 
-void FindLine::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::PaletteChange)
-        showResult();
-    QWidget::changeEvent(event);
-}
-
 void FindLine::insertToken(const ZEVPatternItem &item)
 {
     m_pattern->insert(PatternString::textForItem(item));
@@ -171,12 +161,17 @@ void FindLine::showGrowingCount()
         m_sinceShown.start();
     } else if (m_sinceShown.hasExpired(CountInterval)) {
         m_sinceShown.start();
-        setMessage(countText(), false);
+        m_message->showMessage(countText(), false);
         m_message->repaint();
     }
 }
 
-void FindLine::showResult() { setMessage(resultText(), !m_search->error().isEmpty()); }
+void FindLine::showResult()
+{
+    const QString text = resultText();
+    m_message->showMessage(text, !m_search->error().isEmpty());
+    m_pattern->setAccessibleDescription(text);
+}
 
 QString FindLine::resultText() const
 {
@@ -200,15 +195,4 @@ QString FindLine::countText() const
     default:
         return tr("%L1 matches").arg(count);
     }
-}
-
-void FindLine::setMessage(const QString &text, bool isError)
-{
-    QPalette colors = palette();
-    if (isError)
-        colors.setColor(QPalette::WindowText, MatchColors::errorText(colors));
-    m_message->setPalette(colors);
-    m_message->setText(text);
-    m_message->setToolTip(isError ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : QString());
-    m_pattern->setAccessibleDescription(text);
 }

@@ -8,8 +8,8 @@
 
 class QCheckBox;
 class QComboBox;
-class QLabel;
 class QLineEdit;
+class MessageLabel;
 class TrackSearch;
 class ZEVPatternItem;
 
@@ -29,9 +29,6 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-protected:
-    void changeEvent(QEvent *event) override;
-
 private:
     QWidget *makeTokenButton();
     QWidget *makeStepButton(Qt::ArrowType arrow, const QString &name, int direction);
@@ -45,12 +42,11 @@ private:
     void showResult();
     QString resultText() const;
     QString countText() const;
-    void setMessage(const QString &text, bool isError);
 
     TrackSearch *m_search;
     QLineEdit *m_pattern;
     QComboBox *m_matchingType;
     QCheckBox *m_caseSensitive;
-    QLabel *m_message;
+    MessageLabel *m_message;
     QElapsedTimer m_sinceShown;
 };

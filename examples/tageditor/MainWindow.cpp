@@ -4,8 +4,8 @@
 #include <tageditor/MainWindow.h>
 
 #include <tageditor/FindLine.h>
-#include <tageditor/MatchColors.h>
 #include <tageditor/MatchHighlightDelegate.h>
+#include <tageditor/MessageLabel.h>
 
 #include <ZEVGlobalUtils/Platform/ZEVUserDefaults.h>
 
@@ -48,7 +48,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_findLine(new FindLine(&m_search))
     , m_table(new QTableView)
     , m_counts(new QLabel)
-    , m_problem(new QLabel)
+    , m_problem(new MessageLabel)
     , m_progress(new QProgressBar)
 {
     auto *content = new QWidget;
@@ -113,8 +113,6 @@ void MainWindow::setUpTable()
 
 void MainWindow::setUpStatusBar()
 {
-    m_problem->setTextFormat(Qt::PlainText); // names of folders stand in it
-    m_problem->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_progress->setAccessibleName(tr("Reading progress"));
     m_progress->setMaximumWidth(m_progress->fontMetrics().averageCharWidth() * 30);
     m_progress->hide();
@@ -129,19 +127,16 @@ void MainWindow::watchReader()
     connect(&m_reader, &FolderReader::tracksRead, &m_model, &TrackTableModel::append);
     connect(&m_reader, &FolderReader::progressed, this, &MainWindow::showProgress);
     connect(&m_reader, &FolderReader::finished, this, &MainWindow::finishReading);
-    connect(&m_reader, &FolderReader::folderSkipped, this,
-            [this](const QString &folder, const QString &reason) {
-                m_problems.append(tr("%1: %2").arg(folder, reason));
-                setProblem(tr("Not read: %1").arg(m_problems.join(u"; ")));
-            });
+    connect(&m_reader, &FolderReader::folderSkipped, this, &MainWindow::showSkippedFolder);
 }
 
 void MainWindow::openFolder(const QString &folder)
 {
     m_folder = QDir::cleanPath(QDir(folder).absolutePath());
     setWindowTitle(QDir(m_folder).dirName());
-    m_problems.clear();
-    setProblem({});
+    m_skippedFolders = 0;
+    m_firstSkipped.clear();
+    m_problem->showMessage({}, false);
     m_model.clear();
     m_progress->show();
     m_reader.readFolder(m_folder);
@@ -161,6 +156,16 @@ void MainWindow::showProgress(qsizetype read, qsizetype total)
     showCounts();
 }
 
+void MainWindow::showSkippedFolder(const QString &folder, const QString &reason)
+{
+    if (++m_skippedFolders == 1)
+        m_firstSkipped = tr("Not read: %1 (%2)").arg(folder, reason);
+    const QString text = m_skippedFolders == 1
+        ? m_firstSkipped
+        : tr("%1 and other folders (%2 in all)").arg(m_firstSkipped, QLocale().toString(m_skippedFolders));
+    m_problem->showMessage(text, true);
+}
+
 void MainWindow::finishReading(const QString &failure)
 {
     m_progress->hide();
@@ -171,8 +176,9 @@ void MainWindow::finishReading(const QString &failure)
     showCounts();
     fitColumns();
     if (!failure.isEmpty())
-        setProblem(
-            tr("The folder “%1” could not be read: %2").arg(QDir::toNativeSeparators(m_folder), failure));
+        m_problem->showMessage(
+            tr("The folder “%1” could not be read: %2").arg(QDir::toNativeSeparators(m_folder), failure),
+            true);
     Q_EMIT folderRead(failure);
 }
 
@@ -192,15 +198,6 @@ void MainWindow::showCounts()
     if (m_model.numberOfUnreadable() > 0)
         text = tr("%1, %L2 unreadable").arg(text).arg(m_model.numberOfUnreadable());
     m_counts->setText(text);
-}
-
-void MainWindow::setProblem(const QString &problem)
-{
-    QPalette colors = palette();
-    colors.setColor(QPalette::WindowText, MatchColors::errorText(colors));
-    m_problem->setPalette(colors);
-    m_problem->setText(problem);
-    m_problem->setToolTip(Qt::convertFromPlainText(problem, Qt::WhiteSpaceNormal));
 }
 
 void MainWindow::fitColumns()
@@ -228,11 +225,4 @@ void MainWindow::closeEvent(QCloseEvent *event)
     m_reader.cancel();
     ZEVUserDefaults::standardUserDefaults()->setObject(saveGeometry(), GeometryKey);
     QMainWindow::closeEvent(event);
-}
-
-void MainWindow::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::PaletteChange && m_problem)
-        setProblem(m_problem->text());
-    QMainWindow::changeEvent(event);
 }

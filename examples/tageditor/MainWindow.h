@@ -10,6 +10,7 @@
 #include <QMainWindow>
 
 class FindLine;
+class MessageLabel;
 class QLabel;
 class QProgressBar;
 class QTableView;
@@ -36,7 +37,6 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
-    void changeEvent(QEvent *event) override;
 
 private:
     void makeMenus();
@@ -46,21 +46,22 @@ private:
 
     void chooseFolder();
     void showProgress(qsizetype read, qsizetype total);
+    void showSkippedFolder(const QString &folder, const QString &reason);
     void finishReading(const QString &failure);
     void showCurrentMatch();
     void showCounts();
-    void setProblem(const QString &problem);
     void fitColumns();
     void restoreGeometryFromDefaults();
 
     QString m_folder;
-    QStringList m_problems; ///< what could not be listed, for the status bar
+    QString m_firstSkipped; ///< tells of the first folder within that could not be listed
+    int m_skippedFolders = 0;
     TrackTableModel m_model;
     TrackSearch m_search;
     FolderReader m_reader;
     FindLine *m_findLine;
     QTableView *m_table;
     QLabel *m_counts;
-    QLabel *m_problem;
+    MessageLabel *m_problem;
     QProgressBar *m_progress;
 };

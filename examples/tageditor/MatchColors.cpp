@@ -38,6 +38,11 @@ MatchColors::Pair MatchColors::forMatchOver(const QColor &base, bool isCurrent)
     return {background, blackStandsOut ? Qt::black : Qt::white};
 }
 
+QColor MatchColors::dimmedText(const QPalette &palette)
+{
+    return laidOver(palette.color(QPalette::Base), palette.color(QPalette::Text), 0.6F);
+}
+
 QColor MatchColors::errorText(const QPalette &palette)
 {
     return ZEVAppearanceHelpers::isDark(palette) ? QColor(255, 138, 128) : QColor(176, 0, 32);

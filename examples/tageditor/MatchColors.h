@@ -19,6 +19,9 @@ struct Pair {
 /// full orange, and the text in whichever of black and white stands out more.
 Pair forMatchOver(const QColor &base, bool isCurrent);
 
+/// A text of less weight than others on the base, yet no fainter than can be read.
+QColor dimmedText(const QPalette &palette);
+
 /// A text that tells of an error, on the window's background.
 QColor errorText(const QPalette &palette);
 

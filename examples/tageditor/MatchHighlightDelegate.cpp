@@ -186,10 +186,6 @@ void MatchHighlightDelegate::initStyleOption(QStyleOptionViewItem *option, const
     QStyledItemDelegate::initStyleOption(option, index);
     if (!index.data(TrackTableModel::IsUnreadableRole).toBool())
         return;
-    // The row stays selectable and is only drawn like one that is not.
     option->font.setItalic(true);
-    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
-        const QColor disabled = option->palette.color(QPalette::Disabled, QPalette::Text);
-        option->palette.setColor(group, QPalette::Text, disabled);
-    }
+    option->palette.setColor(QPalette::Text, MatchColors::dimmedText(option->palette));
 }

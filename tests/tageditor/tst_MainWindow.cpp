@@ -66,6 +66,39 @@ struct Shown {
     bool visible = false;
 };
 
+bool hasColor(const QImage &picture, const QColor &color)
+{
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (picture.pixel(x, y) == color.rgb())
+                return true;
+        }
+    }
+    return false;
+}
+
+/// Counts how often a widget is painted, and what it says then.
+class PaintLog : public QObject {
+public:
+    explicit PaintLog(QLabel *label)
+        : m_label(label)
+    {
+        label->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            texts.append(m_label->text());
+        return false;
+    }
+
+    QStringList texts;
+
+private:
+    QLabel *m_label;
+};
+
 } // namespace
 
 class tst_MainWindow : public QObject {
@@ -113,6 +146,26 @@ private Q_SLOTS:
         QCOMPARE(shown.message(), u"Match 1 of 4"_s);
     }
 
+    void theCountGrowsWithoutBeingPaintedForEveryMatch()
+    {
+        TrackTableModel model;
+        model.append({12, Samples::track({QString(100'000, u'a')})});
+        TrackSearch search(&model);
+        FindLine findLine(&search);
+        findLine.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&findLine));
+        const PaintLog log(findLine.findChild<QLabel *>());
+        findLine.setPatternText(u"a"_s);
+        QElapsedTimer elapsed;
+        elapsed.start();
+        search.searchIfPending();
+        QCOMPARE(search.numberOfMatches(), 1'200'000);
+        QVERIFY(!log.texts.isEmpty()); // painted while the search had the thread
+        QVERIFY2(log.texts.size() <= elapsed.elapsed() / 50 + 1, qPrintable(log.texts.join(u", ")));
+        QVERIFY(!log.texts.first().startsWith(u"1,200,000"));
+        QTRY_COMPARE(log.texts.last(), u"1,200,000 matches"_s);
+    }
+
     void tokensTypesAndCaseCount()
     {
         Shown shown;
@@ -139,12 +192,11 @@ private Q_SLOTS:
         QTest::keyClicks(shown.line, u"(tr"_s);
         QTRY_VERIFY2(shown.message().contains(u"(tr"), qPrintable(shown.message()));
         QCOMPARE(QApplication::activeModalWidget(), nullptr);
-        const auto color = [&] { return shown.messageLabel()->palette().color(QPalette::WindowText); };
-        QCOMPARE(color(), MatchColors::errorText(shown.window.palette()));
-        const QColor before = color();
-        QApplication::setPalette(darkPalette());
-        QTRY_VERIFY(color() != before);
-        QCOMPARE(color(), MatchColors::errorText(darkPalette()));
+        for (const QPalette &palette : {QPalette(), darkPalette()}) {
+            QApplication::setPalette(palette);
+            const QImage picture = shown.messageLabel()->grab().toImage();
+            QVERIFY(hasColor(picture, MatchColors::errorText(shown.window.palette())));
+        }
         QApplication::setPalette(QPalette());
         QTest::keyClicks(shown.line, u")"_s);
         QTRY_COMPARE(shown.message(), u"6 matches"_s);

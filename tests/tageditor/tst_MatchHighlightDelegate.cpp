@@ -169,6 +169,9 @@ private Q_SLOTS:
             QVERIFY(MatchColors::contrast(current.background, current.text) >= 4.5);
             QVERIFY(match.background != base && match.background != current.background);
         }
+        const QColor dimmed = MatchColors::dimmedText(palette);
+        QVERIFY(dimmed != palette.color(QPalette::Text));
+        QVERIFY(MatchColors::contrast(dimmed, palette.color(QPalette::Base)) >= 4.5);
         const QColor error = MatchColors::errorText(palette);
         QVERIFY(MatchColors::contrast(error, palette.color(QPalette::Window)) >= 4.5);
     }
