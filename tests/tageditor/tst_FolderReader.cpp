@@ -8,6 +8,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -110,29 +111,29 @@ private Q_SLOTS:
 
     void nothingComesOfWhatWasCancelled()
     {
-        const QTemporaryDir many;
-        for (int n = 0; n < 300; ++n)
-            QVERIFY(Samples::copy(u"Track 7.m4a"_s, many.filePath(u"%1.m4a"_s.arg(n))));
+        const QTemporaryDir folder;
+        const std::string pipe = folder.filePath(u"a.mp3"_s).toStdString();
+        QCOMPARE(::mkfifo(pipe.c_str(), 0600), 0);
+        for (int n = 0; n < 50; ++n)
+            QVERIFY(Samples::copy(u"Track 7.m4a"_s, folder.filePath(u"b%1.m4a"_s.arg(n))));
         FolderReader reader;
-        QSignalSpy tracksRead(&reader, &FolderReader::tracksRead);
+        const QSignalSpy tracksRead(&reader, &FolderReader::tracksRead);
+        const QSignalSpy progressed(&reader, &FolderReader::progressed);
         QSignalSpy finished(&reader, &FolderReader::finished);
 
-        // In the middle: the first sign of the reading proper ends it.
-        connect(&reader, &FolderReader::progressed, &reader, [&](qsizetype, qsizetype total) {
-            if (total == 300)
-                reader.cancel();
-        });
-        reader.readFolder(many.path());
-        QTRY_VERIFY(!reader.isReading());
-        const qsizetype before = tracksRead.size();
-
-        // Of one reading behind another only the last is told of.
-        reader.readFolder(many.path());
+        reader.readFolder(folder.path());
+        // This end of the pipe opens when the reader looks at the other, in the middle of the reading: the
+        // first of its reports are on their way then.
+        const int end = ::open(pipe.c_str(), O_WRONLY);
+        reader.cancel();
+        ::close(end);
+        QVERIFY(!reader.isReading());
         reader.readFolder(Samples::folder() + u"/Sever"_s);
         QVERIFY(finished.wait());
         QCOMPARE(finished.size(), 1);
         QCOMPARE(names(tracksRead), (QStringList{u"09 Reka.flac"_s, u"10 Doroga.ogg"_s}));
-        QCOMPARE(before, 0);
+        for (const QVariantList &arguments : progressed)
+            QVERIFY(arguments.at(1).toInt() != 51);
     }
 
     void itMayBeDestroyedWhileItReads()
