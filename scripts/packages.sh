@@ -9,7 +9,7 @@ build_packages=(
     libicu-dev libtag1-dev
 )
 # Without a display of its own, a machine also lacks the server and the fonts.
-display_packages=(xvfb xauth fonts-dejavu-core fonts-ipafont-gothic)
+display_packages=(xvfb xauth fonts-dejavu-core fonts-ipafont-gothic fonts-noto-color-emoji)
 check_packages=(clang-format clang-tidy)
 
 install_packages() {
