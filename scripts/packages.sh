@@ -10,7 +10,7 @@ build_packages=(
 )
 # Without a display of its own, a machine also lacks the server and the fonts.
 display_packages=(xvfb xauth fonts-dejavu-core fonts-ipafont-gothic fonts-noto-color-emoji)
-check_packages=(clang-format clang-tidy)
+check_packages=(git clang-format clang-tidy)
 
 install_packages() {
     local missing=() package
