@@ -135,5 +135,65 @@
         <source>it is not well formed</source>
         <translation>it is not well formed</translation>
     </message>
+    <message>
+        <source>Zero KB</source>
+        <translation>Zero KB</translation>
+    </message>
+    <message>
+        <source>1 byte</source>
+        <translation>1 byte</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 bytes</translation>
+    </message>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 GB</translation>
+    </message>
+    <message>
+        <source>%1 TB</source>
+        <translation>%1 TB</translation>
+    </message>
+    <message>
+        <source>%1 PB</source>
+        <translation>%1 PB</translation>
+    </message>
+    <message>
+        <source>%1 EB</source>
+        <translation>%1 EB</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>%lu matches</source>
+        <translation>%lu matches</translation>
+    </message>
+    <message>
+        <source>%d Results Found</source>
+        <translation>%d Results Found</translation>
+    </message>
+    <message>
+        <source>“%1” is not a whole number.</source>
+        <translation>“%1” is not a whole number.</translation>
+    </message>
+    <message>
+        <source>The number is too small.</source>
+        <translation>The number is too small.</translation>
+    </message>
+    <message>
+        <source>The number is too large.</source>
+        <translation>The number is too large.</translation>
+    </message>
 </context>
 </TS>
