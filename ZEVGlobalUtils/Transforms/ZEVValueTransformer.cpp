@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <ZEVGlobalUtils/Transforms/ZEVValueTransformer.h>
+
+#include <ZEVGlobalUtils/Transforms/ByteSizeTransformer.h>
+#include <ZEVGlobalUtils/Transforms/FileSizeTransformer.h>
+#include <ZEVGlobalUtils/Transforms/ResolutionTransformer.h>
+#include <ZEVGlobalUtils/Transforms/TagSizeTransformer.h>
+#include <ZEVGlobalUtils/Transforms/ZEVMatchesCountDisplayTransformer.h>
+#include <ZEVGlobalUtils/Transforms/ZEVResultsCountDisplayTransformer.h>
+#include <ZEVGlobalUtils/Transforms/ZEVSelectedObjectsToOneTransformer.h>
+#include <ZEVGlobalUtils/Transforms/ZEVStringIsEmptyOrNil.h>
+#include <ZEVGlobalUtils/Transforms/ZEVStringIsNotEmpty.h>
+
+#include <QMap>
+#include <QMutex>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Registry {
+    QMutex mutex;
+    QMap<QString, std::shared_ptr<const ZEVValueTransformer>> transformers{
+        {u"FileSizeTransformer"_s, std::make_shared<FileSizeTransformer>()},
+        {u"ByteSizeTransformer"_s, std::make_shared<ByteSizeTransformer>()},
+        {u"TagSizeTransformer"_s, std::make_shared<TagSizeTransformer>()},
+        {u"ResolutionTransformer"_s, std::make_shared<ResolutionTransformer>()},
+        {u"ZEVMatchesCountDisplayTransformer"_s, std::make_shared<ZEVMatchesCountDisplayTransformer>()},
+        {u"ZEVResultsCountDisplayTransformer"_s, std::make_shared<ZEVResultsCountDisplayTransformer>()},
+        {u"ZEVSelectedObjectsToOneTransformer"_s, std::make_shared<ZEVSelectedObjectsToOneTransformer>()},
+        {u"ZEVStringIsNotEmpty"_s, std::make_shared<ZEVStringIsNotEmpty>()},
+        {u"ZEVStringIsEmptyOrNil"_s, std::make_shared<ZEVStringIsEmptyOrNil>()},
+    };
+};
+
+Registry &registry()
+{
+    static Registry shared;
+    return shared;
+}
+
+} // namespace
+
+ZEVValueTransformer::~ZEVValueTransformer() = default;
+
+std::shared_ptr<const ZEVValueTransformer> ZEVValueTransformer::valueTransformerForName(const QString &name)
+{
+    const QMutexLocker lock(&registry().mutex);
+    return registry().transformers.value(name);
+}
+
+void ZEVValueTransformer::setValueTransformer(std::shared_ptr<const ZEVValueTransformer> transformer,
+                                              const QString &name)
+{
+    const QMutexLocker lock(&registry().mutex);
+    registry().transformers.insert(name, std::move(transformer));
+}
+
+QStringList ZEVValueTransformer::valueTransformerNames()
+{
+    const QMutexLocker lock(&registry().mutex);
+    return registry().transformers.keys();
+}
