@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <limits>
 
+using ZEVCaseMapping::Buffer;
 using ZEVCaseMapping::Form;
 
 namespace {
@@ -28,11 +29,11 @@ bool mayLeadWord(char16_t unit)
 }
 
 /// ICU's results for ASCII text in no special language, without its set-up for each word.
-void appendAscii(QString &result, QStringView text, Form form)
+void appendAscii(Buffer &result, QStringView text, Form form)
 {
     const qsizetype begin = result.size();
     result.resize(begin + text.size());
-    QChar *const target = result.data() + begin;
+    char16_t *const target = result.data() + begin;
     bool led = form != Form::Capitalized;
     for (qsizetype i = 0; i < text.size(); ++i) {
         const char16_t unit = text[i].unicode();
@@ -59,19 +60,18 @@ int32_t mapped(QStringView text, Form form, const char *locale, char16_t *target
 }
 
 /// Maps straight into the result, again with the room that is needed where the first guess was too small.
-void appendMapped(QString &result, QStringView text, Form form, const char *locale)
+void appendMapped(Buffer &result, QStringView text, Form form, const char *locale)
 {
     const qsizetype begin = result.size();
     int32_t capacity = static_cast<int32_t>(text.size()) + 8;
     for (;;) {
         result.resize(begin + capacity);
-        auto *const target = reinterpret_cast<char16_t *>(result.data() + begin);
         UErrorCode code = U_ZERO_ERROR;
-        const int32_t length = mapped(text, form, locale, target, capacity, code);
+        const int32_t length = mapped(text, form, locale, result.data() + begin, capacity, code);
         if (code != U_BUFFER_OVERFLOW_ERROR) {
             result.resize(begin + (U_SUCCESS(code) ? length : 0));
             if (U_FAILURE(code))
-                result.append(text); // nothing is lost
+                ZEVCaseMapping::append(result, text); // nothing is lost
             return;
         }
         capacity = length;
@@ -80,26 +80,26 @@ void appendMapped(QString &result, QStringView text, Form form, const char *loca
 
 } // namespace
 
-void ZEVCaseMapping::append(QString &result, QStringView text, Form form, const QByteArray &localeIdentifier)
+void ZEVCaseMapping::append(Buffer &result, QStringView text, Form form, const QByteArray &localeIdentifier)
 {
     if (localeIdentifier.isEmpty() && isAscii(text))
         appendAscii(result, text, form);
     else if (text.size() < std::numeric_limits<int32_t>::max() / 4) // ICU counts in 32 bits
         appendMapped(result, text, form, localeIdentifier.constData());
     else
-        result.append(text);
+        append(result, text);
 }
 
 QString ZEVCaseMapping::lowerCased(QStringView text, const QByteArray &localeIdentifier)
 {
-    QString result;
+    Buffer result;
     append(result, text, Form::Lower, localeIdentifier);
-    return result;
+    return view(result).toString();
 }
 
 QString ZEVCaseMapping::upperCased(QStringView text, const QByteArray &localeIdentifier)
 {
-    QString result;
+    Buffer result;
     append(result, text, Form::Upper, localeIdentifier);
-    return result;
+    return view(result).toString();
 }

@@ -27,6 +27,8 @@ struct ZEVCharacterSet::Private {
 ZEVCharacterSet::ZEVCharacterSet(std::shared_ptr<const Private> members)
     : d(std::move(members))
 {
+    for (char32_t character = 0; character < 0x80; ++character)
+        m_ascii[character / 64] |= quint64(isMember(character)) << (character % 64);
 }
 
 ZEVCharacterSet ZEVCharacterSet::charactersInString(QStringView characters)
@@ -62,7 +64,7 @@ ZEVCharacterSet ZEVCharacterSet::inverted() const
     return ZEVCharacterSet(std::make_shared<const Private>(*set));
 }
 
-bool ZEVCharacterSet::contains(char32_t character) const
+bool ZEVCharacterSet::isMember(char32_t character) const
 {
     return d->set.contains(static_cast<UChar32>(character));
 }

@@ -7,6 +7,7 @@
 
 #include <QStringView>
 
+#include <array>
 #include <memory>
 
 /// An immutable set of Unicode characters. A copy shares the set; reading is safe from any thread. A half of
@@ -23,11 +24,18 @@ public:
     static const ZEVCharacterSet &decimalDigits();
 
     ZEVCharacterSet inverted() const;
-    bool contains(char32_t character) const;
+    bool contains(char32_t character) const
+    {
+        return character < 0x80 ? (m_ascii[character / 64] >> (character % 64) & 1) != 0
+                                : isMember(character);
+    }
 
 private:
     struct Private;
     explicit ZEVCharacterSet(std::shared_ptr<const Private> members);
 
+    bool isMember(char32_t character) const;
+
     std::shared_ptr<const Private> d;
+    std::array<quint64, 2> m_ascii{}; // a bit a character: most texts ask for nothing else
 };

@@ -17,11 +17,13 @@ struct ZEVWordIterator::Breaker {
     ~Breaker() { utext_close(&text); }
     Q_DISABLE_COPY_MOVE(Breaker)
 
-    void setText(QStringView string);
+    void setText(QStringView newString);
+    bool isWordAt(qsizetype begin) const;
 
     QByteArray locale;
     std::unique_ptr<icu::BreakIterator> words;
     UText text = UTEXT_INITIALIZER;
+    QStringView string;
 };
 
 ZEVWordIterator::Breaker::Breaker(const QByteArray &localeIdentifier)
@@ -36,13 +38,24 @@ ZEVWordIterator::Breaker::Breaker(const QByteArray &localeIdentifier)
 }
 
 /// ICU counts in 32 bits: what a text has beyond them counts as no word.
-void ZEVWordIterator::Breaker::setText(QStringView string)
+void ZEVWordIterator::Breaker::setText(QStringView newString)
 {
+    string = newString;
     const qsizetype length = std::min<qsizetype>(string.size(), std::numeric_limits<int32_t>::max());
     UErrorCode code = U_ZERO_ERROR;
     utext_openUChars(&text, string.utf16(), length, &code);
     if (words)
         words->setText(&text, code);
+}
+
+/// Whether the piece that the breaker has just passed is a word. ICU is slow to tell, and of a piece that
+/// begins in ASCII its first character tells: only after "_" it depends on what follows.
+bool ZEVWordIterator::Breaker::isWordAt(qsizetype begin) const
+{
+    const char16_t first = string[begin].unicode();
+    if (first < 0x80 && first != u'_')
+        return QChar::isLetterOrNumber(first);
+    return words->getRuleStatus() >= UBRK_WORD_NONE_LIMIT;
 }
 
 /// Making a breaker costs as much as breaking hundreds of titles, so each thread keeps those that it made. A
@@ -93,7 +106,7 @@ std::optional<ZEVRange> ZEVWordIterator::next()
          end = m_breaker->words->next()) {
         const ZEVRange piece{m_position, end - m_position};
         m_position = end;
-        if (m_breaker->words->getRuleStatus() >= UBRK_WORD_NONE_LIMIT)
+        if (m_breaker->isWordAt(piece.location))
             return piece;
     }
     return std::nullopt;

@@ -15,6 +15,13 @@ using ZEVCaseMapping::Form;
 
 namespace {
 
+/// Words of a title are short, and looked up more often than anything else: a hash of all units costs more
+/// than it saves.
+std::size_t bucketOf(QStringView word)
+{
+    return (word.front().unicode() * 5U + word.back().unicode() * 3U + std::size_t(word.size())) % 64;
+}
+
 ZEVTermSet termsInText(const QString &commaSeparated)
 {
     const QStringList words = commaSeparated.split(u',');
@@ -25,9 +32,9 @@ ZEVTermSet termsInForm(const QStringList &words, Form form, const QByteArray &lo
 {
     QSet<QString> terms;
     for (const QString &word : words) {
-        QString term;
+        ZEVCaseMapping::Buffer term;
         ZEVCaseMapping::append(term, word.trimmed(), form, locale);
-        terms.insert(term);
+        terms.insert(ZEVCaseMapping::view(term).toString());
     }
     return ZEVTermSet(std::move(terms));
 }
@@ -50,13 +57,16 @@ bool wordGoesOn(QStringView text, qsizetype position)
 ZEVTermSet::ZEVTermSet(QSet<QString> termWords)
     : words(std::move(termWords))
 {
-    for (const QString &word : std::as_const(words))
+    words.remove(QString());
+    for (const QString &word : std::as_const(words)) {
         longest = std::max(longest, word.size());
+        buckets[bucketOf(word)].push_back(word);
+    }
 }
 
 bool ZEVTermSet::contains(QStringView word) const
 {
-    return words.contains(QString::fromRawData(word.data(), word.size())); // no copy, no allocation
+    return std::ranges::any_of(buckets[bucketOf(word)], [=](const QString &term) { return word == term; });
 }
 
 const ZEVTermSet &ZEVCaseTerms::upperCase()

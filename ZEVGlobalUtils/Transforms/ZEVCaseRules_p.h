@@ -8,6 +8,7 @@
 
 #include <QSet>
 
+#include <array>
 #include <vector>
 
 /// A set of words of which the longest is known, so that most words of a text are no look-up.
@@ -18,6 +19,7 @@ struct ZEVTermSet {
     bool contains(QStringView word) const;
 
     QSet<QString> words;
+    std::array<std::vector<QString>, 64> buckets; ///< the same words, by what tells most of them apart
     qsizetype longest = 0; ///< UTF-16 units
 };
 

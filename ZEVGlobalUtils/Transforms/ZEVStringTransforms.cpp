@@ -9,6 +9,7 @@
 #include <ZEVGlobalUtils/Transforms/ZEVTitleCase_p.h>
 
 using namespace Qt::StringLiterals;
+using ZEVCaseMapping::Buffer;
 using ZEVCaseMapping::Form;
 
 namespace {
@@ -30,27 +31,26 @@ QList<ZEVRange> untouchedRanges(QStringView text, const ZEVCaseRules::Compiled &
 /// Lower-cased as a whole, not word by word: the form of a Greek sigma depends on what stands around it.
 QString lowerCasedAround(const QList<ZEVRange> &untouched, QStringView text, const QByteArray &locale)
 {
-    QString result;
-    result.reserve(text.size() + 16);
+    Buffer result;
     qsizetype done = 0;
     for (const ZEVRange &range : untouched) {
         ZEVCaseMapping::append(result, text.sliced(done, range.location - done), Form::Lower, locale);
-        result += text.sliced(range.location, range.length);
+        ZEVCaseMapping::append(result, text.sliced(range.location, range.length));
         done = range.end();
     }
     ZEVCaseMapping::append(result, text.sliced(done), Form::Lower, locale);
-    return result;
+    return ZEVCaseMapping::view(result).toString();
 }
 
 /// By whole characters: a letter of two UTF-16 units is no less a letter.
-void appendLettersOf(QStringView word, QString &letters)
+void appendLettersOf(QStringView word, Buffer &letters)
 {
     static const ZEVCharacterSet letterSet = ZEVCharacterSet::letters();
     for (qsizetype i = 0; i < word.size(); ++i) {
         const bool isPair = word[i].isHighSurrogate() && i + 1 < word.size() && word[i + 1].isLowSurrogate();
         const char32_t character = isPair ? QChar::surrogateToUcs4(word[i], word[i + 1]) : word[i].unicode();
         if (letterSet.contains(character))
-            letters += word.sliced(i, isPair ? 2 : 1);
+            ZEVCaseMapping::append(letters, word.sliced(i, isPair ? 2 : 1));
         i += isPair ? 1 : 0;
     }
 }
@@ -60,21 +60,20 @@ void appendLettersOf(QStringView word, QString &letters)
 QString ZEVStringTransforms::orvCapitalizedString(QStringView string, const ZEVCaseRules &caseRules)
 {
     const ZEVCaseRules::Compiled &rules = caseRules.compiled();
-    QString result;
-    result.reserve(string.size() + 16);
+    Buffer result;
     qsizetype done = 0;
     ZEVWordWalk words(string, rules);
     while (const auto word = words.next()) {
-        result += string.sliced(done, word->range.location - done);
+        ZEVCaseMapping::append(result, string.sliced(done, word->range.location - done));
         const QStringView text = string.sliced(word->range.location, word->range.length);
         if (word->isUntouched)
-            result += text;
+            ZEVCaseMapping::append(result, text);
         else
             ZEVAppendOrvCapitalizedWord(result, text, rules);
         done = word->range.end();
     }
-    result += string.sliced(done);
-    return result;
+    ZEVCaseMapping::append(result, string.sliced(done));
+    return ZEVCaseMapping::view(result).toString();
 }
 
 QString ZEVStringTransforms::orvTitleCaseString(QStringView string, const ZEVCaseRules &rules)
@@ -90,28 +89,30 @@ QString ZEVStringTransforms::sentenceCaseString(QStringView string, const ZEVCas
     const auto first = ZEVWordIterator(result, rules.wordBreakLocale()).next();
     if (!first || (!untouched.isEmpty() && untouched.first().location <= first->location))
         return result;
-    QString capitalized;
+    Buffer capitalized;
     ZEVCaseMapping::append(capitalized, result.sliced(first->location, first->length), Form::Capitalized,
                            rules.caseLocale);
-    return result.replace(first->location, first->length, capitalized);
+    return result.replace(first->location, first->length, reinterpret_cast<const QChar *>(capitalized.data()),
+                          capitalized.size());
 }
 
 QString ZEVStringTransforms::camelCaseString(QStringView string, const ZEVCaseRules &caseRules)
 {
     const ZEVCaseRules::Compiled &rules = caseRules.compiled();
-    QString result;
-    QString letters;
+    Buffer result;
+    Buffer letters;
     ZEVWordWalk words(string, rules);
     while (const auto word = words.next()) {
-        letters.resize(0); // keeps its memory for the next word
+        letters.clear();
         appendLettersOf(string.sliced(word->range.location, word->range.length), letters);
+        const QStringView text = ZEVCaseMapping::view(letters);
         if (word->isUntouched)
-            result += letters;
+            ZEVCaseMapping::append(result, text);
         else
-            ZEVCaseMapping::append(result, letters, result.isEmpty() ? Form::Lower : Form::Capitalized,
+            ZEVCaseMapping::append(result, text, result.isEmpty() ? Form::Lower : Form::Capitalized,
                                    rules.caseLocale);
     }
-    return result;
+    return ZEVCaseMapping::view(result).toString();
 }
 
 QString ZEVStringTransforms::sansUnderscoresString(QStringView string)

@@ -6,11 +6,13 @@
 #include <ZEVGlobalUtils/Platform/ZEVCaseMapping.h>
 #include <ZEVGlobalUtils/Platform/ZEVCharacterSet.h>
 #include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
+#include <ZEVGlobalUtils/Platform/ZEVRegularExpressionMatcher.h>
 #include <ZEVGlobalUtils/Transforms/ZEVStringTransforms.h>
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+using ZEVCaseMapping::Buffer;
 using ZEVCaseMapping::Form;
 
 namespace {
@@ -30,54 +32,82 @@ const Shared &shared()
     return values;
 }
 
-bool matchesOnce(std::optional<ZEVRegularExpressionMatcher> &matcher, const ZEVRegularExpression &expression,
-                 QStringView word)
+/// Appends a word in the form in which it is one of the terms, or nothing.
+bool appendedAsTerm(Buffer &result, QStringView word, Form form, const ZEVTermSet &terms,
+                    const ZEVCaseRules::Compiled &rules)
 {
-    if (!matcher)
-        matcher.emplace(expression);
-    matcher->setText(word);
-    return matcher->findNext() && !matcher->findNext();
+    const qsizetype begin = result.size();
+    ZEVCaseMapping::append(result, word, form, rules.caseLocale);
+    if (terms.contains(ZEVCaseMapping::view(result).sliced(begin)))
+        return true;
+    result.resize(begin);
+    return false;
+}
+
+/// The matchers are kept by each thread: making one costs more than a whole title.
+bool matchesOnce(ZEVRegularExpressionMatcher &matcher, QStringView word)
+{
+    matcher.setText(word);
+    return matcher.findNext() && !matcher.findNext();
+}
+
+/// Kept: the digits may be absent, so a bare "st" stays small. The expression is asked only about words with
+/// such an end.
+bool isOrdinal(QStringView word)
+{
+    const QStringView end = word.last(std::min<qsizetype>(word.size(), 2));
+    const bool mayBe = end == u"st" || end == u"nd" || end == u"rd" || end == u"th";
+    if (!mayBe)
+        return false;
+    thread_local ZEVRegularExpressionMatcher matcher(shared().ordinalNumbersRegex);
+    return matchesOnce(matcher, word);
+}
+
+/// Kept: only numerals in capitals count, and "MIX" is one. The expression is asked only about words of
+/// nothing but numerals.
+bool isRomanNumeral(QStringView word)
+{
+    const auto isNumeral = [](QChar unit) { return QStringView(u"IVXLCDM").contains(unit); };
+    if (!std::ranges::all_of(word, isNumeral))
+        return false;
+    thread_local ZEVRegularExpressionMatcher matcher(shared().romanNumeralRegex);
+    return matchesOnce(matcher, word);
 }
 
 } // namespace
 
-void ZEVAppendOrvCapitalizedWord(QString &result, QStringView word, const ZEVCaseRules::Compiled &rules)
+void ZEVAppendOrvCapitalizedWord(Buffer &result, QStringView word, const ZEVCaseRules::Compiled &rules)
 {
-    const qsizetype begin = result.size();
-    ZEVCaseMapping::append(result, word, Form::Capitalized, rules.caseLocale);
-    const auto capitalized = QStringView(result).sliced(begin);
-    if (!rules.mayBeTerm(capitalized, rules.upperCaseTerms))
-        return;
-    const QString capitals = ZEVCaseMapping::upperCased(capitalized, rules.caseLocale);
-    if (rules.upperCaseTerms.contains(capitals))
-        result.replace(begin, result.size() - begin, capitals);
+    if (!rules.mayBeTerm(word, rules.upperCaseTerms)
+        || !appendedAsTerm(result, word, Form::Upper, rules.upperCaseTerms, rules))
+        ZEVCaseMapping::append(result, word, Form::Capitalized, rules.caseLocale);
 }
 
 QString ZEVTitleCase::result()
 {
-    m_result.reserve(m_text.size() + 16);
     qsizetype done = 0;
     ZEVWordWalk words(m_text, m_rules);
     while (const auto word = words.next()) {
-        m_result += m_text.sliced(done, word->range.location - done);
+        ZEVCaseMapping::append(m_result, m_text.sliced(done, word->range.location - done));
         appendWord(*word);
         done = word->range.end();
     }
-    m_result += m_text.sliced(done);
-    return std::move(m_result);
+    ZEVCaseMapping::append(m_result, m_text.sliced(done));
+    return ZEVCaseMapping::view(m_result).toString();
 }
 
 void ZEVTitleCase::appendWord(const ZEVWordWalk::Word &word)
 {
     const QStringView text = m_text.sliced(word.range.location, word.range.length);
     if (word.isUntouched)
-        m_result += text;
-    else if ((isFollowedByFullStop(word) || isInner(word)) && appendedAsLowerCaseTerm(text))
+        ZEVCaseMapping::append(m_result, text);
+    else if (m_rules.mayBeTerm(text, m_rules.lowerCaseTerms) && (isFollowedByFullStop(word) || isInner(word))
+             && appendedAsTerm(m_result, text, Form::Lower, m_rules.lowerCaseTerms, m_rules))
         return;
     else if (isOrdinal(text))
         ZEVCaseMapping::append(m_result, text, Form::Lower, m_rules.caseLocale);
     else if (isRomanNumeral(text))
-        m_result += text;
+        ZEVCaseMapping::append(m_result, text);
     else
         ZEVAppendOrvCapitalizedWord(m_result, text, m_rules);
 }
@@ -87,7 +117,7 @@ bool ZEVTitleCase::isInner(const ZEVWordWalk::Word &word) const
 {
     if (word.isFirst || word.enclosingEnd == m_text.size())
         return false;
-    if (shared().parenthesisSet.contains(m_result.back().unicode()))
+    if (shared().parenthesisSet.contains(m_result.back()))
         return false;
     return !followsReset();
 }
@@ -98,8 +128,8 @@ bool ZEVTitleCase::followsReset() const
 {
     const ZEVCharacterSet &whitespace = ZEVCharacterSet::whitespace();
     for (qsizetype i = m_result.size() - 1; i > 0; --i) {
-        if (!whitespace.contains(m_result[i].unicode()))
-            return ZEVStringTransforms::punctuationResetSet().contains(m_result[i].unicode());
+        if (!whitespace.contains(m_result[i]))
+            return ZEVStringTransforms::punctuationResetSet().contains(m_result[i]);
     }
     return false;
 }
@@ -108,34 +138,4 @@ bool ZEVTitleCase::followsReset() const
 bool ZEVTitleCase::isFollowedByFullStop(const ZEVWordWalk::Word &word) const
 {
     return word.range.end() < word.enclosingEnd && m_text[word.range.end()] == u'.';
-}
-
-bool ZEVTitleCase::appendedAsLowerCaseTerm(QStringView word)
-{
-    if (!m_rules.mayBeTerm(word, m_rules.lowerCaseTerms))
-        return false;
-    const qsizetype begin = m_result.size();
-    ZEVCaseMapping::append(m_result, word, Form::Lower, m_rules.caseLocale);
-    if (m_rules.lowerCaseTerms.contains(QStringView(m_result).sliced(begin)))
-        return true;
-    m_result.truncate(begin);
-    return false;
-}
-
-/// Kept: the digits may be absent, so a bare "st" stays small. The expression is asked only about words with
-/// such an end.
-bool ZEVTitleCase::isOrdinal(QStringView word)
-{
-    const bool mayBe =
-        word.endsWith(u"st") || word.endsWith(u"nd") || word.endsWith(u"rd") || word.endsWith(u"th");
-    return mayBe && matchesOnce(m_ordinals, shared().ordinalNumbersRegex, word);
-}
-
-/// Kept: only numerals in capitals count, and "MIX" is one. The expression is asked only about words of
-/// nothing but numerals.
-bool ZEVTitleCase::isRomanNumeral(QStringView word)
-{
-    const auto isNumeral = [](QChar unit) { return QStringView(u"IVXLCDM").contains(unit); };
-    return std::ranges::all_of(word, isNumeral)
-        && matchesOnce(m_romanNumerals, shared().romanNumeralRegex, word);
 }

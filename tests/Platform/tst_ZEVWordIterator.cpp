@@ -24,9 +24,10 @@ QStringList words(const QString &text, const QByteArray &locale = "en")
 
 QString mapped(QStringView text, Form form, const QByteArray &locale)
 {
-    QString result = u"before "_s;
+    ZEVCaseMapping::Buffer result;
+    ZEVCaseMapping::append(result, u"before ");
     ZEVCaseMapping::append(result, text, form, locale);
-    return result.sliced(7);
+    return ZEVCaseMapping::view(result).sliced(7).toString();
 }
 
 } // namespace
