@@ -4,7 +4,7 @@
 // 100,000 candidates scored at each press of a key, beside the steps of the score written down one after the
 // other on QString.
 
-#include "BenchTitles_p.h"
+#include "MusicTitles.h"
 
 #include <ZEVGlobalUtils/Transforms/ZEVStringScorer.h>
 

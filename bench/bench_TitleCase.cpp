@@ -4,7 +4,7 @@
 // Title case of 1,000,000 titles beside a plain loop over ICU's word breaks with its title-casing of each
 // word.
 
-#include "BenchTitles_p.h"
+#include "MusicTitles.h"
 
 #include <ZEVGlobalUtils/Transforms/ZEVStringTransforms.h>
 

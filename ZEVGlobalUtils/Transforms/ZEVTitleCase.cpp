@@ -20,6 +20,7 @@ namespace {
 /// What title case needs beside the lists, made together and once.
 struct Shared {
     ZEVCharacterSet parenthesisSet = ZEVCharacterSet::charactersInString(u"{[(");
+    ZEVCharacterSet romanNumerals = ZEVCharacterSet::charactersInString(u"IVXLCDM");
     ZEVRegularExpression romanNumeralRegex =
         ZEVRegularExpression::compile(u"^M{0,4}(CM|CD|D?C{0,3})(XC|XL|L?X{0,3})(IX|IV|V?I{0,3})$"_s).value();
     ZEVRegularExpression ordinalNumbersRegex =
@@ -44,34 +45,43 @@ bool appendedAsTerm(Buffer &result, QStringView word, Form form, const ZEVTermSe
     return false;
 }
 
-/// The matchers are kept by each thread: making one costs more than a whole title.
-bool matchesOnce(ZEVRegularExpressionMatcher &matcher, QStringView word)
+/// The matchers are kept by each thread: making one costs more than a whole title. One that has struck its
+/// limits too often is of no more use.
+bool matchesOnce(std::optional<ZEVRegularExpressionMatcher> &matcher, const ZEVRegularExpression &expression,
+                 QStringView word)
 {
-    matcher.setText(word);
-    return matcher.findNext() && !matcher.findNext();
+    if (!matcher || matcher->isExhausted())
+        matcher.emplace(expression);
+    matcher->setText(word);
+    return matcher->findNext() && !matcher->findNext();
+}
+
+bool endsLikeOrdinal(QChar lastButOne, QChar last)
+{
+    return (last == u't' && lastButOne == u's')
+        || (last == u'd' && (lastButOne == u'n' || lastButOne == u'r'))
+        || (last == u'h' && lastButOne == u't');
 }
 
 /// Kept: the digits may be absent, so a bare "st" stays small. The expression is asked only about words with
 /// such an end.
 bool isOrdinal(QStringView word)
 {
-    const QStringView end = word.last(std::min<qsizetype>(word.size(), 2));
-    const bool mayBe = end == u"st" || end == u"nd" || end == u"rd" || end == u"th";
-    if (!mayBe)
+    if (word.size() < 2 || !endsLikeOrdinal(word[word.size() - 2], word.back()))
         return false;
-    thread_local ZEVRegularExpressionMatcher matcher(shared().ordinalNumbersRegex);
-    return matchesOnce(matcher, word);
+    thread_local std::optional<ZEVRegularExpressionMatcher> matcher;
+    return matchesOnce(matcher, shared().ordinalNumbersRegex, word);
 }
 
 /// Kept: only numerals in capitals count, and "MIX" is one. The expression is asked only about words of
 /// nothing but numerals.
 bool isRomanNumeral(QStringView word)
 {
-    const auto isNumeral = [](QChar unit) { return QStringView(u"IVXLCDM").contains(unit); };
+    const auto isNumeral = [](QChar unit) { return shared().romanNumerals.contains(unit.unicode()); };
     if (!std::ranges::all_of(word, isNumeral))
         return false;
-    thread_local ZEVRegularExpressionMatcher matcher(shared().romanNumeralRegex);
-    return matchesOnce(matcher, word);
+    thread_local std::optional<ZEVRegularExpressionMatcher> matcher;
+    return matchesOnce(matcher, shared().romanNumeralRegex, word);
 }
 
 } // namespace
