@@ -7,8 +7,8 @@
 
 struct ZEVCharacterSet::Private {
     /// Freezing makes look-ups fast and safe from any thread.
-    explicit Private(icu::UnicodeSet characters)
-        : set(std::move(characters))
+    explicit Private(const icu::UnicodeSet &characters)
+        : set(characters)
     {
         set.freeze();
     }

@@ -107,10 +107,11 @@ const QByteArray &ZEVCaseRules::Compiled::wordBreakLocale() const
 
 std::optional<ZEVRange> ZEVCaseRules::Compiled::untouchedRangeAt(QStringView text, qsizetype position) const
 {
-    const auto candidates = std::ranges::equal_range(spellings, text[position], {}, &Spelling::initial);
-    for (const Spelling &spelling : candidates) {
-        const ZEVRange range{position - spelling.wordBegin, spelling.text.size()};
-        if (range.location >= 0 && text.sliced(range.location).startsWith(spelling.text)
+    const QChar initial = text[position];
+    auto spelling = std::ranges::lower_bound(spellings, initial, {}, &Spelling::initial);
+    for (; spelling != spellings.end() && spelling->initial() == initial; ++spelling) {
+        const ZEVRange range{position - spelling->wordBegin, spelling->text.size()};
+        if (range.location >= 0 && text.sliced(range.location).startsWith(spelling->text)
             && !wordGoesOn(text, range.end()))
             return range;
     }

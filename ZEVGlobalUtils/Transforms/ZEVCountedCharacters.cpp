@@ -18,8 +18,8 @@ const ZEVCountedCharacters::Table &ZEVCountedCharacters::firstCharacters()
 {
     static const Table table = [] {
         Table counted{};
-        for (char16_t character = 0; character < counted.size(); ++character)
-            counted[character] = char16_t(countedCharacter(character));
+        for (std::size_t character = 0; character < counted.size(); ++character)
+            counted[character] = char16_t(countedCharacter(char32_t(character)));
         return counted;
     }();
     return table;

@@ -182,7 +182,8 @@ double ZEVStringScorer::Private::finalScore(const Tally &tally, qsizetype length
     const auto ownLength = qsizetype(letters.size());
     const double abbreviationScore = tally.total / double(ownLength);
     const bool reduced = options.testFlag(ZEVStringScore::ReducedLongStringPenalty);
-    const double ratio = reduced ? double(ownLength / length) : double(ownLength) / double(length);
+    const qsizetype quotient = ownLength / length;
+    const double ratio = reduced ? double(quotient) : double(ownLength) / double(length);
     double score = (ratio * abbreviationScore + abbreviationScore) * 0.5 / tally.fuzzies;
     if (tally.startBonus && score + 0.15 < 1)
         score += 0.15;

@@ -106,20 +106,24 @@ QString ZEVTitleCase::result()
     return ZEVCaseMapping::view(m_result).toString();
 }
 
+/// No word is both a numeral in capitals and an ordinal, so which is asked first does not matter.
 void ZEVTitleCase::appendWord(const ZEVWordWalk::Word &word)
 {
     const QStringView text = m_text.sliced(word.range.location, word.range.length);
-    if (word.isUntouched)
-        ZEVCaseMapping::append(m_result, text);
-    else if (m_rules.mayBeTerm(text, m_rules.lowerCaseTerms) && (isFollowedByFullStop(word) || isInner(word))
-             && appendedAsTerm(m_result, text, Form::Lower, m_rules.lowerCaseTerms, m_rules))
+    if (!word.isUntouched && appendedAsSmallWord(word, text))
         return;
+    if (word.isUntouched || isRomanNumeral(text))
+        ZEVCaseMapping::append(m_result, text);
     else if (isOrdinal(text))
         ZEVCaseMapping::append(m_result, text, Form::Lower, m_rules.caseLocale);
-    else if (isRomanNumeral(text))
-        ZEVCaseMapping::append(m_result, text);
     else
         ZEVAppendOrvCapitalizedWord(m_result, text, m_rules);
+}
+
+bool ZEVTitleCase::appendedAsSmallWord(const ZEVWordWalk::Word &word, QStringView text)
+{
+    return m_rules.mayBeTerm(text, m_rules.lowerCaseTerms) && (isFollowedByFullStop(word) || isInner(word))
+        && appendedAsTerm(m_result, text, Form::Lower, m_rules.lowerCaseTerms, m_rules);
 }
 
 /// Whether the word stands within the title, where small words stay small.

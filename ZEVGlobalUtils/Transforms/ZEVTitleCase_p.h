@@ -24,6 +24,7 @@ public:
 
 private:
     void appendWord(const ZEVWordWalk::Word &word);
+    bool appendedAsSmallWord(const ZEVWordWalk::Word &word, QStringView text);
     bool isInner(const ZEVWordWalk::Word &word) const;
     bool followsReset() const;
     bool isFollowedByFullStop(const ZEVWordWalk::Word &word) const;

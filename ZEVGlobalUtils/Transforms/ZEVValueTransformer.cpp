@@ -51,11 +51,11 @@ std::shared_ptr<const ZEVValueTransformer> ZEVValueTransformer::valueTransformer
     return registry().transformers.value(name);
 }
 
-void ZEVValueTransformer::setValueTransformer(std::shared_ptr<const ZEVValueTransformer> transformer,
+void ZEVValueTransformer::setValueTransformer(const std::shared_ptr<const ZEVValueTransformer> &transformer,
                                               const QString &name)
 {
     const QMutexLocker lock(&registry().mutex);
-    registry().transformers.insert(name, std::move(transformer));
+    registry().transformers.insert(name, transformer);
 }
 
 QStringList ZEVValueTransformer::valueTransformerNames()

@@ -29,7 +29,7 @@ public:
     /// The library's own are there under the names of their classes; null for a name that nobody has set. A
     /// pattern item's valueTransformerName is such a name. Any thread.
     static std::shared_ptr<const ZEVValueTransformer> valueTransformerForName(const QString &name);
-    static void setValueTransformer(std::shared_ptr<const ZEVValueTransformer> transformer,
+    static void setValueTransformer(const std::shared_ptr<const ZEVValueTransformer> &transformer,
                                     const QString &name);
     static QStringList valueTransformerNames();
 };
