@@ -30,6 +30,10 @@ constexpr qint64 HonestStretch = 65536;
 /// more for every 4 Mi units of it: several times what such a run takes.
 constexpr qint64 UnitsPerExtraLimit = qint64(4) << 20;
 
+/// Two ways lead a text into ICU without a copy. An aliased string is the cheaper to begin with, by a seventh
+/// of a search over short pieces, but ICU looks at it anew for every match, and it counts in 32 bits.
+constexpr qsizetype LongestAlias = 4096;
+
 /// Reading the clock costs more than many an attempt at a match, so it is read at every 256th.
 constexpr unsigned AttemptsPerReading = 256;
 
@@ -96,6 +100,16 @@ public:
         return true;
     }
 
+    /// Many short matches are as much a way through the text as failed attempts are.
+    bool mayGoOnAfterMatch(qint64 end)
+    {
+        if (m_alwaysAsksForPosition)
+            return mayGoOnFrom(end);
+        if (end - m_stretchBegin >= HonestStretch)
+            beginStretch(end);
+        return true;
+    }
+
     nanoseconds charge() const
     {
         const nanoseconds spent = m_running ? threadTime() - m_textStart : nanoseconds(0);
@@ -156,10 +170,13 @@ struct ZEVRegularExpressionMatcher::Private {
     ~Private() { utext_close(&text); }
     Q_DISABLE_COPY_MOVE(Private)
 
+    void resetWithAlias(QStringView view);
+    void resetWithUText(QStringView view);
     void strike(UErrorCode code);
 
     const ZEVRegularExpression expression; // keeps alive what the matcher runs
     const std::unique_ptr<icu::RegexMatcher> matcher;
+    icu::UnicodeString alias;
     UText text = UTEXT_INITIALIZER;
     std::optional<Watch> watch;
     nanoseconds charged{};
@@ -174,6 +191,19 @@ ZEVRegularExpressionMatcher::Private::Private(const ZEVRegularExpression &usedEx
     const nanoseconds limit = ZEVRegularExpression::timeLimit();
     if (limit > 0ns)
         watch.emplace(*matcher, limit, runsUncounted(expression.pattern()));
+}
+
+void ZEVRegularExpressionMatcher::Private::resetWithAlias(QStringView view)
+{
+    alias.setTo(false, view.utf16(), static_cast<int32_t>(view.size()));
+    matcher->reset(alias);
+}
+
+void ZEVRegularExpressionMatcher::Private::resetWithUText(QStringView view)
+{
+    UErrorCode code = U_ZERO_ERROR;
+    utext_openUChars(&text, view.utf16(), view.size(), &code);
+    matcher->reset(&text);
 }
 
 void ZEVRegularExpressionMatcher::Private::strike(UErrorCode code)
@@ -194,9 +224,10 @@ ZEVRegularExpressionMatcher::~ZEVRegularExpressionMatcher() = default;
 
 void ZEVRegularExpressionMatcher::setText(QStringView text)
 {
-    UErrorCode code = U_ZERO_ERROR;
-    utext_openUChars(&d->text, text.utf16(), text.size(), &code);
-    d->matcher->reset(&d->text);
+    if (text.size() <= LongestAlias)
+        d->resetWithAlias(text);
+    else
+        d->resetWithUText(text);
     if (d->watch)
         d->watch->restart(text.size());
     d->textStruck = d->charged >= WalkAllowance;
@@ -214,8 +245,7 @@ std::optional<ZEVRange> ZEVRegularExpressionMatcher::findNext()
         return std::nullopt;
     const qint64 start = d->matcher->start64(0, code);
     const qint64 end = d->matcher->end64(0, code);
-    // Many short matches are as much a way through the text as failed attempts are.
-    if (d->watch && !d->watch->mayGoOnFrom(end))
+    if (d->watch && !d->watch->mayGoOnAfterMatch(end))
         d->strike(U_REGEX_TIME_OUT);
     return ZEVRange{static_cast<qsizetype>(start), static_cast<qsizetype>(end - start)};
 }

@@ -136,6 +136,15 @@ private Q_SLOTS:
         QVERIFY(matches.limitReached);
     }
 
+    /// Every match is found at once, and yet each looks at all that follows.
+    void manyMatchesMayRunAwayTogether()
+    {
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QString::fromLatin1(CutShort)));
+        const auto matches = compiled(u"a(?=[^x]*+)"_s).matchesInString(QString(300'000, u'a'));
+        QVERIFY(matches.limitReached);
+        QVERIFY(!matches.ranges.isEmpty() && matches.ranges.size() < 300'000);
+    }
+
     void anOverflowingStackEndsTheText()
     {
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"U_REGEX_STACK_OVERFLOW"_s));
