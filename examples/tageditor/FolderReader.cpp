@@ -125,7 +125,7 @@ private:
         }
         sendBatch(m_files.size());
         std::error_code error; // the folder may have gone while it was read
-        fs::directory_iterator(m_folder, error);
+        const fs::directory_iterator probe(m_folder, error);
         return error ? message(error) : QString();
     }
 
