@@ -17,29 +17,15 @@ class tst_ZEVErrorPresentation : public QObject {
 private Q_SLOTS:
     void theAlertShowsPlainText()
     {
-        const ZEVError error(u"d", 1, {{ZEVError::LocalizedDescriptionKey.toString(), u"<b>(a</b> & co"_s}});
-        QString shown;
-        Qt::TextFormat format = Qt::AutoText;
+        bool seen = false;
         QTimer::singleShot(0, this, [&] {
-            const auto *alert = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-            QVERIFY(alert);
-            shown = alert->text();
-            format = alert->textFormat();
-            QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+            auto *const alert = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            seen = alert && alert->text() == u"<b>(a</b> & co" && alert->textFormat() == Qt::PlainText;
+            QTest::keyClick(alert, Qt::Key_Escape);
         });
-        ZEVErrorPresentation::presentError(error);
-        QCOMPARE(shown, u"<b>(a</b> & co");
-        QCOMPARE(format, Qt::PlainText);
-    }
-
-    void aHostTakesThePresentationOver()
-    {
-        QList<qint64> codes;
-        const auto present = [&](const ZEVError &error) { codes.append(error.code()); };
-        QVERIFY(!ZEVErrorPresentation::setPresenter(present));
-        ZEVErrorPresentation::presentError(ZEVError(u"d", 7));
-        QVERIFY(ZEVErrorPresentation::setPresenter({}));
-        QCOMPARE(codes, QList<qint64>{7});
+        ZEVErrorPresentation::presentError(
+            ZEVError(u"d", 1, {{ZEVError::LocalizedDescriptionKey.toString(), u"<b>(a</b> & co"_s}}));
+        QVERIFY(seen);
     }
 
     void anErrorWithoutATextNamesDomainAndCode()
