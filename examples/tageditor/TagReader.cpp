@@ -46,18 +46,20 @@ bool TagReader::isAudioFileName(const std::filesystem::path &path)
 
 Track TagReader::read(const std::filesystem::path &path)
 {
-    Track track{.path = path, .fields = {}, .error = obstacle(path)};
+    Track track;
+    track.path = path;
     track.text(TrackField::FileName) = displayedPath(path.filename());
+    track.error = lookAtFile(track);
     if (track.isReadable())
         track.error = readTags(track);
     return track;
 }
 
-/// What stands in the way of reading at all. Opening a pipe would wait for a writer that may never come, so
-/// the file is opened without waiting and looked at first.
-QString TagReader::obstacle(const std::filesystem::path &path)
+/// Takes the size down and tells what stands in the way of reading at all. Opening a pipe would wait for a
+/// writer that may never come, so the file is opened without waiting and looked at first.
+QString TagReader::lookAtFile(Track &track)
 {
-    const int file = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+    const int file = ::open(track.path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
     if (file < 0)
         return systemError(errno);
     struct stat status { };
@@ -67,7 +69,8 @@ QString TagReader::obstacle(const std::filesystem::path &path)
         return systemError(failure);
     if (!S_ISREG(status.st_mode))
         return tr("Not a regular file");
-    return status.st_size == 0 ? tr("Empty file") : QString();
+    track.fileSize = status.st_size;
+    return track.fileSize == 0 ? tr("Empty file") : QString();
 }
 
 QString TagReader::readTags(Track &track)

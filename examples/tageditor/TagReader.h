@@ -21,6 +21,6 @@ public:
     static Track read(const std::filesystem::path &path);
 
 private:
-    static QString obstacle(const std::filesystem::path &path);
+    static QString lookAtFile(Track &track);
     static QString readTags(Track &track);
 };

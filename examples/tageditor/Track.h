@@ -14,15 +14,19 @@ enum class TrackField : int { FileName, Title, Artist, Album, Year, Number, Genr
 
 inline constexpr int TrackFieldCount = 8;
 
-/// One audio file as it was read.
+/// One audio file as it was read, and as its texts were changed since.
 struct Track {
     std::filesystem::path path; ///< the file system's own bytes, which need not be UTF-8
     std::array<QString, TrackFieldCount> fields; ///< empty where the file says nothing
+    qint64 fileSize = 0; ///< bytes
     QString error; ///< why the tags could not be read; empty when they were
 
     const QString &text(TrackField field) const { return fields.at(size_t(field)); }
     QString &text(TrackField field) { return fields.at(size_t(field)); }
     bool isReadable() const { return error.isEmpty(); }
+
+    /// Given by the table, and by no other: names the track wherever it is sorted to.
+    int id = -1;
 };
 
 /// A file's name or path for people: what is no UTF-8 in it shows as U+FFFD.

@@ -50,6 +50,7 @@ private Q_SLOTS:
         QFETCH(QString, file);
         const Track track = TagReader::read(Samples::path(file));
         QCOMPARE(track.error, QString());
+        QCOMPARE(track.fileSize, QFileInfo(Samples::folder() + u'/' + file).size());
         QTEST(QStringList(track.fields.begin(), track.fields.end()).join(u'|'), "fields");
     }
 
