@@ -3,30 +3,19 @@
 
 #pragma once
 
-#include <tageditor/TrackSearch.h>
+#include <tageditor/HighlightDelegate.h>
 
-#include <QStyledItemDelegate>
+class TrackSearch;
 
-/// Draws a table's cells with the matches of a search marked in them. A match that is hidden behind the
-/// ellipsis of a cell that is too narrow marks the ellipsis.
-class MatchHighlightDelegate : public QStyledItemDelegate {
+/// Draws the cells of the table of tracks with the matches of a search marked in them.
+class MatchHighlightDelegate : public HighlightDelegate {
     Q_OBJECT
 
 public:
     explicit MatchHighlightDelegate(const TrackSearch *search, QObject *parent = nullptr);
 
-    void paint(QPainter *painter, const QStyleOptionViewItem &option,
-               const QModelIndex &index) const override;
-
-    /// One line, unit for unit as long as the cell's text, so that ranges hold: breaks and tabs show as
-    /// arrows.
-    QString displayText(const QVariant &value, const QLocale &locale) const override;
-
-    /// Where \a matches lie in \a visible, which is \a text or a beginning of it that ends in an ellipsis.
-    static TrackSearch::CellMatches visibleMatches(const TrackSearch::CellMatches &matches,
-                                                   const QString &text, const QString &visible);
-
 protected:
+    CellMatches matches(const QModelIndex &index) const override;
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
 
 private:

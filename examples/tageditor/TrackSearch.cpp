@@ -155,7 +155,7 @@ TrackFinderClient::Place TrackSearch::match(qsizetype number) const
     return m_client.placeOfRange(m_finder.foundMatches().at(number));
 }
 
-TrackSearch::CellMatches TrackSearch::matchesInCell(int row, TrackField field) const
+CellMatches TrackSearch::matchesInCell(int row, TrackField field) const
 {
     CellMatches result;
     const ZEVRange cell = m_client.rangeOfCell(row, field);

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <tageditor/CellMatches.h>
 #include <tageditor/TrackFinderClient.h>
 
 #include <ZEVGlobalUtils/FindEngine/ZEVFindPanelQuery.h>
@@ -18,12 +19,6 @@ class TrackSearch : public QObject {
 
 public:
     enum Direction { Backward = -1, Forward = 1 };
-
-    /// The matches within one cell, in its own UTF-16 units.
-    struct CellMatches {
-        QList<ZEVRange> ranges;
-        qsizetype current = -1; ///< index of the current match in ranges, or -1
-    };
 
     explicit TrackSearch(TrackTableModel *model, QObject *parent = nullptr);
     ~TrackSearch() override;

@@ -6,6 +6,7 @@
 #include <tageditor/DarkPalette.h>
 #include <tageditor/MatchColors.h>
 #include <tageditor/MatchHighlightDelegate.h>
+#include <tageditor/TrackSearch.h>
 #include <tageditor/TrackTableModel.h>
 
 #include <QImage>
@@ -13,8 +14,6 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
-
-using CellMatches = TrackSearch::CellMatches;
 
 namespace {
 
