@@ -47,8 +47,8 @@ TrackSearch::TrackSearch(TrackTableModel *model, QObject *parent)
     connect(&m_finder, &ZEVTextFinder::numberOfMatchesChanged, this, &TrackSearch::countChanged);
     connect(model, &TrackTableModel::rowsInserted, this, &TrackSearch::tracksAdded);
     connect(model, &TrackTableModel::modelReset, this, &TrackSearch::tracksReplaced);
-    connect(model, &TrackTableModel::layoutAboutToBeChanged, this, &TrackSearch::keepCurrentMatch);
     connect(model, &TrackTableModel::layoutChanged, this, &TrackSearch::tracksSorted);
+    connect(model, &TrackTableModel::dataChanged, this, &TrackSearch::textsChanged);
 }
 
 TrackSearch::~TrackSearch() = default;
@@ -91,6 +91,7 @@ void TrackSearch::search(const std::optional<ZEVRange> &current)
 {
     m_timer.stop();
     m_isPending = false;
+    m_isStale = false;
     if (m_queryChanged)
         compileExpression();
     m_currentMatch = -1;
@@ -106,30 +107,34 @@ std::optional<ZEVRange> TrackSearch::currentRange() const
 {
     if (m_currentMatch < 0 || m_queryChanged)
         return std::nullopt;
-    return m_finder.foundMatches().at(m_currentMatch);
+    const ZEVRange cell = m_client.rangeOfCell(m_currentCell.row(), TrackField(m_currentCell.column()));
+    return ZEVRange{cell.location + m_rangeInCell.location, m_rangeInCell.length};
 }
 
-void TrackSearch::keepCurrentMatch()
+void TrackSearch::keepPlaceOfCurrentMatch()
 {
-    m_keptCell = QModelIndex();
-    if (!currentRange())
-        return;
     const TrackFinderClient::Place place = match(m_currentMatch);
-    m_keptCell = m_model.index(place.row, int(place.field));
-    m_keptRange = place.range;
+    m_currentCell = m_model.index(place.row, int(place.field));
+    m_rangeInCell = place.range;
+    m_lastLocation = m_finder.foundMatches().at(m_currentMatch).location;
 }
 
 void TrackSearch::tracksSorted()
 {
     m_client.startOver();
-    m_lastLocation = 0;
-    std::optional<ZEVRange> current;
-    if (m_keptCell.isValid()) {
-        const ZEVRange cell = m_client.rangeOfCell(m_keptCell.row(), TrackField(m_keptCell.column()));
-        current = {cell.location + m_keptRange.location, m_keptRange.length};
-        m_lastLocation = current->location;
-    }
+    const std::optional<ZEVRange> current = currentRange();
+    m_lastLocation = current ? current->location : 0;
     search(current);
+}
+
+/// Until the search has run, no cell has a match: the old ones may lie anywhere in the new texts.
+void TrackSearch::textsChanged()
+{
+    m_client.startOver();
+    m_isStale = true;
+    if (const std::optional<ZEVRange> current = currentRange())
+        m_lastLocation = current->location;
+    searchIn(0);
 }
 
 void TrackSearch::compileExpression()
@@ -146,8 +151,10 @@ void TrackSearch::restoreCurrentMatch(const std::optional<ZEVRange> &range)
         return;
     const qsizetype number = firstMatchAt(range->location);
     const QList<ZEVRange> &matches = m_finder.foundMatches();
-    if (number < matches.size() && matches.at(number) == *range)
-        m_currentMatch = number;
+    if (number >= matches.size() || matches.at(number) != *range)
+        return;
+    m_currentMatch = number;
+    keepPlaceOfCurrentMatch();
 }
 
 TrackFinderClient::Place TrackSearch::match(qsizetype number) const
@@ -158,6 +165,8 @@ TrackFinderClient::Place TrackSearch::match(qsizetype number) const
 CellMatches TrackSearch::matchesInCell(int row, TrackField field) const
 {
     CellMatches result;
+    if (m_isStale)
+        return result;
     const ZEVRange cell = m_client.rangeOfCell(row, field);
     const qsizetype first = firstMatchAt(cell.location);
     const qsizetype end = firstMatchAt(cell.end());
@@ -178,8 +187,8 @@ qsizetype TrackSearch::firstMatchAt(qsizetype location) const
 
 void TrackSearch::step(Direction direction)
 {
-    if (m_queryChanged)
-        search(std::nullopt);
+    if (m_queryChanged || m_isStale)
+        search(currentRange());
     const qsizetype count = m_finder.foundMatches().size();
     if (count == 0)
         return;
@@ -192,6 +201,6 @@ void TrackSearch::step(Direction direction)
 void TrackSearch::setCurrentMatch(qsizetype number)
 {
     m_currentMatch = number;
-    m_lastLocation = m_finder.foundMatches().at(number).location;
+    keepPlaceOfCurrentMatch();
     Q_EMIT currentMatchChanged();
 }

@@ -59,10 +59,11 @@ private:
     void searchIn(qint64 milliseconds);
     void tracksAdded();
     void tracksReplaced();
-    void keepCurrentMatch();
     void tracksSorted();
+    void textsChanged();
     void search(const std::optional<ZEVRange> &current);
     std::optional<ZEVRange> currentRange() const;
+    void keepPlaceOfCurrentMatch();
     void compileExpression();
     void restoreCurrentMatch(const std::optional<ZEVRange> &range);
     void setCurrentMatch(qsizetype number);
@@ -80,6 +81,7 @@ private:
     qint64 m_searchDuration = 0; ///< milliseconds
     bool m_isPending = false; ///< a search is due
     bool m_queryChanged = false;
-    QPersistentModelIndex m_keptCell; ///< the current match's, while the table is sorted
-    ZEVRange m_keptRange;
+    bool m_isStale = false; ///< the matches lie in texts that were changed
+    QPersistentModelIndex m_currentCell; ///< where the current match is, wherever its row is sorted to
+    ZEVRange m_rangeInCell;
 };

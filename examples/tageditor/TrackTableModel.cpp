@@ -5,6 +5,8 @@
 
 #include <tageditor/NaturalOrder.h>
 
+#include <QFont>
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -31,6 +33,13 @@ QString plainToolTip(const QString &text)
     return text.isEmpty() ? QString() : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
 }
 
+QFont boldFont()
+{
+    QFont font;
+    font.setBold(true);
+    return font;
+}
+
 } // namespace
 
 void TrackTableModel::append(const QList<Track> &tracks)
@@ -40,6 +49,10 @@ void TrackTableModel::append(const QList<Track> &tracks)
     const int first = rowCount();
     beginInsertRows({}, first, first + int(tracks.size()) - 1);
     m_tracks += tracks;
+    for (int row = first; row < rowCount(); ++row) {
+        m_tracks[row].id = m_firstId + row; // nothing but the order of adding; the rows may be sorted
+        m_rows.push_back(row);
+    }
     m_numberOfUnreadable += int(std::ranges::count(tracks, false, &Track::isReadable));
     endInsertRows();
 }
@@ -47,9 +60,66 @@ void TrackTableModel::append(const QList<Track> &tracks)
 void TrackTableModel::clear()
 {
     beginResetModel();
+    m_firstId += rowCount();
+    m_rows.clear();
+    m_savedTexts.clear();
     m_tracks.clear();
     m_numberOfUnreadable = 0;
     endResetModel();
+}
+
+int TrackTableModel::rowOfTrack(int trackId) const
+{
+    const int place = trackId - m_firstId;
+    return place >= 0 && place < rowCount() ? m_rows[size_t(place)] : -1;
+}
+
+bool TrackTableModel::isEditable(int row, TrackField field) const
+{
+    switch (field) {
+    case TrackField::FileName:
+    case TrackField::Year:
+    case TrackField::Number:
+        return false;
+    default:
+        return track(row).isReadable();
+    }
+}
+
+QList<TextChange> TrackTableModel::setTexts(const QList<TextChange> &changes)
+{
+    QList<TextChange> reverse;
+    int first = rowCount();
+    int last = -1;
+    for (const auto &[id, field, text] : changes) {
+        const int row = rowOfTrack(id);
+        if (row < 0)
+            continue;
+        reverse.prepend({id, field, setText(m_tracks[row], field, text)});
+        first = std::min(first, row);
+        last = std::max(last, row);
+    }
+    if (last >= 0)
+        Q_EMIT dataChanged(index(first, 0), index(last, TrackFieldCount - 1));
+    return reverse;
+}
+
+/// The text that stood there before.
+QString TrackTableModel::setText(Track &track, TrackField field, const QString &text)
+{
+    const QString previous = std::exchange(track.text(field), text);
+    const Cell cell(track.id, int(field));
+    const auto saved = m_savedTexts.constFind(cell);
+    if (saved == m_savedTexts.cend() && text != previous)
+        m_savedTexts.insert(cell, previous);
+    else if (saved != m_savedTexts.cend() && *saved == text)
+        m_savedTexts.erase(saved);
+    return previous;
+}
+
+bool TrackTableModel::isChanged(int row, TrackField field) const
+{
+    return m_savedTexts.contains({track(row).id, int(field)});
 }
 
 QString TrackTableModel::titleForField(TrackField field)
@@ -96,6 +166,10 @@ QVariant TrackTableModel::data(const QModelIndex &index, int role) const
         return shownText(track, field);
     case Qt::ToolTipRole:
         return plainToolTip(toolTip(track, field));
+    case Qt::FontRole:
+        return isChanged(index.row(), field) ? boldFont() : QVariant();
+    case Qt::AccessibleDescriptionRole:
+        return isChanged(index.row(), field) ? tr("Changed, not saved") : QVariant();
     case IsUnreadableRole:
         return !track.isReadable();
     default:
@@ -130,6 +204,7 @@ void TrackTableModel::rearrange(const std::vector<int> &oldRows)
     std::vector<int> newRows(oldRows.size());
     for (const int oldRow : oldRows) {
         newRows[size_t(oldRow)] = int(tracks.size());
+        m_rows[size_t(m_tracks[oldRow].id - m_firstId)] = int(tracks.size());
         tracks.append(std::move(m_tracks[oldRow]));
     }
     m_tracks = std::move(tracks);

@@ -6,6 +6,14 @@
 #include <tageditor/Track.h>
 
 #include <QAbstractTableModel>
+#include <QHash>
+
+/// A text for one cell of a track, which is named by its id because rows may be sorted meanwhile.
+struct TextChange {
+    int trackId = -1;
+    TrackField field = TrackField::FileName;
+    QString text;
+};
 
 /// The tracks as a table: a row a track, a column a field. Rows are only ever added behind the others,
 /// whatever the table was sorted by; sort() puts them in their places.
@@ -22,6 +30,20 @@ public:
     const Track &track(int row) const { return m_tracks.at(row); }
     int numberOfUnreadable() const { return m_numberOfUnreadable; }
 
+    /// -1 for a track that is not there any more.
+    int rowOfTrack(int trackId) const;
+
+    /// Texts that may be changed are those of the tags but the numbers, in files that could be read.
+    bool isEditable(int row, TrackField field) const;
+
+    /// Changes all of them at once, and returns what changes them back. Rows stay where they are, whatever
+    /// the table was sorted by, so that nothing jumps from under its user.
+    QList<TextChange> setTexts(const QList<TextChange> &changes);
+
+    /// Whether a text differs from what the file holds.
+    bool hasChanges() const { return !m_savedTexts.isEmpty(); }
+    bool isChanged(int row, TrackField field) const;
+
     void append(const QList<Track> &tracks);
     void clear();
 
@@ -36,8 +58,14 @@ public:
     void sort(int column, Qt::SortOrder order) override;
 
 private:
+    using Cell = std::pair<int, int>; ///< a track's id and a column
+
+    QString setText(Track &track, TrackField field, const QString &text);
     void rearrange(const std::vector<int> &oldRows);
 
     QList<Track> m_tracks;
+    std::vector<int> m_rows; ///< of each track, by its id less m_firstId
+    int m_firstId = 0; ///< ids are not used again for other tracks
+    QHash<Cell, QString> m_savedTexts; ///< of the cells that differ from them
     int m_numberOfUnreadable = 0;
 };

@@ -191,6 +191,32 @@ private Q_SLOTS:
         QCOMPARE(table.search.currentMatch(), 2);
     }
 
+    void changedTextsAreSearchedOnceAndAgain()
+    {
+        Fixture table;
+        table.find(u"ab"_s);
+        table.search.step(TrackSearch::Backward);
+        const int first = table.model.track(0).id;
+        const int second = table.model.track(1).id;
+        const QSignalSpy searched(&table.search, &TrackSearch::searched);
+        const auto reverse = table.model.setTexts({{first, TrackField::Title, u"some words"_s}});
+        const auto reverseOfMore = table.model.setTexts({{second, TrackField::Title, u"x ab"_s}});
+        QVERIFY(table.search.matchesInCell(1, TrackField::Title).ranges.isEmpty()); // none is none too many
+        QTRY_COMPARE(searched.size(), 1);
+        QCOMPARE(table.places(),
+                 (QList<Place>{{0, TrackField::Artist, {0, 2}},
+                               {1, TrackField::Title, {2, 2}},
+                               {2, TrackField::Comment, {0, 2}}}));
+        QCOMPARE(table.search.matchesInCell(1, TrackField::Title).ranges, (QList<ZEVRange>{{2, 2}}));
+        QCOMPARE(table.search.currentMatch(), 2); // the same place, whose number has changed
+
+        table.model.setTexts(reverseOfMore);
+        table.model.setTexts(reverse);
+        table.search.step(TrackSearch::Backward); // does not wait
+        QCOMPARE(table.search.numberOfMatches(), 4);
+        QCOMPARE(table.places().at(table.search.currentMatch()), (Place{1, TrackField::Title, {3, 2}}));
+    }
+
     void stepsGoAroundTheEnd()
     {
         Fixture table;
