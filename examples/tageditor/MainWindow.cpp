@@ -6,16 +6,21 @@
 #include <tageditor/FindLine.h>
 #include <tageditor/MatchHighlightDelegate.h>
 #include <tageditor/MessageLabel.h>
+#include <tageditor/QuickOpen.h>
+#include <tageditor/SizeLabel.h>
+#include <tageditor/TextEditing.h>
 
 #include <ZEVGlobalUtils/Platform/ZEVUserDefaults.h>
 
 #include <QAction>
+#include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QProgressBar>
 #include <QScreen>
 #include <QStatusBar>
@@ -40,11 +45,18 @@ constexpr int ColumnPadding = 2;
 /// How many rows are looked at for the widths, besides those in view.
 constexpr int RowsMeasured = 200;
 
+/// How long a passing message stands in the status bar, in milliseconds.
+constexpr int MessageDuration = 6000;
+
+/// What a folder may be named is told from the place where the title shows that texts have changed.
+QString withModifiedMarker(QString title) { return title.replace(u"[*]"_s, u"[*][*]"_s) + u"[*]"_s; }
+
 } // namespace
 
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
     , m_search(&m_model)
+    , m_mayDiscard([this] { return askToDiscard(); })
     , m_findLine(new FindLine(&m_search))
     , m_table(new QTableView)
     , m_counts(new QLabel)
@@ -58,10 +70,13 @@ MainWindow::MainWindow(QWidget *parent)
     rows->addWidget(m_findLine);
     rows->addWidget(m_table, 1);
     setCentralWidget(content);
-    makeMenus();
     setUpTable();
+    m_editing = new TextEditing(&m_model, m_table);
+    m_quickOpen = new QuickOpen(&m_model, this);
+    makeMenus();
     setUpStatusBar();
     watchReader();
+    watchTexts();
     restoreGeometryFromDefaults();
     m_table->setFocus();
 }
@@ -76,11 +91,47 @@ void MainWindow::makeMenus()
     file->addAction(tr("&Quit"), QKeySequence(u"Ctrl+Q"_s), this, &QWidget::close);
 
     QMenu *edit = menuBar()->addMenu(tr("&Edit"));
-    edit->addAction(tr("&Find"), QKeySequence(u"Ctrl+F"_s), m_findLine, &FindLine::beginEditing);
-    edit->addAction(tr("Find &Next"), this, [this] { m_search.step(TrackSearch::Forward); })
+    m_editing->addUndoActions(edit);
+    edit->addSeparator();
+    addSelectActions(edit);
+    edit->addSeparator();
+    addFindActions(edit);
+    m_editing->addTransforms(menuBar()->addMenu(tr("Te&xt")));
+}
+
+void MainWindow::addFindActions(QMenu *menu)
+{
+    menu->addAction(tr("&Find"), QKeySequence(u"Ctrl+F"_s), m_findLine, &FindLine::beginEditing);
+    menu->addAction(tr("Find &Next"), this, [this] { m_search.step(TrackSearch::Forward); })
         ->setShortcuts({QKeySequence(u"F3"_s), QKeySequence(u"Ctrl+G"_s)});
-    edit->addAction(tr("Find &Previous"), this, [this] { m_search.step(TrackSearch::Backward); })
+    menu->addAction(tr("Find &Previous"), this, [this] { m_search.step(TrackSearch::Backward); })
         ->setShortcuts({QKeySequence(u"Shift+F3"_s), QKeySequence(u"Ctrl+Shift+G"_s)});
+    menu->addAction(tr("&Quick Open…"), QKeySequence(u"Ctrl+K"_s), m_quickOpen, &QuickOpen::open);
+}
+
+/// A click on a header sorts, so rows and columns are selected from the cell that has the cursor, by the keys
+/// that spreadsheets have for it. Elsewhere than in the table these keys keep their meaning.
+void MainWindow::addSelectActions(QMenu *menu)
+{
+    QAction *all = menu->addAction(tr("Select &All"), m_table, &QTableView::selectAll);
+    all->setShortcuts(QKeySequence::SelectAll);
+    QAction *row = menu->addAction(tr("Select Ro&w"), QKeySequence(u"Shift+Space"_s), this,
+                                   [this] { selectAroundCurrent(QItemSelectionModel::Rows); });
+    QAction *column = menu->addAction(tr("Select &Column"), QKeySequence(u"Ctrl+Space"_s), this,
+                                      [this] { selectAroundCurrent(QItemSelectionModel::Columns); });
+    for (QAction *action : {all, row, column}) {
+        action->setShortcutContext(Qt::WidgetShortcut);
+        m_table->addAction(action);
+    }
+}
+
+void MainWindow::selectAroundCurrent(QItemSelectionModel::SelectionFlag extent)
+{
+    QItemSelectionModel *selection = m_table->selectionModel();
+    QItemSelection around = selection->selection();
+    if (!selection->isSelected(m_table->currentIndex()))
+        around.select(m_table->currentIndex(), m_table->currentIndex());
+    selection->select(around, QItemSelectionModel::ClearAndSelect | extent);
 }
 
 void MainWindow::setUpTable()
@@ -88,7 +139,7 @@ void MainWindow::setUpTable()
     m_table->setAccessibleName(tr("Tracks"));
     m_table->setModel(&m_model);
     m_table->setItemDelegate(new MatchHighlightDelegate(&m_search, m_table));
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectItems);
     m_table->setAlternatingRowColors(true);
     m_table->setShowGrid(false);
     m_table->setWordWrap(false);
@@ -120,6 +171,7 @@ void MainWindow::setUpStatusBar()
     statusBar()->addWidget(m_counts);
     statusBar()->addWidget(m_problem, 1);
     statusBar()->addPermanentWidget(m_progress);
+    statusBar()->addPermanentWidget(new SizeLabel(&m_model, m_table->selectionModel()));
 }
 
 void MainWindow::watchReader()
@@ -130,13 +182,26 @@ void MainWindow::watchReader()
     connect(&m_reader, &FolderReader::folderSkipped, this, &MainWindow::showSkippedFolder);
 }
 
+void MainWindow::watchTexts()
+{
+    const auto showModified = [this] { setWindowModified(m_model.hasChanges()); };
+    connect(&m_model, &TrackTableModel::dataChanged, this, showModified);
+    connect(&m_model, &TrackTableModel::modelReset, this, showModified);
+    connect(m_editing, &TextEditing::nothingDone, this,
+            [this](const QString &message) { statusBar()->showMessage(message, MessageDuration); });
+    connect(m_quickOpen, &QuickOpen::trackChosen, this, &MainWindow::selectTrack);
+}
+
 void MainWindow::openFolder(const QString &folder)
 {
+    if (m_model.hasChanges() && !m_mayDiscard())
+        return;
     m_folder = QDir::cleanPath(QDir(folder).absolutePath());
-    setWindowTitle(QDir(m_folder).dirName());
+    setWindowTitle(withModifiedMarker(QDir(m_folder).dirName()));
     m_skippedFolders = 0;
     m_firstSkipped.clear();
     m_problem->showMessage({}, false);
+    m_editing->clear();
     m_model.clear();
     m_progress->show();
     m_reader.readFolder(m_folder);
@@ -147,6 +212,28 @@ void MainWindow::chooseFolder()
     const QString folder = QFileDialog::getExistingDirectory(this, tr("Open Folder"), m_folder);
     if (!folder.isEmpty())
         openFolder(folder);
+}
+
+bool MainWindow::askToDiscard()
+{
+    QMessageBox question(QMessageBox::Warning, tr("Discard Changes"), tr("Discard changes?"),
+                         QMessageBox::Discard | QMessageBox::Cancel, this);
+    question.setInformativeText(tr("Texts were changed and not saved. They will be lost."));
+    question.setDefaultButton(QMessageBox::Cancel);
+    return question.exec() == QMessageBox::Discard;
+}
+
+/// The whole row, with the cursor in the title.
+void MainWindow::selectTrack(int trackId)
+{
+    const int row = m_model.rowOfTrack(trackId);
+    if (row < 0)
+        return;
+    const QModelIndex title = m_model.index(row, int(TrackField::Title));
+    m_table->selectionModel()->setCurrentIndex(
+        title, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    m_table->scrollTo(title, QAbstractItemView::PositionAtCenter);
+    m_table->setFocus(Qt::OtherFocusReason);
 }
 
 void MainWindow::showProgress(qsizetype read, qsizetype total)
@@ -222,6 +309,10 @@ void MainWindow::restoreGeometryFromDefaults()
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
+    if (m_model.hasChanges() && !m_mayDiscard()) {
+        event->ignore();
+        return;
+    }
     m_reader.cancel();
     ZEVUserDefaults::standardUserDefaults()->setObject(saveGeometry(), GeometryKey);
     QMainWindow::closeEvent(event);

@@ -7,15 +7,20 @@
 #include <tageditor/TrackSearch.h>
 #include <tageditor/TrackTableModel.h>
 
+#include <QItemSelectionModel>
 #include <QMainWindow>
+
+#include <functional>
 
 class FindLine;
 class MessageLabel;
 class QLabel;
 class QProgressBar;
 class QTableView;
+class QuickOpen;
+class TextEditing;
 
-/// The tracks of one folder in a table, with a line to find text in them.
+/// The tracks of one folder in a table, with a line to find text in them and menus to change it.
 class MainWindow : public QMainWindow {
     Q_OBJECT
 
@@ -23,7 +28,11 @@ public:
     explicit MainWindow(QWidget *parent = nullptr);
     ~MainWindow() override;
 
+    /// Asks first where changed texts would be lost; the folder stays if the user wants to keep them.
     void openFolder(const QString &folder);
+
+    /// What asks whether changed texts may be lost, and says so: a question in a dialog at first.
+    void setDiscardQuestion(std::function<bool()> question) { m_mayDiscard = std::move(question); }
 
     const QString &folder() const { return m_folder; }
     const TrackTableModel &tracks() const { return m_model; }
@@ -40,11 +49,17 @@ protected:
 
 private:
     void makeMenus();
+    void addFindActions(QMenu *menu);
+    void addSelectActions(QMenu *menu);
     void setUpTable();
     void setUpStatusBar();
     void watchReader();
+    void watchTexts();
 
     void chooseFolder();
+    bool askToDiscard();
+    void selectTrack(int trackId);
+    void selectAroundCurrent(QItemSelectionModel::SelectionFlag extent);
     void showProgress(qsizetype read, qsizetype total);
     void showSkippedFolder(const QString &folder, const QString &reason);
     void finishReading(const QString &failure);
@@ -59,8 +74,11 @@ private:
     TrackTableModel m_model;
     TrackSearch m_search;
     FolderReader m_reader;
+    std::function<bool()> m_mayDiscard;
     FindLine *m_findLine;
     QTableView *m_table;
+    TextEditing *m_editing;
+    QuickOpen *m_quickOpen;
     QLabel *m_counts;
     MessageLabel *m_problem;
     QProgressBar *m_progress;

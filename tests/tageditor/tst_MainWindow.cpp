@@ -1,70 +1,23 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include "Samples.h"
+#include "Shown.h"
 
 #include <tageditor/DarkPalette.h>
-#include <tageditor/FindLine.h>
-#include <tageditor/MainWindow.h>
 #include <tageditor/MatchColors.h>
 
-#include <ZEVGlobalUtils/Platform/ZEVUserDefaults.h>
+#include <ZEVGlobalUtils/Transforms/FileSizeTransformer.h>
 
 #include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
 #include <QHeaderView>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QSettings>
-#include <QSignalSpy>
-#include <QStatusBar>
-#include <QTableView>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The window as its user sees it.
-struct Shown {
-    Shown()
-    {
-        window.show();
-        window.activateWindow(); // where no window manager does it
-        visible = QTest::qWaitForWindowActive(&window);
-    }
-
-    bool open(const QString &folder)
-    {
-        QSignalSpy read(&window, &MainWindow::folderRead);
-        window.openFolder(folder);
-        return read.wait();
-    }
-
-    QString message() const { return messageLabel()->text(); }
-    QLabel *messageLabel() const { return window.findChild<FindLine *>()->findChild<QLabel *>(); }
-    QString status() const
-    {
-        QStringList texts;
-        for (const QLabel *label : window.statusBar()->findChildren<QLabel *>())
-            texts.append(label->text());
-        return texts.join(u'|');
-    }
-    /// The file name and column of the current cell.
-    QString currentCell()
-    {
-        const QModelIndex index = window.table().currentIndex();
-        return index.siblingAtColumn(0).data().toString() + u'/' + QString::number(index.column());
-    }
-
-    MainWindow window;
-    QLineEdit *line = window.findChild<QLineEdit *>();
-    bool visible = false;
-};
 
 bool hasColor(const QImage &picture, const QColor &color)
 {
@@ -105,11 +58,7 @@ class tst_MainWindow : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
-    {
-        ZEVUserDefaults::setStandardStore(
-            std::make_unique<QSettings>(m_store.filePath(u"defaults.ini"_s), QSettings::IniFormat));
-    }
+    void init() { useStoreIn(m_store); }
 
     void theSampleIsShown()
     {
@@ -241,6 +190,37 @@ private Q_SLOTS:
         const QModelIndex title = shown.window.table().model()->index(0, int(TrackField::Title));
         QCOMPARE(title.data().toString(), u"Empty file"_s);
         QVERIFY(title.data(Qt::ToolTipRole).toString().contains(u"&lt;b&gt;.ogg"));
+    }
+
+    void theSizesAreThoseOfTheSelectionOrOfAll()
+    {
+        const QTemporaryDir folder;
+        const auto size = [&](const char *name) {
+            return QFileInfo(folder.filePath(QLatin1String(name))).size();
+        };
+        QVERIFY(Samples::copy(u"Interlude.ogg"_s, folder.filePath(u"a.ogg"_s)));
+        QVERIFY(Samples::copy(u"Track 7.m4a"_s, folder.filePath(u"b.m4a"_s)));
+        QVERIFY(Samples::copy(u"Interlude.ogg"_s, folder.filePath(u"c.ogg"_s), 70)); // damaged
+        const auto texts = [](const QVariantList &sizes) {
+            return FileSizeTransformer().transformedValue(sizes).toString();
+        };
+        const QVariant none = QVariant::fromValue(nullptr);
+        const QVariantList all{size("a.ogg"), size("b.m4a"), none};
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(folder.path()));
+        QVERIFY(all.at(0) != all.at(1));
+        QCOMPARE(shown.sizes(), texts(all));
+        shown.select(1, TrackField::Year);
+        shown.select(1, TrackField::Title); // another cell of the same track
+        QCOMPARE(shown.sizes(), u"1 selected: "_s + texts({size("b.m4a")}));
+        shown.select(0, TrackField::Title);
+        QCOMPARE(shown.sizes(), u"2 selected: "_s + texts({size("a.ogg"), size("b.m4a")}));
+        shown.select(2, TrackField::Title);
+        QCOMPARE(shown.sizes(), u"3 selected: "_s + texts(all));
+        shown.window.table().clearSelection();
+        QCOMPARE(shown.sizes(), texts(all));
+        QVERIFY(shown.open(Samples::folder() + u"/Sever"_s)); // nothing of the other folder remains
+        QVERIFY(!shown.sizes().isEmpty() && shown.sizes() != texts(all));
     }
 
     void everyControlHasANameForScreenReaders()

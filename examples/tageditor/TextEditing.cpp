@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <tageditor/TextEditing.h>
+
+#include <tageditor/TableSelection.h>
+#include <tageditor/TextCommand.h>
+#include <tageditor/TransformDialog.h>
+
+#include <QAction>
+#include <QMenu>
+#include <QTableView>
+
+using namespace Qt::StringLiterals;
+
+TextEditing::TextEditing(TrackTableModel *model, QTableView *table)
+    : QObject(table)
+    , m_model(model)
+    , m_table(table)
+{
+    connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &TextEditing::updateActions);
+    connect(model, &TrackTableModel::modelReset, this, &TextEditing::updateActions);
+}
+
+void TextEditing::addUndoActions(QMenu *menu)
+{
+    QAction *undo = m_stack.createUndoAction(this);
+    undo->setShortcuts(QKeySequence::Undo);
+    QAction *redo = m_stack.createRedoAction(this);
+    QList<QKeySequence> keys = QKeySequence::keyBindings(QKeySequence::Redo);
+    if (const QKeySequence usual(u"Ctrl+Shift+Z"_s); !keys.contains(usual))
+        keys.append(usual);
+    redo->setShortcuts(keys);
+    menu->addActions({undo, redo});
+}
+
+void TextEditing::addTransforms(QMenu *menu)
+{
+    const QList<TextTransform> &transforms = TextTransform::all();
+    for (int n = 0; n < transforms.size(); ++n) {
+        QAction *action = menu->addAction(tr("%1…").arg(transforms.at(n).name));
+        connect(action, &QAction::triggered, this, [this, n] { askForTransform(n); });
+        m_transforms.append(action);
+    }
+    updateActions();
+}
+
+void TextEditing::updateActions()
+{
+    const bool isPossible = TableSelection::hasEditableCell(*m_table->selectionModel(), *m_model);
+    for (QAction *action : std::as_const(m_transforms))
+        action->setEnabled(isPossible);
+}
+
+void TextEditing::askForTransform(int transform)
+{
+    auto *dialog = new TransformDialog(TableSelection::editableCells(*m_table->selectionModel(), *m_model),
+                                       transform, m_table->window());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, dialog] { perform(*dialog); });
+    dialog->open();
+}
+
+void TextEditing::perform(const TransformDialog &dialog)
+{
+    const QString name = dialog.transform().plainName();
+    const QList<TextChange> changes = dialog.changes();
+    if (changes.isEmpty())
+        Q_EMIT nothingDone(tr("%1: nothing to change").arg(name));
+    else
+        m_stack.push(new TextCommand(name, m_model, changes));
+}

@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "Samples.h"
+
+#include <tageditor/FindLine.h>
+#include <tageditor/MainWindow.h>
+#include <tageditor/SizeLabel.h>
+
+#include <ZEVGlobalUtils/Platform/ZEVUserDefaults.h>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QStatusBar>
+#include <QTableView>
+#include <QTest>
+
+/// The window as its user sees it.
+struct Shown {
+    Shown()
+    {
+        window.show();
+        window.activateWindow(); // where no window manager does it
+        visible = QTest::qWaitForWindowActive(&window);
+    }
+
+    bool open(const QString &folder)
+    {
+        QSignalSpy read(&window, &MainWindow::folderRead);
+        window.openFolder(folder);
+        return read.wait();
+    }
+
+    QString message() const { return messageLabel()->text(); }
+    QLabel *messageLabel() const { return window.findChild<FindLine *>()->findChild<QLabel *>(); }
+    QString status() const
+    {
+        QStringList texts;
+        for (const QLabel *label : window.statusBar()->findChildren<QLabel *>()) {
+            if (!qobject_cast<const SizeLabel *>(label))
+                texts.append(label->text());
+        }
+        return texts.join(u'|');
+    }
+    QString sizes() const { return window.findChild<SizeLabel *>()->text(); }
+
+    /// The file name and column of the current cell.
+    QString currentCell()
+    {
+        const QModelIndex index = window.table().currentIndex();
+        return index.siblingAtColumn(0).data().toString() + u'/' + QString::number(index.column());
+    }
+
+    QString text(int row, TrackField field) const { return window.tracks().track(row).text(field); }
+
+    void select(int row, TrackField field,
+                QItemSelectionModel::SelectionFlags how = QItemSelectionModel::Select)
+    {
+        window.table().selectionModel()->select(window.tracks().index(row, int(field)), how);
+    }
+
+    /// The action of a menu by a beginning of its text, mnemonics left out.
+    QAction *action(const QString &text) const
+    {
+        for (QAction *menu : window.menuBar()->actions()) {
+            for (QAction *action : menu->menu()->actions()) {
+                if (action->text().remove(u'&').startsWith(text))
+                    return action;
+            }
+        }
+        return nullptr;
+    }
+
+    MainWindow window;
+    QLineEdit *line = window.findChild<FindLine *>()->findChild<QLineEdit *>();
+    bool visible = false;
+};
+
+/// What the application remembers goes into a folder of the test's own.
+inline void useStoreIn(const QTemporaryDir &folder)
+{
+    ZEVUserDefaults::setStandardStore(
+        std::make_unique<QSettings>(folder.filePath(QStringLiteral("defaults.ini")), QSettings::IniFormat));
+}
