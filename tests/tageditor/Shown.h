@@ -26,8 +26,14 @@ struct Shown {
     Shown()
     {
         window.show();
-        window.activateWindow(); // where no window manager does it
-        visible = QTest::qWaitForWindowActive(&window);
+        visible = activate();
+    }
+
+    /// Does what a window manager would do, where there is none.
+    bool activate()
+    {
+        window.activateWindow();
+        return QTest::qWaitForWindowActive(&window);
     }
 
     bool open(const QString &folder)

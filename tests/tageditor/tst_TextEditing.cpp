@@ -1,0 +1,264 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include "Shown.h"
+
+#include <tageditor/TransformDialog.h>
+
+#include <QComboBox>
+#include <QWindow>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The dialog that a choice of the Text menu has opened, as its user sees it.
+struct Dialog {
+    Dialog(const Shown &shown, const QString &transform)
+    {
+        shown.action(transform)->trigger();
+        dialog = shown.window.findChild<TransformDialog *>();
+        visible = dialog && QTest::qWaitForWindowExposed(dialog);
+    }
+
+    QAbstractItemModel &preview() const { return *dialog->findChild<QTableView *>()->model(); }
+    QStringList column(int column) const
+    {
+        QStringList texts;
+        for (int row = 0; row < preview().rowCount(); ++row)
+            texts.append(preview().index(row, column).data().toString());
+        return texts;
+    }
+    void press(Qt::Key key) const { QTest::keyClick(dialog, key); }
+
+    QPointer<TransformDialog> dialog;
+    bool visible = false;
+};
+
+QStringList titles(const Shown &shown)
+{
+    QStringList titles;
+    for (int row = 0; row < shown.window.tracks().rowCount(); ++row)
+        titles.append(shown.text(row, TrackField::Title));
+    return titles;
+}
+
+} // namespace
+
+class tst_TextEditing : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_store = std::make_unique<QTemporaryDir>();
+        useStoreIn(*m_store);
+    }
+
+    void withoutAnEditableTextThereIsNothingToChoose()
+    {
+        const QTemporaryDir folder;
+        QVERIFY(Samples::copy(u"Interlude.ogg"_s, folder.filePath(u"a.ogg"_s)));
+        QVERIFY(Samples::copy(u"Interlude.ogg"_s, folder.filePath(u"b.ogg"_s), 0));
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(folder.path()));
+        QAction *action = shown.action(u"Title Case"_s);
+        QVERIFY(!action->isEnabled());
+        shown.select(0, TrackField::Year);
+        shown.select(1, TrackField::Title); // where the reason stands
+        QVERIFY(!action->isEnabled());
+        shown.select(0, TrackField::Title);
+        QVERIFY(action->isEnabled());
+        shown.window.openFolder(folder.path());
+        QVERIFY(!action->isEnabled());
+    }
+
+    void thePreviewIsWhatIsAppliedInOneStep()
+    {
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(Samples::folder()));
+        const QStringList before = titles(shown);
+        shown.window.table().setFocus();
+        QTest::keyClick(&shown.window.table(), Qt::Key_A, Qt::ControlModifier);
+        const Dialog preview(shown, u"Capitalize Words"_s);
+        QVERIFY(preview.visible);
+        QTRY_VERIFY(preview.column(0).contains(u"Été à la plage"_s));
+        QVERIFY(!preview.column(0).contains(u"Track 12"_s)); // does not change
+        const QStringList olds = preview.column(0);
+        const QStringList news = preview.column(1);
+        QCOMPARE(titles(shown), before); // nothing is done yet
+        preview.press(Qt::Key_Return);
+        QTRY_VERIFY(!preview.dialog);
+
+        const QStringList after = titles(shown);
+        for (qsizetype n = 0; n < before.size(); ++n) {
+            const qsizetype row = olds.indexOf(before.at(n));
+            QCOMPARE(after.at(n), row < 0 ? before.at(n) : news.at(row));
+        }
+        QVERIFY(after.contains(u"Été À La Plage"_s));
+        QCOMPARE(shown.text(0, TrackField::FileName), u"01 Track 12.mp3"_s);
+        QCOMPARE(shown.action(u"Undo"_s)->text(), u"Undo Capitalize Words"_s);
+        QVERIFY(shown.window.isWindowModified());
+        shown.window.table().sortByColumn(int(TrackField::Title), Qt::DescendingOrder);
+        QVERIFY(shown.activate());
+        QTest::keyClick(&shown.window.table(), Qt::Key_Z, Qt::ControlModifier);
+        shown.window.table().sortByColumn(-1, Qt::AscendingOrder);
+        QCOMPARE(titles(shown), before);
+        QVERIFY(!shown.window.isWindowModified() && !shown.action(u"Undo"_s)->isEnabled());
+        QTest::keyClick(&shown.window.table(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(titles(shown), after);
+        shown.window.setDiscardQuestion([] { return true; });
+    }
+
+    void thePreviewFollowsEveryChoice()
+    {
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(Samples::folder() + u"/Maree"_s));
+        shown.select(0, TrackField::Title);
+        const Dialog preview(shown, u"Title Case"_s);
+        QVERIFY(preview.visible);
+        QTRY_COMPARE(preview.column(1), QStringList{u"Été À la Plage"_s});
+        auto *never = preview.dialog->findChild<QLineEdit *>();
+        QTest::keyClicks(never, u"x, plage"_s);
+        QTRY_COMPARE(preview.column(1), QStringList{u"Été À la plage"_s});
+        auto *transform = preview.dialog->findChild<QComboBox *>();
+        transform->setFocus();
+        QTest::keyClicks(transform, u"Spaces"_s);
+        QTRY_COMPARE(preview.column(1), QStringList{u"Été_à_la_plage"_s});
+        QVERIFY(!never->isEnabled()); // makes no difference to this one
+        preview.press(Qt::Key_Escape);
+        QTRY_VERIFY(!preview.dialog);
+        QCOMPARE(shown.text(0, TrackField::Title), u"Été à la plage"_s);
+        QVERIFY(!shown.window.isWindowModified() && !shown.action(u"Undo"_s)->isEnabled());
+        const Dialog again(shown, u"Title Case"_s); // what was cancelled is not remembered
+        QCOMPARE(again.dialog->findChild<QLineEdit *>()->text(), QString());
+    }
+
+    void languageAndSpellingsAreRemembered()
+    {
+        const auto languageOf = [](const Dialog &dialog) {
+            return dialog.dialog->findChildren<QComboBox *>().at(1);
+        };
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(Samples::folder()));
+        shown.select(3, TrackField::Title);
+        QCOMPARE(shown.text(3, TrackField::Title), u"Interlude"_s);
+        const Dialog first(shown, u"camelCase"_s);
+        languageOf(first)->setCurrentText(u"Turkish"_s);
+        QTest::keyClicks(first.dialog->findChild<QLineEdit *>(), u"k.d. lang"_s);
+        first.press(Qt::Key_Return);
+        QTRY_VERIFY(!first.dialog);
+        QCOMPARE(shown.text(3, TrackField::Title), u"ınterlude"_s);
+        const Dialog second(shown, u"Capitalize"_s);
+        QCOMPARE(languageOf(second)->currentText(), u"Turkish"_s);
+        QCOMPARE(second.dialog->findChild<QLineEdit *>()->text(), u"k.d. lang"_s);
+        second.press(Qt::Key_Escape);
+        shown.window.setDiscardQuestion([] { return true; });
+    }
+
+    void whatChangesNothingIsNoStep()
+    {
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(Samples::folder()));
+        shown.select(0, TrackField::Artist);
+        const Dialog preview(shown, u"Trim Spaces"_s);
+        preview.press(Qt::Key_Return);
+        QTRY_VERIFY(!preview.dialog);
+        QCOMPARE(shown.window.statusBar()->currentMessage(), u"Trim Spaces: nothing to change"_s);
+        QVERIFY(!shown.action(u"Undo"_s)->isEnabled() && !shown.window.isWindowModified());
+    }
+
+    void applyingDoesNotWaitForThePreview()
+    {
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(Samples::folder() + u"/Maree"_s));
+        shown.select(0, TrackField::Title);
+        const Dialog preview(shown, u"Spaces to"_s);
+        QTest::keyClicks(preview.dialog->findChild<QComboBox *>(), u"camel"_s);
+        preview.press(Qt::Key_Return); // at once
+        QCOMPARE(shown.text(0, TrackField::Title), u"étéÀLaPlage"_s);
+        shown.window.setDiscardQuestion([] { return true; });
+    }
+
+    void theMatchesFollowAChangeAndItsUndoing()
+    {
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(Samples::folder()));
+        shown.window.findLine().setCaseSensitive(true);
+        shown.window.findLine().setPatternText(u"la p"_s);
+        QTRY_COMPARE(shown.message(), u"1 match"_s);
+        shown.select(4, TrackField::Title);
+        const Dialog preview(shown, u"Capitalize"_s);
+        preview.press(Qt::Key_Return);
+        QTRY_COMPARE(shown.message(), u"No matches"_s);
+        QVERIFY(shown.activate());
+        QTest::keyClick(&shown.window.table(), Qt::Key_Z, Qt::ControlModifier);
+        QTRY_COMPARE(shown.message(), u"1 match"_s);
+        QCOMPARE(shown.window.search().matchesInCell(4, TrackField::Title).ranges.size(), 1);
+    }
+
+    void rowsAndColumnsAreSelectedByKeys()
+    {
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(Samples::folder()));
+        QTableView &table = shown.window.table();
+        table.setCurrentIndex(shown.window.tracks().index(2, 1));
+        QCOMPARE(table.selectionModel()->selectedIndexes().size(), 1);
+        QTest::keyClick(&table, Qt::Key_Space, Qt::ShiftModifier);
+        QCOMPARE(table.selectionModel()->selectedRows().size(), 1);
+        table.setCurrentIndex(shown.window.tracks().index(2, 1));
+        QTest::keyClick(&table, Qt::Key_Space, Qt::ControlModifier);
+        QCOMPARE(table.selectionModel()->selectedColumns().size(), 1);
+        shown.window.findLine().beginEditing();
+        QTest::keyClick(shown.line, Qt::Key_Space, Qt::ShiftModifier);
+        QTest::keyClicks(shown.line, u"a"_s);
+        QCOMPARE(shown.line->text(), u" a"_s); // elsewhere the keys are what they were
+    }
+
+    void changedTextsAreNotLostUnasked()
+    {
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(Samples::folder()));
+        int asked = 0;
+        bool answer = false;
+        shown.window.setDiscardQuestion([&] { return ++asked, answer; });
+        shown.select(4, TrackField::Title);
+        const Dialog preview(shown, u"Capitalize"_s);
+        preview.press(Qt::Key_Return);
+        QVERIFY(!shown.window.close());
+        QVERIFY(shown.window.isVisible());
+        shown.window.openFolder(Samples::folder() + u"/Sever"_s);
+        QCOMPARE(asked, 2);
+        QCOMPARE(shown.window.folder(), Samples::folder());
+        QCOMPARE(shown.text(4, TrackField::Title), u"Été À La Plage"_s);
+
+        answer = true;
+        QVERIFY(shown.open(Samples::folder() + u"/Sever"_s));
+        QCOMPARE(asked, 3);
+        QVERIFY(!shown.window.isWindowModified() && !shown.action(u"Undo"_s)->isEnabled());
+        QVERIFY(shown.window.close()); // nothing to lose any more
+        QCOMPARE(asked, 3);
+    }
+
+    void theTitleMarksChangesWhateverTheFolderIsNamed()
+    {
+        const QTemporaryDir folder;
+        const QString odd = folder.filePath(u"a[*]b"_s);
+        QVERIFY(QDir().mkdir(odd) && Samples::copy(u"Interlude.ogg"_s, odd + u"/a.ogg"_s));
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(odd));
+        const auto title = [&shown] { return shown.window.windowHandle()->title(); };
+        QVERIFY(title().startsWith(u"a[*]b") && !title().startsWith(u"a[*]b*"));
+        shown.select(0, TrackField::Title);
+        const Dialog preview(shown, u"camelCase"_s);
+        preview.press(Qt::Key_Return);
+        QVERIFY(title().startsWith(u"a[*]b*"));
+        shown.window.setDiscardQuestion([] { return true; });
+    }
+
+private:
+    std::unique_ptr<QTemporaryDir> m_store;
+};
+
+QTEST_MAIN(tst_TextEditing)
+#include "tst_TextEditing.moc"
