@@ -32,7 +32,7 @@ QuickOpen::QuickOpen(const TrackTableModel *tracks, QWidget *window)
     , m_count(new QLabel)
 {
     setAccessibleName(tr("Quick Open"));
-    setFrameStyle(QFrame::StyledPanel | QFrame::Raised);
+    setFrameStyle(QFrame::Box | QFrame::Plain); // stands out from any window beneath
     setAutoFillBackground(true);
     m_field->setPlaceholderText(tr("Title or artist"));
     m_field->setAccessibleName(tr("Quick Open"));

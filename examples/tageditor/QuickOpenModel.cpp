@@ -10,9 +10,6 @@
 
 namespace {
 
-/// What scores no more than this lacks a character, or has them scattered all over a long text.
-constexpr double LowestScore = 0.05;
-
 QString textOfTrack(const Track &track)
 {
     const QString &title = track.text(TrackField::Title);
@@ -62,8 +59,8 @@ QList<qsizetype> QuickOpenModel::ranked() const
 {
     QList<qsizetype> indices;
     for (const auto &[index, score] : m_scorer->rankingOfCleaned(m_candidates.cleaned)) {
-        if (score <= LowestScore)
-            break;
+        if (score <= 0)
+            break; // from here on, all lack a character
         indices.append(index);
     }
     return indices;

@@ -15,9 +15,6 @@ namespace {
 /// How long the texts are gone through at a time, in milliseconds: less than a frame.
 constexpr qint64 Slice = 8;
 
-/// How many texts are gone through between two looks at the clock.
-constexpr qsizetype TextsAtATime = 32;
-
 } // namespace
 
 TransformPreviewModel::TransformPreviewModel(QList<TextChange> cells, QObject *parent)
@@ -66,9 +63,7 @@ std::vector<TransformPreviewModel::Row> TransformPreviewModel::nextRows(qint64 m
     std::vector<Row> rows;
     QElapsedTimer elapsed;
     elapsed.start();
-    for (; m_next < m_cells.size(); ++m_next) {
-        if (m_next % TextsAtATime == 0 && elapsed.elapsed() >= milliseconds)
-            break;
+    for (; m_next < m_cells.size() && elapsed.elapsed() < milliseconds; ++m_next) {
         const QString &before = m_cells.at(m_next).text;
         QString after = m_transform.apply(before, m_rules);
         if (after != before)
