@@ -7,6 +7,8 @@
 
 #include <QAbstractListModel>
 
+#include <optional>
+
 class TrackTableModel;
 
 /// The tracks as lines of text that fit what was typed, the best first; all in the order of the table as long

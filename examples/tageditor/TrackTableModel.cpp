@@ -6,6 +6,7 @@
 #include <tageditor/NaturalOrder.h>
 
 #include <QFont>
+#include <QTextDocument>
 
 #include <algorithm>
 
@@ -107,7 +108,7 @@ QList<TextChange> TrackTableModel::setTexts(const QList<TextChange> &changes)
 /// The text that stood there before.
 QString TrackTableModel::setText(Track &track, TrackField field, const QString &text)
 {
-    const QString previous = std::exchange(track.text(field), text);
+    QString previous = std::exchange(track.text(field), text);
     const Cell cell(track.id, int(field));
     const auto saved = m_savedTexts.constFind(cell);
     if (saved == m_savedTexts.cend() && text != previous)

@@ -8,6 +8,8 @@
 #include <QAbstractTableModel>
 #include <QHash>
 
+#include <vector>
+
 /// A text for one cell of a track, which is named by its id because rows may be sorted meanwhile.
 struct TextChange {
     int trackId = -1;

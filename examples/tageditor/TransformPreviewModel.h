@@ -8,6 +8,8 @@
 
 #include <QTimer>
 
+#include <vector>
+
 /// What a transform makes of texts: a row for each text that it changes, as it was and as it would be. The
 /// texts are gone through a little at a time, so that a hundred thousand of them stop nobody from typing.
 class TransformPreviewModel : public QAbstractTableModel {
