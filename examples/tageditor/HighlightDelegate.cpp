@@ -66,8 +66,7 @@ QTextLayout::FormatRange mark(const ZEVRange &range, const MatchColors::Pair &co
 QList<QTextLayout::FormatRange> marks(const CellMatches &matches, const QColor &base)
 {
     QList<QTextLayout::FormatRange> marks;
-    for (qsizetype n = 0; n < matches.ranges.size(); ++n) {
-        const ZEVRange &range = matches.ranges.at(n);
+    for (const ZEVRange &range : matches.ranges) {
         const bool touches = !marks.isEmpty() && range.length > 0 && marks.last().length > 0
             && marks.last().start + marks.last().length == range.location;
         if (touches)
