@@ -5,21 +5,18 @@
 
 #include <ZEVGlobalUtils/Transforms/ZEVByteCountFormatter.h>
 
+#include <QVariant>
+
 /// What the size transformers have in common.
 namespace ZEVSizeTexts {
 
-inline ZEVByteCountFormatter zeroPaddingFormatter()
-{
-    ZEVByteCountFormatter formatter;
-    formatter.setZeroPadsFractionDigits(true);
-    return formatter;
-}
+ZEVByteCountFormatter zeroPaddingFormatter();
 
-/// Kept: the average is that of the whole selection, of which \a count objects may lack a size.
-inline QString sumAndAverage(const ZEVByteCountFormatter &formatter, qint64 sum, qsizetype count)
-{
-    return QString(formatter.stringFromByteCount(sum) + u" (~ " + formatter.stringFromByteCount(sum / count)
-                   + u')');
-}
+/// Whether a selection that comes to no bytes shows as such or not at all.
+enum class Nothing { Shown, Hidden };
+
+/// The text for a number, or for a list of numbers that may lack some: their sum and average, or the one
+/// number. Nil for anything else.
+QVariant sizeText(const ZEVByteCountFormatter &formatter, const QVariant &value, Nothing nothing);
 
 } // namespace ZEVSizeTexts
