@@ -23,6 +23,16 @@ QString sampleFolder()
     return installed.exists() ? installed.canonicalPath() : QStringLiteral(TAGEDITOR_SAMPLE);
 }
 
+/// For those who work on the library, so the help keeps silent about it.
+void describeGallery(QCommandLineParser &parser)
+{
+    for (const QString &name : {u"gallery"_s, u"inactive"_s}) {
+        QCommandLineOption option(name);
+        option.setFlags(QCommandLineOption::HiddenFromHelp);
+        parser.addOption(option);
+    }
+}
+
 void describe(QCommandLineParser &parser)
 {
     parser.setApplicationDescription(text("Shows the tags of the audio files in a folder."));
@@ -37,6 +47,7 @@ void describe(QCommandLineParser &parser)
         {u"quit"_s, text("Leave once all that is done.")},
         {u"dark"_s, text("Draw light on dark.")},
     });
+    describeGallery(parser);
 }
 
 qint64 matchingType(const QCommandLineParser &parser)
@@ -65,5 +76,7 @@ CommandLine CommandLine::parsed(const QCoreApplication &application)
         .quits = parser.isSet(u"quit"_s),
         .isDark = parser.isSet(u"dark"_s),
         .screenshotFile = parser.value(u"screenshot"_s),
+        .showsGallery = parser.isSet(u"gallery"_s),
+        .isInactive = parser.isSet(u"inactive"_s),
     };
 }

@@ -16,7 +16,9 @@ struct CommandLine {
     bool writesReport = false;
     bool quits = false;
     bool isDark = false;
-    QString screenshotFile;
+    QString screenshotFile; ///< with the gallery, the folder of its pages' pictures
+    bool showsGallery = false;
+    bool isInactive = false; ///< another window has the focus while the gallery is pictured
 
     /// Leaves the process with a message where the arguments cannot be understood or ask for help.
     static CommandLine parsed(const QCoreApplication &application);

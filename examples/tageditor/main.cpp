@@ -4,11 +4,14 @@
 #include <tageditor/AutomatedRun.h>
 #include <tageditor/DarkPalette.h>
 #include <tageditor/FindLine.h>
+#include <tageditor/gallery/GalleryWindow.h>
 #include <tageditor/MainWindow.h>
 
 #include <QApplication>
 #include <QStyle>
 #include <QStyleFactory>
+
+#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -30,6 +33,23 @@ void goDark(QApplication &application)
     application.setPalette(darkPalette());
 }
 
+int runGallery(const CommandLine &commandLine)
+{
+    GalleryWindow window(galleryPages());
+    QWidget other;
+    window.show();
+    if (commandLine.isInactive) {
+        other.show();
+        other.activateWindow();
+    }
+    if (!commandLine.screenshotFile.isEmpty() && !window.saveScreenshots(commandLine.screenshotFile)) {
+        std::fprintf(stderr, "%s\n",
+                     qPrintable(QCoreApplication::translate("main", "A screenshot could not be saved.")));
+        return 1;
+    }
+    return commandLine.quits ? 0 : QApplication::exec();
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -39,6 +59,8 @@ int main(int argc, char **argv)
     const CommandLine commandLine = CommandLine::parsed(application);
     if (commandLine.isDark)
         goDark(application);
+    if (commandLine.showsGallery)
+        return runGallery(commandLine);
 
     MainWindow window;
     const AutomatedRun run(&window, commandLine);

@@ -3,6 +3,8 @@
 
 #include "Samples.h"
 
+#include <tageditor/gallery/GalleryPages.h>
+
 #include <QImage>
 #include <QProcess>
 #include <QTest>
@@ -71,8 +73,20 @@ private Q_SLOTS:
         QVERIFY2(marked > 1000, qPrintable(QString::number(marked)));
     }
 
+    void theGalleryPicturesEveryPage()
+    {
+        const QTemporaryDir folder;
+        const QString made = folder.filePath(u"a/b"_s);
+        QCOMPARE(run({u"--gallery"_s, u"--inactive"_s, u"--screenshot"_s, made, u"--quit"_s}).code, 0);
+        const QStringList files = QDir(made).entryList(QDir::Files);
+        QCOMPARE(files.size(), galleryPages().size());
+        for (const QString &file : files)
+            QVERIFY2(QImage(made + u'/' + file).width() > 900, qPrintable(file));
+    }
+
     void failuresShowInTheCode()
     {
+        QCOMPARE(run({u"--quit"_s, u"--gallery"_s, u"--screenshot"_s, u"/dev/null/pages"_s}).code, 1);
         QCOMPARE(run({u"--quit"_s, u"/no/such/folder"_s}).code, 1);
         QCOMPARE(run({u"--quit"_s, u"--screenshot"_s, u"/no/such/folder/a.png"_s}).code, 1);
         QCOMPARE(run({u"--quit"_s, u"--matching-type"_s, u"6"_s}).code, 2);

@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <tageditor/gallery/GalleryPages.h>
+
+#include <tageditor/gallery/TextTransformsPage.h>
+
+using namespace Qt::StringLiterals;
+
+QList<GalleryPage> galleryPages()
+{
+    return {
+        {u"Text transforms"_s, &textTransformsPage},
+    };
+}
