@@ -3,6 +3,7 @@
 
 #include <tageditor/gallery/GalleryPages.h>
 
+#include <tageditor/gallery/MenuItemsPage.h>
 #include <tageditor/gallery/TextTransformsPage.h>
 
 using namespace Qt::StringLiterals;
@@ -10,6 +11,7 @@ using namespace Qt::StringLiterals;
 QList<GalleryPage> galleryPages()
 {
     return {
+        {u"Menu items"_s, &menuItemsPage},
         {u"Text transforms"_s, &textTransformsPage},
     };
 }

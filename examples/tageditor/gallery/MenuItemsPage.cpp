@@ -1,0 +1,94 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <tageditor/gallery/MenuItemsPage.h>
+
+#include <ZEVGlobalUtils/FindEngine/ZEVArrayPatternDisplaySupport.h>
+#include <ZEVGlobalUtils/FindEngine/ZEVPatternItem.h>
+#include <ZEVGlobalUtils/Menus/ZEVMenuItem.h>
+#include <ZEVGlobalUtils/Menus/ZEVMenuItemBlockAdditions.h>
+#include <ZEVGlobalUtils/Menus/ZEVMenuItemHeadings.h>
+#include <ZEVGlobalUtils/Menus/ZEVMenuItemRemoveAllFollowing.h>
+
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QStyle>
+
+using namespace Qt::StringLiterals;
+using namespace ZEVMenuItemBlockAdditions;
+using namespace ZEVMenuItemHeadings;
+
+namespace {
+
+/// A menu as a part of its parent, since a real one would close at the next click elsewhere.
+QMenu *openMenu(QWidget *parent)
+{
+    auto *menu = new QMenu(parent);
+    menu->setWindowFlags(Qt::Widget);
+    return menu;
+}
+
+QAction *patternItem(const QVariantList &pattern, QMenu *menu)
+{
+    QAction *item = itemWithTitle(QString(), menu);
+    ZEVMenuItem::setAttributedTitle(item, ZEVArrayPatternDisplaySupport::patternDisplayString(pattern));
+    ZEVMenuItem::setIndentationLevel(item, 1);
+    return item;
+}
+
+void addPatterns(QMenu *menu)
+{
+    const QVariant digits = QVariant::fromValue(ZEVPatternItem::digits());
+    const QVariant word = QVariant::fromValue(ZEVPatternItem::anyWord());
+    menu->addAction(headingItemWithTitle(u"Saved Patterns"_s, false, menu));
+    QAction *underPointer = patternItem({u"Track "_s, digits, u" & "_s, word}, menu);
+    QAction *disabled = patternItem({word, u", "_s, word}, menu);
+    disabled->setEnabled(false);
+    menu->addActions({underPointer, patternItem({digits, u". "_s}, menu), disabled});
+    menu->setActiveAction(underPointer);
+}
+
+QMenu *mixedMenu(QWidget *parent)
+{
+    QMenu *menu = openMenu(parent);
+    menu->addAction(headingItemWithTitle(u"Artwork & Tags"_s, false, menu));
+    QAction *copy = itemWithTitle(u"Copy & Paste"_s, QKeySequence::Copy, {}, menu);
+    copy->setIcon(menu->style()->standardIcon(QStyle::SP_FileIcon));
+    QAction *checked = itemWithTitle(u"Checked"_s, menu);
+    ZEVMenuItem::setState(checked, ZEVMenuItem::On);
+    QAction *submenu = menu->addMenu(u"Submenu"_s)->menuAction();
+    menu->addActions({copy, checked, disabledItemWithTitle(u"Disabled"_s, menu), submenu});
+    menu->addAction(ZEVMenuItemRemoveAllFollowing::spacerItemWithHeight(12, menu));
+    for (int level = 0; level < 4; ++level) {
+        QAction *item = menu->addAction(u"Indented %1"_s.arg(level));
+        ZEVMenuItem::setIndentationLevel(item, level);
+    }
+    menu->addAction(headingItemWithTitle(u"With leading space"_s, true, menu));
+    addPatterns(menu);
+    ZEVMenuItem::setState(menu->actions().last(), ZEVMenuItem::On);
+    menu->actions().last()->setShortcut(QKeySequence(u"Ctrl+1"_s));
+    return menu;
+}
+
+/// As token fields show it: small, of patterns alone.
+QMenu *patternMenu(QWidget *parent)
+{
+    QMenu *menu = openMenu(parent);
+    QFont font = menu->font();
+    font.setPixelSize(11);
+    menu->setFont(font);
+    addPatterns(menu);
+    return menu;
+}
+
+} // namespace
+
+QWidget *menuItemsPage(QWidget *parent)
+{
+    auto *page = new QWidget(parent);
+    auto *columns = new QHBoxLayout(page);
+    for (QMenu *menu : {mixedMenu(page), patternMenu(page)})
+        columns->addWidget(menu, 0, Qt::AlignTop);
+    columns->addStretch();
+    return page;
+}
