@@ -130,3 +130,20 @@ void ZEVMenuItem::setState(QAction *item, State state)
         item->setCheckable(true);
     item->setChecked(state == On);
 }
+
+QAction *ZEVMenuItem::copyOfItem(QAction *item, QObject *parent)
+{
+    auto *copy = new QAction(item->icon(), item->text(), parent);
+    copy->setProperty(TitlesKey, item->property(TitlesKey));
+    copy->setProperty(TagKey, item->property(TagKey));
+    copy->setData(item->data());
+    copy->setSeparator(item->isSeparator());
+    copy->setShortcut(item->shortcut());
+    copy->setFont(item->font());
+    copy->setCheckable(item->isCheckable());
+    copy->setChecked(item->isChecked());
+    copy->setEnabled(item->isEnabled());
+    copy->setVisible(item->isVisible());
+    QObject::connect(copy, &QAction::triggered, item, &QAction::trigger);
+    return copy;
+}

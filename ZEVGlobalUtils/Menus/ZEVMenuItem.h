@@ -11,6 +11,7 @@
 #include <optional>
 
 class QAction;
+class QObject;
 
 /// What an item of a menu holds beyond Qt's action. The items are any actions, the menus any QMenu of any
 /// style. A text that the host gives the action with setText() replaces the title and the attributed title.
@@ -43,5 +44,9 @@ ZEV_EXPORT void setTag(QAction *item, qint64 tag);
 /// On makes the item checkable. Off leaves an item that is not checkable as it is, without an empty box.
 ZEV_EXPORT State state(const QAction *item);
 ZEV_EXPORT void setState(QAction *item, State state);
+
+/// An item for another menu that looks the same and, chosen, chooses \a item, as long as that lives. It
+/// belongs to \a parent.
+ZEV_EXPORT QAction *copyOfItem(QAction *item, QObject *parent);
 
 } // namespace ZEVMenuItem
