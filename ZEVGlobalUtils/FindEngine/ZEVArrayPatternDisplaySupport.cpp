@@ -5,6 +5,7 @@
 
 #include <ZEVGlobalUtils/FindEngine/ZEVPattern_p.h>
 #include <ZEVGlobalUtils/Platform/ZEVAttributedString.h>
+#include <ZEVGlobalUtils/Platform/ZEVNamedColors.h>
 
 #include <QGuiApplication>
 #include <QPalette>
@@ -15,12 +16,11 @@ namespace {
 
 constexpr float HighlightAlpha = 0.4F;
 
-/// The fill of the green tokens.
-QColor wildcardColor() { return QColor::fromRgbF(0.196F, 0.849F, 0.664F, HighlightAlpha); }
-
-QColor placeholderColor()
+QColor tokenColor(const ZEVPatternItem &item)
 {
-    QColor color = QGuiApplication::palette().color(QPalette::Highlight);
+    const QPalette palette = QGuiApplication::palette();
+    QColor color = item.isDummy() ? ZEVNamedColors::colorNamed(u"tokenGreenColor", palette)
+                                  : palette.color(QPalette::Highlight);
     color.setAlphaF(HighlightAlpha);
     return color;
 }
@@ -28,7 +28,7 @@ QColor placeholderColor()
 QTextCharFormat tokenFormat(const ZEVPatternItem &item)
 {
     QTextCharFormat format;
-    format.setBackground(item.isDummy() ? wildcardColor() : placeholderColor());
+    format.setBackground(tokenColor(item));
     return format;
 }
 
