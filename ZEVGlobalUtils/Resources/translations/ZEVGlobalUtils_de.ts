@@ -195,5 +195,37 @@
         <source>The number is too large.</source>
         <translation>Die Zahl ist zu groß.</translation>
     </message>
+    <message>
+        <source>Insert Pattern</source>
+        <translation>Muster einfügen</translation>
+    </message>
+    <message>
+        <source>Saved Patterns</source>
+        <translation>Gesicherte Muster</translation>
+    </message>
+    <message>
+        <source>Remove From Saved</source>
+        <translation>Aus gesicherten entfernen</translation>
+    </message>
+    <message>
+        <source>Save Current</source>
+        <translation>Aktuelles sichern</translation>
+    </message>
+    <message>
+        <source>Show Menu</source>
+        <translation>Menü einblenden</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>No Results</source>
+        <translation>Keine Ergebnisse</translation>
+    </message>
 </context>
 </TS>

@@ -195,5 +195,37 @@
         <source>The number is too large.</source>
         <translation>The number is too large.</translation>
     </message>
+    <message>
+        <source>Insert Pattern</source>
+        <translation>Insert Pattern</translation>
+    </message>
+    <message>
+        <source>Saved Patterns</source>
+        <translation>Saved Patterns</translation>
+    </message>
+    <message>
+        <source>Remove From Saved</source>
+        <translation>Remove From Saved</translation>
+    </message>
+    <message>
+        <source>Save Current</source>
+        <translation>Save Current</translation>
+    </message>
+    <message>
+        <source>Show Menu</source>
+        <translation>Show Menu</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>No Results</source>
+        <translation>No Results</translation>
+    </message>
 </context>
 </TS>
