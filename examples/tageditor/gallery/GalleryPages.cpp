@@ -5,12 +5,14 @@
 
 #include <tageditor/gallery/MenuItemsPage.h>
 #include <tageditor/gallery/TextTransformsPage.h>
+#include <tageditor/gallery/TokenFieldsPage.h>
 
 using namespace Qt::StringLiterals;
 
 QList<GalleryPage> galleryPages()
 {
     return {
+        {u"Token fields"_s, &tokenFieldsPage},
         {u"Menu items"_s, &menuItemsPage},
         {u"Text transforms"_s, &textTransformsPage},
     };
