@@ -7,16 +7,19 @@
 #include <tageditor/PatternString.h>
 #include <tageditor/TrackSearch.h>
 
-#include <ZEVGlobalUtils/FindEngine/ZEVPatternItem.h>
+#include <ZEVGlobalUtils/FindPanel/ZEVPatternTokens.h>
+#include <ZEVGlobalUtils/FindPanel/ZEVTokenField.h>
+#include <ZEVGlobalUtils/FindPanel/ZEVTokenFieldCell.h>
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QToolButton>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -28,15 +31,13 @@ constexpr qint64 CountInterval = 50;
 FindLine::FindLine(TrackSearch *search, QWidget *parent)
     : QWidget(parent)
     , m_search(search)
-    , m_pattern(new QLineEdit(this))
+    , m_tokens(new ZEVPatternTokens({PatternString::vocabulary()}, this))
+    , m_pattern(new ZEVTokenField(this))
     , m_matchingType(new QComboBox(this))
     , m_caseSensitive(new QCheckBox(tr("Case &Sensitive"), this))
     , m_message(new MessageLabel(this))
 {
-    m_pattern->setPlaceholderText(tr("Find in all tracks"));
-    m_pattern->setAccessibleName(tr("Find"));
-    m_pattern->setClearButtonEnabled(true);
-    m_pattern->installEventFilter(this);
+    setUpPattern();
     m_matchingType->setAccessibleName(tr("Matching Type"));
     m_matchingType->setToolTip(tr("How a cell must match the pattern"));
     fillMatchingTypes();
@@ -44,6 +45,23 @@ FindLine::FindLine(TrackSearch *search, QWidget *parent)
     watchSearch();
     showResult();
     setFocusProxy(m_pattern);
+}
+
+void FindLine::setUpPattern()
+{
+    m_pattern->setPlaceholderText(tr("Find in all tracks"));
+    m_pattern->setAccessibleName(tr("Find"));
+    m_pattern->installEventFilter(this);
+    m_pattern->setDelegate(m_tokens);
+    m_pattern->setLossless(true);
+    m_pattern->setAutosaveName(u"FindPattern"_s);
+    auto *cell = static_cast<ZEVTokenFieldCell *>(m_pattern->cell());
+    cell->setActionButton(ZEVTokenFieldCell::cellButtonWithImageNamed(
+        u"icoMenuTemplate", [this] { m_pattern->popUpRecentsMenu(); }));
+    QAbstractButton *clear = ZEVTokenFieldCell::cellButtonWithImageNamed(
+        u"NSStopProgressFreestandingTemplate", [this] { m_pattern->clear(); });
+    clear->setAccessibleName(tr("Clear"));
+    cell->setRightButton(clear);
 }
 
 void FindLine::fillMatchingTypes()
@@ -78,10 +96,9 @@ void FindLine::layOut()
 QWidget *FindLine::makeTokenButton()
 {
     auto *menu = new QMenu(this);
-    for (const ZEVPatternItem &item : PatternString::vocabulary()) {
-        QAction *action = menu->addAction(item.title().value_or(QString()));
-        connect(action, &QAction::triggered, this, [this, item] { insertToken(item); });
-    }
+    connect(menu, &QMenu::aboutToShow, this,
+            [this, menu] { ZEVPatternTokens::fillMenu(menu, m_pattern, m_tokens->groups()); });
+    m_pattern->setMenu(menu);
     auto *button = new QPushButton(tr("Insert &Token"), this);
     button->setToolTip(tr("Insert a token that stands for a kind of text"));
     button->setMenu(menu);
@@ -102,7 +119,7 @@ QWidget *FindLine::makeStepButton(Qt::ArrowType arrow, const QString &name, int 
 
 void FindLine::watchSearch()
 {
-    connect(m_pattern, &QLineEdit::textChanged, this, &FindLine::submitQuery);
+    connect(m_pattern, &ZEVTokenField::objectValueChanged, this, &FindLine::submitQuery);
     connect(m_matchingType, &QComboBox::currentIndexChanged, this, &FindLine::submitQuery);
     connect(m_caseSensitive, &QCheckBox::toggled, this, &FindLine::submitQuery);
     connect(m_search, &TrackSearch::countChanged, this, &FindLine::showGrowingCount);
@@ -110,7 +127,7 @@ void FindLine::watchSearch()
     connect(m_search, &TrackSearch::currentMatchChanged, this, &FindLine::showResult);
 }
 
-void FindLine::setPatternText(const QString &text) { m_pattern->setText(text); }
+void FindLine::setPatternText(const QString &text) { m_pattern->setPatternStringValue(text); }
 
 void FindLine::setMatchingType(qint64 matchingType)
 {
@@ -138,16 +155,10 @@ bool FindLine::eventFilter(QObject *watched, QEvent *event)
     return QWidget::eventFilter(watched, event);
 }
 
-void FindLine::insertToken(const ZEVPatternItem &item)
-{
-    m_pattern->insert(PatternString::textForItem(item));
-    m_pattern->setFocus();
-}
-
 void FindLine::submitQuery()
 {
     ZEVFindPanelQuery query;
-    query.setSearchPattern(PatternString::patternFromText(m_pattern->text()));
+    query.setSearchPattern(m_pattern->objectValue());
     query.setMatchingType(m_matchingType->currentData().toLongLong());
     query.setCaseInsensitiveSearch(!m_caseSensitive->isChecked());
     m_search->setQuery(query);

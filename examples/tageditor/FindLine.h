@@ -8,10 +8,11 @@
 
 class QCheckBox;
 class QComboBox;
-class QLineEdit;
 class MessageLabel;
+class QMenu;
 class TrackSearch;
-class ZEVPatternItem;
+class ZEVPatternTokens;
+class ZEVTokenField;
 
 /// Where the user says what to find: a line for the pattern, how it matches, and steps through the matches.
 class FindLine : public QWidget {
@@ -30,13 +31,13 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void setUpPattern();
     QWidget *makeTokenButton();
     QWidget *makeStepButton(Qt::ArrowType arrow, const QString &name, int direction);
     void fillMatchingTypes();
     void layOut();
     void watchSearch();
 
-    void insertToken(const ZEVPatternItem &item);
     void submitQuery();
     void showGrowingCount();
     void showResult();
@@ -44,7 +45,8 @@ private:
     QString countText() const;
 
     TrackSearch *m_search;
-    QLineEdit *m_pattern;
+    ZEVPatternTokens *m_tokens;
+    ZEVTokenField *m_pattern;
     QComboBox *m_matchingType;
     QCheckBox *m_caseSensitive;
     MessageLabel *m_message;

@@ -66,7 +66,8 @@ int main(int argc, char **argv)
     const AutomatedRun run(&window, commandLine);
     window.findLine().setMatchingType(commandLine.matchingType);
     window.findLine().setCaseSensitive(commandLine.isCaseSensitive);
-    window.findLine().setPatternText(commandLine.findText);
+    if (!commandLine.findText.isEmpty())
+        window.findLine().setPatternText(commandLine.findText);
     window.show();
     window.openFolder(commandLine.folder);
     return application.exec();

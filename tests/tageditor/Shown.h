@@ -9,6 +9,7 @@
 #include <tageditor/MainWindow.h>
 #include <tageditor/SizeLabel.h>
 
+#include <ZEVGlobalUtils/FindPanel/ZEVTokenField.h>
 #include <ZEVGlobalUtils/Platform/ZEVUserDefaults.h>
 
 #include <QLabel>
@@ -84,13 +85,15 @@ struct Shown {
     }
 
     MainWindow window;
-    QLineEdit *line = window.findChild<FindLine *>()->findChild<QLineEdit *>();
+    ZEVTokenField *line = window.findChild<FindLine *>()->findChild<ZEVTokenField *>();
     bool visible = false;
 };
 
-/// What the application remembers goes into a folder of the test's own.
+/// What the application remembers goes into a folder of the test's own, where nothing is remembered yet.
 inline void useStoreIn(const QTemporaryDir &folder)
 {
-    ZEVUserDefaults::setStandardStore(
-        std::make_unique<QSettings>(folder.filePath(QStringLiteral("defaults.ini")), QSettings::IniFormat));
+    const QString file = folder.filePath(QStringLiteral("defaults.ini"));
+    ZEVUserDefaults::setStandardStore(nullptr);
+    QFile::remove(file);
+    ZEVUserDefaults::setStandardStore(std::make_unique<QSettings>(file, QSettings::IniFormat));
 }

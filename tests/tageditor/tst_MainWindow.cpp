@@ -119,12 +119,13 @@ private Q_SLOTS:
     {
         Shown shown;
         QVERIFY(shown.visible && shown.open(Samples::folder()));
-        const QList<QAction *> tokens = shown.window.findChild<FindLine *>()->findChild<QMenu *>()->actions();
-        QCOMPARE(tokens.size(), 10);
-        tokens.at(8)->trigger();
-        QCOMPARE(shown.line->text(), u"%(\\@)%"_s);
+        QMenu *tokens = shown.line->menu();
+        Q_EMIT tokens->aboutToShow();
+        QCOMPARE(tokens->actions().size(), 10);
+        tokens->actions().at(8)->trigger();
+        QTRY_COMPARE(shown.line->patternStringValue(), u"%(\\@)%"_s);
         QTRY_COMPARE(shown.message(), u"3 matches"_s); // comments that are an address and nothing else
-        shown.line->setText(u"folk"_s);
+        shown.line->setPatternStringValue(u"folk"_s);
         shown.window.findLine().setMatchingType(ZEVFindPanelQuery::MatchesContents);
         QTRY_COMPARE(shown.message(), u"3 matches"_s);
         shown.window.findLine().setCaseSensitive(true);
