@@ -92,6 +92,8 @@ void ZEVFilterSearchFieldCell::setActive(bool active)
     Q_EMIT activeChanged(active);
 }
 
+QLabel *ZEVFilterSearchFieldCell::noResultsField() const { return m_noResultsField; }
+
 void ZEVFilterSearchFieldCell::setNoResultsField(QLabel *field)
 {
     m_noResultsField = field;

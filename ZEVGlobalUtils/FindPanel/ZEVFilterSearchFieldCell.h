@@ -34,7 +34,7 @@ public:
     void setActive(bool active);
 
     /// Shown by its owner when the filter leaves nothing; it gets its text here.
-    QLabel *noResultsField() const { return m_noResultsField; }
+    QLabel *noResultsField() const;
     void setNoResultsField(QLabel *field);
 
     /// Taken from the named colours of the palette whenever that changes.

@@ -68,8 +68,8 @@ public:
     bool validateMenuItem(const QAction *item) const;
 
     /// What is inserted from: its owner fills it. Null at first.
-    QMenu *menu() const { return m_menu; }
-    void setMenu(QMenu *menu) { m_menu = menu; }
+    QMenu *menu() const;
+    void setMenu(QMenu *menu);
 
     ZEVTokenFieldMenuDelegate *menuDelegate() const { return m_menuDelegate.get(); }
     void setMenuDelegate(ZEVWeakRef<ZEVTokenFieldMenuDelegate> delegate) { m_menuDelegate = delegate; }

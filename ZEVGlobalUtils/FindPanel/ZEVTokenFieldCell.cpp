@@ -42,6 +42,9 @@ QAbstractButton *ZEVTokenFieldCell::cellButtonWithImageNamed(QStringView name,
     return button;
 }
 
+QAbstractButton *ZEVTokenFieldCell::actionButton() const { return m_actionButton; }
+QAbstractButton *ZEVTokenFieldCell::rightButton() const { return m_rightButton; }
+
 void ZEVTokenFieldCell::setActionButton(QAbstractButton *button)
 {
     adopt(m_actionButton, button);

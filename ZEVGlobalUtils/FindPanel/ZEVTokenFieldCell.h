@@ -21,11 +21,11 @@ public:
 
     /// Before the text; opens the drop-down menu. The cell owns its buttons and deletes the one that a new
     /// one replaces; null takes it away.
-    QAbstractButton *actionButton() const { return m_actionButton; }
+    QAbstractButton *actionButton() const;
     void setActionButton(QAbstractButton *button);
 
     /// Behind the text. It keeps the accessible name that its maker gives it.
-    QAbstractButton *rightButton() const { return m_rightButton; }
+    QAbstractButton *rightButton() const;
     void setRightButton(QAbstractButton *button);
 
     qreal buttonWidth() const { return m_buttonWidth; }

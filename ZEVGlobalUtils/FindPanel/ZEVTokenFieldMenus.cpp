@@ -55,6 +55,9 @@ void ZEVTokenField::setUpMenus()
     connect(m_addTokensItem, &QAction::triggered, this, &ZEVTokenField::popUpMenu);
 }
 
+QMenu *ZEVTokenField::menu() const { return m_menu; }
+void ZEVTokenField::setMenu(QMenu *menu) { m_menu = menu; }
+
 void ZEVTokenField::menuNeedsUpdate(QMenu *menu)
 {
     if (menu == m_patternsMenu.get())
