@@ -14,16 +14,26 @@ ZEVTextFinderClient::~ZEVTextFinderClient() = default;
 
 ZEVTextFinder::ZEVTextFinder(QObject *parent)
     : QObject(parent)
+    , m_expression(std::make_unique<std::optional<ZEVRegularExpression>>())
 {
 }
 
 ZEVTextFinder::~ZEVTextFinder() = default;
+
+const std::optional<ZEVRegularExpression> &ZEVTextFinder::expression() const { return *m_expression; }
 
 void ZEVTextFinder::setNumberOfMatches(std::optional<qsizetype> number)
 {
     if (m_numberOfMatches == number)
         return;
     m_numberOfMatches = number;
+    announceNumberOfMatches();
+}
+
+void ZEVTextFinder::announceNumberOfMatches()
+{
+    if (m_textFinderViewController)
+        m_textFinderViewController->setNumberOfMatches(m_numberOfMatches);
     Q_EMIT numberOfMatchesChanged();
 }
 
@@ -35,7 +45,8 @@ public:
         : m_finder(finder)
         , m_number(++finder->m_searchNumber)
         , m_isObserved(
-              finder->isSignalConnected(QMetaMethod::fromSignal(&ZEVTextFinder::numberOfMatchesChanged)))
+              finder->m_textFinderViewController
+              || finder->isSignalConnected(QMetaMethod::fromSignal(&ZEVTextFinder::numberOfMatchesChanged)))
     {
     }
 
@@ -76,7 +87,7 @@ private:
 
     bool announce()
     {
-        Q_EMIT m_finder->numberOfMatchesChanged();
+        m_finder->announceNumberOfMatches();
         return isCurrent() && m_finder->m_client;
     }
 
@@ -88,12 +99,19 @@ private:
 void ZEVTextFinder::performSearchAgainstExpression(const std::optional<ZEVRegularExpression> &expression)
 {
     Search search(this);
+    const QPointer guard(this);
+    *m_expression = expression;
     m_foundMatches.clear();
     m_limitReached = false;
     setNumberOfMatches(std::nullopt);
-    if (!search.isCurrent() || !m_client || !expression || m_client->stringLength() <= 0)
+    if (search.isCurrent() && m_client && *m_expression && m_client->stringLength() > 0) {
+        search.run(**m_expression);
+        if (search.isCurrent())
+            setNumberOfMatches(m_foundMatches.size()); // 0, no longer nil, where nothing was found
+    }
+    if (!guard || !search.isCurrent())
         return;
-    search.run(*expression);
-    if (search.isCurrent())
-        setNumberOfMatches(m_foundMatches.size()); // 0, no longer nil, where nothing was found
+    if (m_textFinderViewController)
+        m_textFinderViewController->setSearchLimitReached(m_limitReached);
+    Q_EMIT searchPerformed();
 }

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/Export.h>
+#include <ZEVGlobalUtils/FindEngine/ZEVTextFinderUserInterface.h>
 #include <ZEVGlobalUtils/Platform/ZEVRange.h>
 
 #include <QList>
@@ -11,11 +11,13 @@
 
 #include <optional>
 
-class ZEVRegularExpression;
+class ZEVFindBarContainer;
 class ZEVTextFinderClient;
 
-/// Runs a search over a client's text and keeps every match. Main thread only.
-class ZEV_EXPORT ZEVTextFinder : public QObject {
+/// The finder of a window: shows the find bar, decides which find actions are its own and which the focused
+/// text view's, runs the searches over its client's text and keeps every match. Moving between matches and
+/// replacing them it leaves to the host. Main thread only.
+class ZEV_EXPORT ZEVTextFinder : public QObject, public ZEVTextFinderUserInterfaceDelegate {
     Q_OBJECT
     Q_PROPERTY(std::optional<qsizetype> numberOfMatches READ numberOfMatches NOTIFY numberOfMatchesChanged)
 
@@ -27,9 +29,36 @@ public:
     ZEVTextFinderClient *client() const { return m_client; }
     void setClient(ZEVTextFinderClient *client) { m_client = client; }
 
+    /// Where the find bar is shown; a plain pointer, as the client. Null shows none.
+    ZEVFindBarContainer *findBarContainer() const { return m_findBarContainer; }
+    void setFindBarContainer(ZEVFindBarContainer *container) { m_findBarContainer = container; }
+
+    /// The find bar, made at the first call.
+    ZEVTextFinderUserInterface *textFinderViewController();
+    void setTextFinderViewController(std::unique_ptr<ZEVTextFinderUserInterface> controller);
+
+    /// Whether the finder, and not the text view that has the focus, handles \a action.
+    bool canTakeTextFinderActionOwnerShip(qint64 action);
+
+    /// For menu items and buttons, which carry the action in their property "tag".
+    void tryToPerformTextFinderAction(QObject *sender);
+
+    /// Whether \a action can be performed now.
+    bool validateAction(qint64 action);
+
+    /// Shows, hides or re-purposes the find bar. What is no business of the finder is announced by
+    /// actionLeftToHost().
+    void performAction(qint64 action) override;
+
+    /// The name of a replace action in the user's language. Throws for any other action.
+    static QString localizedNameForAction(qint64 action);
+
     /// Collects every match of \a expression in the client's pieces. A match that would span two pieces is
     /// not found. Nil finds nothing. An observer may search anew or delete the finder while the count grows.
-    void performSearchAgainstExpression(const std::optional<ZEVRegularExpression> &expression);
+    void performSearchAgainstExpression(const std::optional<ZEVRegularExpression> &expression) override;
+
+    /// What was searched last; nil before any search, and for a query that was none.
+    const std::optional<ZEVRegularExpression> &expression() const;
 
     /// The matches of the last search in text order, as ranges of the client's whole text. They stay until
     /// the next search, also when the text changes.
@@ -46,11 +75,25 @@ Q_SIGNALS:
     /// Emitted for every match, so that observers see the count grow.
     void numberOfMatchesChanged();
 
+    /// A search is over, whatever it found.
+    void searchPerformed();
+
+    /// Next, previous, replace, replace all and their kin: whoever can, acts on foundMatches().
+    void actionLeftToHost(qint64 action);
+
 private:
     class Search;
     void setNumberOfMatches(std::optional<qsizetype> number);
+    void announceNumberOfMatches();
+    QWidget *firstResponder() const;
+    bool findBarHasFocus();
+    void showFindBar(qint64 action);
+    void hideFindBar();
 
     ZEVTextFinderClient *m_client = nullptr;
+    ZEVFindBarContainer *m_findBarContainer = nullptr;
+    std::unique_ptr<ZEVTextFinderUserInterface> m_textFinderViewController;
+    std::unique_ptr<std::optional<ZEVRegularExpression>> m_expression;
     QList<ZEVRange> m_foundMatches;
     std::optional<qsizetype> m_numberOfMatches;
     quint64 m_searchNumber = 0;

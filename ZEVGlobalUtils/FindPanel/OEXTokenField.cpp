@@ -60,6 +60,7 @@ OEXTokenField::~OEXTokenField()
 
 void OEXTokenField::setUp()
 {
+    setProperty("isFieldEditor", true);
     setFrameShape(QFrame::NoFrame);
     setLineWrapMode(QTextEdit::NoWrap);
     setWordWrapMode(QTextOption::NoWrap);

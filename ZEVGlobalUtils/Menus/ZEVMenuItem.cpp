@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr char TitlesKey[] = "zevTitles";
-constexpr char TagKey[] = "zevTag";
+constexpr char TagKey[] = "tag"; // as interface files call it
 constexpr int LastIndentationLevel = 15;
 
 struct Titles {
