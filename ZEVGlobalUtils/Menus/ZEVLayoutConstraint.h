@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <qglobal.h>
+#include <QtGlobal>
 
 class QWidget;
 
