@@ -99,7 +99,7 @@ void ZEVMenuItemBlockAdditions::setBlock(QAction *item, const Block &block)
         QObject::connect(item, &QAction::triggered, item, [item] { choose(item); });
 }
 
-void ZEVMenuItemBlockAdditions::performBlockAction(QAction *item)
+void ZEVMenuItemBlockAdditions::_performBlockAction(QAction *item)
 {
     if (const Block block = ZEVMenuItemBlockAdditions::block(item))
         block(item);

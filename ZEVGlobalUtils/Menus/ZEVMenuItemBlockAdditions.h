@@ -35,7 +35,7 @@ ZEV_EXPORT QAction *itemWithTitle(const QString &title, const QKeySequence &keyE
 /// nothing.
 ZEV_EXPORT Block block(const QAction *item);
 ZEV_EXPORT void setBlock(QAction *item, const Block &block);
-ZEV_EXPORT void performBlockAction(QAction *item);
+ZEV_EXPORT void _performBlockAction(QAction *item);
 
 ZEV_EXPORT QVariant userInfo(const QAction *item);
 ZEV_EXPORT void setUserInfo(QAction *item, const QVariant &userInfo);

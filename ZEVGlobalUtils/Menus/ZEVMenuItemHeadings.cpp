@@ -122,6 +122,11 @@ QAction *ZEVMenuItemHeadings::disabledItemWithTitle(const QString &title, const 
     return item;
 }
 
+QAction *ZEVMenuItemHeadings::headingItemWithTitle(const QString &title, QObject *parent)
+{
+    return headingItemWithTitle(title, false, parent);
+}
+
 QAction *ZEVMenuItemHeadings::headingItemWithTitle(const QString &title, bool leadingSpace, QObject *parent)
 {
     QTextBlockFormat paragraphStyle;

@@ -19,8 +19,8 @@ ZEV_EXPORT QAction *disabledItemWithTitle(const QString &title, const QIcon &ima
                                           QObject *parent = nullptr);
 
 /// A title in small grey type, at least 16 points high, 20 with leading space.
-ZEV_EXPORT QAction *headingItemWithTitle(const QString &title, bool leadingSpace = false,
-                                         QObject *parent = nullptr);
+ZEV_EXPORT QAction *headingItemWithTitle(const QString &title, QObject *parent = nullptr);
+ZEV_EXPORT QAction *headingItemWithTitle(const QString &title, bool leadingSpace, QObject *parent = nullptr);
 /// The minimum line height of \a paragraphStyle, in points, adds its room above the title. The font is the
 /// system's at 11 points of 1/96 inch, whatever the menu's font; it follows the desktop's text scaling.
 ZEV_EXPORT QAction *headingItemWithTitle(const QString &title, const QTextBlockFormat &paragraphStyle,

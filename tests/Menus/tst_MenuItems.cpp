@@ -150,7 +150,7 @@ private Q_SLOTS:
         QMenu menu;
         QTextBlockFormat high;
         high.setLineHeight(50, QTextBlockFormat::MinimumHeight);
-        for (QAction *item : {headingItemWithTitle(u"Long enough for red"_s, false, &menu),
+        for (QAction *item : {headingItemWithTitle(u"Long enough for red"_s, &menu),
                               headingItemWithTitle(u"B"_s, true, &menu),
                               headingItemWithTitle(u"C"_s, high, &menu), spacerItemWithHeight(7, &menu)}) {
             QVERIFY(!item->isEnabled());
@@ -231,7 +231,7 @@ private Q_SLOTS:
     void anOpenMenuIsRebuilt()
     {
         QMenu menu;
-        menu.addAction(headingItemWithTitle(u"H"_s, false, &menu));
+        menu.addAction(headingItemWithTitle(u"H"_s, &menu));
         fill(menu, {u"a"_s, u"b"_s});
         menu.popup({20, 20});
         QVERIFY(QTest::qWaitForWindowExposed(&menu));

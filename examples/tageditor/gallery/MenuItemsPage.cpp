@@ -40,7 +40,7 @@ void addPatterns(QMenu *menu)
 {
     const QVariant digits = QVariant::fromValue(ZEVPatternItem::digits());
     const QVariant word = QVariant::fromValue(ZEVPatternItem::anyWord());
-    menu->addAction(headingItemWithTitle(u"Saved Patterns"_s, false, menu));
+    menu->addAction(headingItemWithTitle(u"Saved Patterns"_s, menu));
     QAction *underPointer = patternItem({u"Track "_s, digits, u" & "_s, word}, menu);
     QAction *disabled = patternItem({word, u", "_s, word}, menu);
     disabled->setEnabled(false);
@@ -51,7 +51,7 @@ void addPatterns(QMenu *menu)
 QMenu *mixedMenu(QWidget *parent)
 {
     QMenu *menu = openMenu(parent);
-    menu->addAction(headingItemWithTitle(u"Artwork & Tags"_s, false, menu));
+    menu->addAction(headingItemWithTitle(u"Artwork & Tags"_s, menu));
     QAction *copy = itemWithTitle(u"Copy & Paste"_s, QKeySequence::Copy, {}, menu);
     copy->setIcon(menu->style()->standardIcon(QStyle::SP_FileIcon));
     QAction *checked = itemWithTitle(u"Checked"_s, menu);
