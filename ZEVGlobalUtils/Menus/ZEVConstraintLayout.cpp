@@ -156,20 +156,25 @@ QLayoutItem *ZEVConstraintLayout::takeAt(int index)
     return item;
 }
 
+QRect ZEVConstraintLayout::frame(const QLayoutItem &item, const QWidget *view, const QRect &rect) const
+{
+    const QSize hint = item.sizeHint(), minimum = item.minimumSize();
+    const auto axis = [&](Qt::Orientation orientation, int length) {
+        return axisBounds(m_constraints, view, parentWidget(), orientation, length);
+    };
+    const Span x = placed(axis(Qt::Horizontal, rect.width()), hint.width(), minimum.width());
+    const Span y = placed(axis(Qt::Vertical, rect.height()), hint.height(), minimum.height());
+    const QRectF fromLeading(rect.x() + x.start, rect.y() + y.start, x.length, y.length);
+    return QStyle::visualRect(parentWidget()->layoutDirection(), rect, fromLeading.toRect());
+}
+
+/// Places the widgets themselves, for a layout item goes by the size policy, which constraints outweigh.
 void ZEVConstraintLayout::setGeometry(const QRect &rect)
 {
     QLayout::setGeometry(rect);
-    const QWidget *container = parentWidget();
     for (const auto &item : m_items) {
-        const QSize hint = item->sizeHint(), minimum = item->minimumSize();
-        const auto span = [&](Qt::Orientation orientation, int length, int hinted, int least) {
-            return placed(axisBounds(m_constraints, item->widget(), container, orientation, length), hinted,
-                          least);
-        };
-        const Span x = span(Qt::Horizontal, rect.width(), hint.width(), minimum.width());
-        const Span y = span(Qt::Vertical, rect.height(), hint.height(), minimum.height());
-        const QRectF fromLeading(rect.x() + x.start, rect.y() + y.start, x.length, y.length);
-        item->setGeometry(QStyle::visualRect(container->layoutDirection(), rect, fromLeading.toRect()));
+        if (QWidget *view = item->widget())
+            view->setGeometry(frame(*item, view, rect));
     }
 }
 

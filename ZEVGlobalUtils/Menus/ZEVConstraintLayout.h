@@ -32,6 +32,7 @@ public:
     QSize minimumSize() const override;
 
 private:
+    QRect frame(const QLayoutItem &item, const QWidget *view, const QRect &rect) const;
     QSize padded(const QLayoutItem &item, QSize size) const;
 
     std::vector<std::unique_ptr<QLayoutItem>> m_items;

@@ -20,9 +20,10 @@ using Constraint = ZEVLayoutConstraint;
 
 namespace {
 
-/// Wants 40 by 20, takes 10 by 5.
+/// Wants 40 by 20, no more, takes 10 by 5.
 class Box : public QWidget {
 public:
+    Box() { setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Maximum); }
     QSize sizeHint() const override { return {40, 20}; }
     QSize minimumSizeHint() const override { return {10, 5}; }
 };
