@@ -3,6 +3,7 @@
 
 #include <tageditor/gallery/GalleryPages.h>
 
+#include <tageditor/gallery/LayoutPage.h>
 #include <tageditor/gallery/MenuItemsPage.h>
 #include <tageditor/gallery/TextTransformsPage.h>
 #include <tageditor/gallery/TokenFieldsPage.h>
@@ -14,6 +15,7 @@ QList<GalleryPage> galleryPages()
     return {
         {u"Token fields"_s, &tokenFieldsPage},
         {u"Menu items"_s, &menuItemsPage},
+        {u"Layout"_s, &layoutPage},
         {u"Text transforms"_s, &textTransformsPage},
     };
 }
