@@ -42,13 +42,15 @@ bool hasOverdrawnTitle(const QMenu &menu)
 /// The part of the menu in which items lie. Where they do not fit, the menu's scrollers cover the outer ones.
 QRect itemArea(const QMenu &menu)
 {
-    const QList<QAction *> items = menu.actions();
+    QRect items;
+    for (QAction *item : menu.actions())
+        items |= menu.actionGeometry(item); // empty where the item is not visible
     const QStyle *style = menu.style();
     const int frame = style->pixelMetric(QStyle::PM_MenuPanelWidth, nullptr, &menu);
     const int scroller = style->pixelMetric(QStyle::PM_MenuScrollerHeight, nullptr, &menu);
     const QRect inside = menu.rect().adjusted(0, frame, 0, -frame);
-    const bool scrollsUp = menu.actionGeometry(items.first()).top() < inside.top();
-    const bool scrollsDown = menu.actionGeometry(items.last()).bottom() > inside.bottom();
+    const bool scrollsUp = items.top() < inside.top();
+    const bool scrollsDown = items.bottom() > inside.bottom();
     return inside.adjusted(0, scrollsUp ? scroller : 0, 0, scrollsDown ? -scroller : 0);
 }
 

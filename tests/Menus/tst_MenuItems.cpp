@@ -133,6 +133,24 @@ private Q_SLOTS:
         }
     }
 
+    void scrollersCoverAttributedTitles()
+    {
+        QMenu menu;
+        menu.setStyleSheet(u"QMenu { menu-scrollable: 1 }"_s);
+        fill(menu, QStringList(200, u"Track"_s));
+        menu.actions().first()->setVisible(false);
+        menu.popup({20, 20});
+        menu.setActiveAction(menu.actions().at(120)); // scrolls to it
+        const QImage plain = picture(menu);
+        for (QAction *item : menu.actions())
+            setAttributedTitle(item, redPill(u"Track"_s));
+        const QImage drawn = picture(menu);
+        const int scroller = menu.style()->pixelMetric(QStyle::PM_MenuScrollerHeight, nullptr, &menu);
+        for (const int y : {0, plain.height() - scroller})
+            QCOMPARE(drawn.copy(0, y, plain.width(), scroller), plain.copy(0, y, plain.width(), scroller));
+        QVERIFY(redArea(drawn).height() > plain.height() / 2);
+    }
+
     void screenReadersHearTheBareText()
     {
         QMenu menu;
