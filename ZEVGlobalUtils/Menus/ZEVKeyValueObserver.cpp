@@ -65,7 +65,7 @@ void ZEVKeyValueObserver::connectKeyPath()
 QVariant ZEVKeyValueObserver::exchangeValue()
 {
     const bool hasGone = isObject(m_value) && !m_valueObject;
-    const QVariant old = hasGone ? QVariant() : m_value;
+    QVariant old = hasGone ? QVariant() : m_value;
     m_value = ZEVKeyValueCoding::valueForKeyPath(m_observedObject, m_keyPath);
     m_valueObject = isObject(m_value) ? m_value.value<QObject *>() : nullptr;
     return old;
