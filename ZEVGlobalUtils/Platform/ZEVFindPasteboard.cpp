@@ -55,7 +55,7 @@ bool ZEVFindPasteboard::setString(const std::optional<QString> &string)
     const qint64 count = qMax(contents().changeCount + 1, QDateTime::currentMSecsSinceEpoch());
     QVariantMap map{{ChangeCountKey, count}};
     if (string)
-        map.insert(StringKey, *string);
+        map.insert(StringKey, string->isNull() ? u""_s : *string); // nil would be no text
     QSaveFile file(m_file);
     if (!file.open(QIODevice::WriteOnly) || !file.setPermissions(QFile::ReadOwner | QFile::WriteOwner))
         return false;
