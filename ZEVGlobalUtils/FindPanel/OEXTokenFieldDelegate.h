@@ -24,6 +24,7 @@ enum class ZEVTokenStyle {
 /// What a key asks a token field to do.
 enum class ZEVTextCommand {
     InsertNewline, // Return, Enter
+    InsertNewlineBackward, // the same with Shift; as InsertNewline where nobody has another use for it
     CancelOperation, // Escape
     MoveDown, // Down arrow
 };

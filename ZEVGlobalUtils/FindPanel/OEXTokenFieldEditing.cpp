@@ -25,7 +25,8 @@ std::optional<ZEVTextCommand> commandOfKey(const QKeyEvent &event)
     switch (event.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        return ZEVTextCommand::InsertNewline;
+        return event.modifiers() & Qt::ShiftModifier ? ZEVTextCommand::InsertNewlineBackward
+                                                     : ZEVTextCommand::InsertNewline;
     case Qt::Key_Escape:
         return ZEVTextCommand::CancelOperation;
     case Qt::Key_Down:
@@ -108,7 +109,9 @@ bool OEXTokenField::moveByWord(QKeyEvent *event)
 
 bool OEXTokenField::doCommand(ZEVTextCommand command)
 {
-    return (m_delegate && m_delegate->doCommandBySelector(this, command)) || performCommand(command);
+    if ((m_delegate && m_delegate->doCommandBySelector(this, command)) || performCommand(command))
+        return true;
+    return command == ZEVTextCommand::InsertNewlineBackward && doCommand(ZEVTextCommand::InsertNewline);
 }
 
 bool OEXTokenField::performCommand(ZEVTextCommand command)

@@ -7,7 +7,6 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderAction.h>
 #include <ZEVGlobalUtils/FindPanel/ZEVTokenField.h>
 #include <ZEVGlobalUtils/Menus/ZEVMenuItem.h>
-#include <ZEVGlobalUtils/Menus/ZEVMenuItemBlockAdditions.h>
 #include <ZEVGlobalUtils/Menus/ZEVMenuItemHeadings.h>
 #include <ZEVGlobalUtils/Platform/ZEVAttributedString.h>
 #include <ZEVGlobalUtils/Platform/ZEVNamedImages.h>
@@ -184,25 +183,22 @@ void ZEVFindPanelQueryParamsController::updateRecentsMenu()
     if (!isSaved && !hasPattern(query()))
         return;
     m_recentsMenu->addSeparator();
-    m_recentsMenu->addAction(ZEVMenuItemBlockAdditions::itemWithTitle(
-        localized(isSaved ? u"Remove From Saved" : u"Save Query"),
-        [this, isSaved](QAction *) {
-            if (isSaved)
-                removeSavedQuery(query());
-            else
-                addSavedQuery(query().copy());
-        },
-        m_recentsMenu));
+    m_recentsMenu->addAction(localized(isSaved ? u"Remove From Saved" : u"Save Query"), this,
+                             [this, isSaved] {
+                                 if (isSaved)
+                                     removeSavedQuery(query());
+                                 else
+                                     addSavedQuery(query().copy());
+                             });
 }
 
 void ZEVFindPanelQueryParamsController::addSavedQueryItem(const ZEVFindPanelQuery &query)
 {
-    QAction *item = ZEVMenuItemBlockAdditions::itemWithTitle(
-        {}, [this, query](QAction *) { performSearchForQuery(query); }, m_recentsMenu);
+    QAction *item =
+        m_recentsMenu->addAction(QString(), this, [this, query] { performSearchForQuery(query); });
     ZEVMenuItem::setAttributedTitle(item, query.attributedTitle());
     ZEVMenuItem::setIndentationLevel(item, 1);
     ZEVMenuItem::setState(item, query == this->query() ? ZEVMenuItem::On : ZEVMenuItem::Off);
-    m_recentsMenu->addAction(item);
 }
 
 void ZEVFindPanelQueryParamsController::popupFindMenu()

@@ -210,6 +210,9 @@ void ZEVTextFinderUserInterfaceVC::performSearchForQuery(const ZEVFindPanelQuery
 /// An expression that is none is told beneath the field: an alert at every key press would be in the way.
 void ZEVTextFinderUserInterfaceVC::performSearch()
 {
+    // Who observes the field may hear of a key press before the query does.
+    if (m_findTokenField)
+        setSearchPattern(m_findTokenField->objectValue());
     // Kept: with a scope, the copy is not equal to the query, unless the host's scopes copy as themselves.
     m_lastQuery = m_query.copy();
     QString error;

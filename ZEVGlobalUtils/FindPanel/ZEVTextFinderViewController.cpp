@@ -7,7 +7,6 @@
 #include <ZEVGlobalUtils/FindPanel/ZEVTextFinderBorderlessPopUpButton.h>
 #include <ZEVGlobalUtils/FindPanel/ZEVTokenField.h>
 #include <ZEVGlobalUtils/Menus/ZEVMenuItem.h>
-#include <ZEVGlobalUtils/Menus/ZEVMenuItemBlockAdditions.h>
 #include <ZEVGlobalUtils/Platform/ZEVNamedImages.h>
 #include <ZEVGlobalUtils/Transforms/ZEVGlobalHelper.h>
 
@@ -90,10 +89,10 @@ void ZEVTextFinderViewController::setUpModes()
     const std::pair<QString, qint64> modes[] = {{localized(u"Find"), ShowFindInterface},
                                                 {localized(u"Find & Replace"), ShowReplaceInterface}};
     for (const auto &[title, tag] : modes) {
-        QAction *item = ZEVMenuItemBlockAdditions::itemWithTitle(
-            title, [this](QAction *chosen) { chooseMode(chosen); }, menu);
+        QAction *item = menu->addAction(QString());
+        ZEVMenuItem::setTitle(item, title);
         ZEVMenuItem::setTag(item, tag);
-        menu->addAction(item);
+        connect(item, &QAction::triggered, this, [this, item] { chooseMode(item); });
     }
     menu->addSeparator();
     menu->addAction(localized(u"Wrap Around"), this, &ZEVTextFinderViewController::toggleWrapAround);
@@ -169,8 +168,6 @@ void ZEVTextFinderViewController::updateInterfaceModeSelectorState()
 /// Choosing to find only, while there is a replace row, asks for hiding that row.
 void ZEVTextFinderViewController::chooseMode(const QAction *item)
 {
-    if (!item)
-        return;
     const qint64 tag = ZEVMenuItem::tag(item);
     const bool hides = tag == ShowFindInterface && m_showReplace && view()->window()->isVisible();
     performAction(hides ? qint64(HideReplaceInterface) : tag);
@@ -182,16 +179,12 @@ void ZEVTextFinderViewController::updateFindMenu()
     QMenu *menu = findTokenField()->dropDownMenu();
     findTokenField()->menuNeedsUpdate(menu);
     menu->addSeparator();
-    QAction *item = ZEVMenuItemBlockAdditions::itemWithTitle(
-        localized(u"Case Sensitive"),
-        [this](QAction *) {
-            setCaseInsensitiveSearch(!query().caseInsensitiveSearch());
-            performSearch();
-        },
-        menu);
+    QAction *item = menu->addAction(localized(u"Case Sensitive"), this, [this] {
+        setCaseInsensitiveSearch(!query().caseInsensitiveSearch());
+        performSearch();
+    });
     item->setCheckable(true);
     item->setChecked(!query().caseInsensitiveSearch());
-    menu->addAction(item);
 }
 
 void ZEVTextFinderViewController::popupFindMenu()

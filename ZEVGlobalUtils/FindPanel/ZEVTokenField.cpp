@@ -191,6 +191,7 @@ bool ZEVTokenField::performCommand(ZEVTextCommand command)
     case ZEVTextCommand::MoveDown:
         moveDown();
         return true;
+    case ZEVTextCommand::InsertNewlineBackward:
     case ZEVTextCommand::CancelOperation:
         return false;
     }

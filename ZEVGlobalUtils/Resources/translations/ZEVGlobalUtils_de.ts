@@ -227,5 +227,133 @@
         <source>No Results</source>
         <translation>Keine Ergebnisse</translation>
     </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Suchen:</translation>
+    </message>
+    <message>
+        <source>Find Menu</source>
+        <translation>Menü für Suchmuster</translation>
+    </message>
+    <message>
+        <source>Saved queries</source>
+        <translation>Gesicherte Suchen</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Replace &amp;with:</source>
+        <translation>Ersetzen &amp;durch:</translation>
+    </message>
+    <message>
+        <source>Replace Menu</source>
+        <translation>Menü für Ersatzmuster</translation>
+    </message>
+    <message>
+        <source>Saved patterns</source>
+        <translation>Gesicherte Muster</translation>
+    </message>
+    <message>
+        <source>Replace With</source>
+        <translation>Ersetzen durch</translation>
+    </message>
+    <message>
+        <source>Matching Type</source>
+        <translation>Art der Übereinstimmung</translation>
+    </message>
+    <message>
+        <source>&amp;Case Sensitive</source>
+        <translation>&amp;Groß-/Kleinschreibung beachten</translation>
+    </message>
+    <message>
+        <source>Replace A&amp;ll</source>
+        <translation>&amp;Alle ersetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Previous</source>
+        <translation>&amp;Vorheriger</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Nächster</translation>
+    </message>
+    <message>
+        <source>F&amp;ind</source>
+        <translation>S&amp;uchen</translation>
+    </message>
+    <message>
+        <source>Saved patterns and options</source>
+        <translation>Gesicherte Muster und Optionen</translation>
+    </message>
+    <message>
+        <source>Previous Match</source>
+        <translation>Vorheriger Treffer</translation>
+    </message>
+    <message>
+        <source>Next Match</source>
+        <translation>Nächster Treffer</translation>
+    </message>
+    <message>
+        <source>&amp;Done</source>
+        <translation>&amp;Fertig</translation>
+    </message>
+    <message>
+        <source>Replace and Fi&amp;nd</source>
+        <translation>Ersetzen und weiter&amp;suchen</translation>
+    </message>
+    <message>
+        <source>Find &amp; Replace</source>
+        <translation>Suchen &amp; ersetzen</translation>
+    </message>
+    <message>
+        <source>Wrap Around</source>
+        <translation>Am Ende von vorn beginnen</translation>
+    </message>
+    <message>
+        <source>Saved Queries</source>
+        <translation>Gesicherte Suchen</translation>
+    </message>
+    <message>
+        <source>Save Query</source>
+        <translation>Suche sichern</translation>
+    </message>
+    <message>
+        <source>The search was too complex: matches are missing.</source>
+        <translation>Die Suche war zu aufwendig: Es fehlen Treffer.</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Replace All</source>
+        <translation>Alle ersetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Find…</source>
+        <translation>&amp;Suchen …</translation>
+    </message>
+    <message>
+        <source>Find and &amp;Replace…</source>
+        <translation>Suchen und &amp;ersetzen …</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>&amp;Weitersuchen</translation>
+    </message>
+    <message>
+        <source>Find &amp;Previous</source>
+        <translation>&amp;Rückwärts suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Use Selection for Find</source>
+        <translation>&amp;Auswahl zum Suchen verwenden</translation>
+    </message>
 </context>
 </TS>

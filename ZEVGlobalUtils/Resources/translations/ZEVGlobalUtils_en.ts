@@ -227,5 +227,133 @@
         <source>No Results</source>
         <translation>No Results</translation>
     </message>
+    <message>
+        <source>&amp;Find:</source>
+        <translation>&amp;Find:</translation>
+    </message>
+    <message>
+        <source>Find Menu</source>
+        <translation>Find Menu</translation>
+    </message>
+    <message>
+        <source>Saved queries</source>
+        <translation>Saved queries</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Find</translation>
+    </message>
+    <message>
+        <source>Replace &amp;with:</source>
+        <translation>Replace &amp;with:</translation>
+    </message>
+    <message>
+        <source>Replace Menu</source>
+        <translation>Replace Menu</translation>
+    </message>
+    <message>
+        <source>Saved patterns</source>
+        <translation>Saved patterns</translation>
+    </message>
+    <message>
+        <source>Replace With</source>
+        <translation>Replace With</translation>
+    </message>
+    <message>
+        <source>Matching Type</source>
+        <translation>Matching Type</translation>
+    </message>
+    <message>
+        <source>&amp;Case Sensitive</source>
+        <translation>&amp;Case Sensitive</translation>
+    </message>
+    <message>
+        <source>Replace A&amp;ll</source>
+        <translation>Replace A&amp;ll</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Replace</translation>
+    </message>
+    <message>
+        <source>&amp;Previous</source>
+        <translation>&amp;Previous</translation>
+    </message>
+    <message>
+        <source>&amp;Next</source>
+        <translation>&amp;Next</translation>
+    </message>
+    <message>
+        <source>F&amp;ind</source>
+        <translation>F&amp;ind</translation>
+    </message>
+    <message>
+        <source>Saved patterns and options</source>
+        <translation>Saved patterns and options</translation>
+    </message>
+    <message>
+        <source>Previous Match</source>
+        <translation>Previous Match</translation>
+    </message>
+    <message>
+        <source>Next Match</source>
+        <translation>Next Match</translation>
+    </message>
+    <message>
+        <source>&amp;Done</source>
+        <translation>&amp;Done</translation>
+    </message>
+    <message>
+        <source>Replace and Fi&amp;nd</source>
+        <translation>Replace and Fi&amp;nd</translation>
+    </message>
+    <message>
+        <source>Find &amp; Replace</source>
+        <translation>Find &amp; Replace</translation>
+    </message>
+    <message>
+        <source>Wrap Around</source>
+        <translation>Wrap Around</translation>
+    </message>
+    <message>
+        <source>Saved Queries</source>
+        <translation>Saved Queries</translation>
+    </message>
+    <message>
+        <source>Save Query</source>
+        <translation>Save Query</translation>
+    </message>
+    <message>
+        <source>The search was too complex: matches are missing.</source>
+        <translation>The search was too complex: matches are missing.</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Replace</translation>
+    </message>
+    <message>
+        <source>Replace All</source>
+        <translation>Replace All</translation>
+    </message>
+    <message>
+        <source>&amp;Find…</source>
+        <translation>&amp;Find…</translation>
+    </message>
+    <message>
+        <source>Find and &amp;Replace…</source>
+        <translation>Find and &amp;Replace…</translation>
+    </message>
+    <message>
+        <source>Find &amp;Next</source>
+        <translation>Find &amp;Next</translation>
+    </message>
+    <message>
+        <source>Find &amp;Previous</source>
+        <translation>Find &amp;Previous</translation>
+    </message>
+    <message>
+        <source>&amp;Use Selection for Find</source>
+        <translation>&amp;Use Selection for Find</translation>
+    </message>
 </context>
 </TS>

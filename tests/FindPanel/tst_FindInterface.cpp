@@ -1,0 +1,528 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include "../Rows.h"
+#include "Fields.h"
+
+#include <ZEVGlobalUtils/FindEngine/ZEVFindPanelScope.h>
+#include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
+#include <ZEVGlobalUtils/FindEngine/ZEVTextFinderClient.h>
+#include <ZEVGlobalUtils/FindPanel/ZEVFindBarContainerView.h>
+#include <ZEVGlobalUtils/FindPanel/ZEVFindPanelQueryParamsController.h>
+#include <ZEVGlobalUtils/FindPanel/ZEVFocusTokenFieldCell.h>
+#include <ZEVGlobalUtils/FindPanel/ZEVTextFinderBorderlessPopUpButton.h>
+#include <ZEVGlobalUtils/FindPanel/ZEVTextFinderMenu.h>
+#include <ZEVGlobalUtils/FindPanel/ZEVTextFinderViewController.h>
+#include <ZEVGlobalUtils/Menus/ZEVMenuItem.h>
+#include <ZEVGlobalUtils/Platform/ZEVApplicationActivity.h>
+#include <ZEVGlobalUtils/Platform/ZEVFindPasteboard.h>
+#include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
+#include <ZEVGlobalUtils/Platform/ZEVUserDefaults.h>
+
+namespace {
+
+/// Notes what an interface asks for.
+struct Listener : QObject, ZEVTextFinderUserInterfaceDelegate {
+    void performAction(qint64 action) override { actions << action; }
+    void performSearchAgainstExpression(const std::optional<ZEVRegularExpression> &expression) override
+    {
+        searches << (expression ? expression->pattern() : u"nil"_s);
+    }
+    void customizeFindMenuBeforeDisplay(ZEVTextFinderUserInterface *, QMenu *menu) override
+    {
+        menu->addAction(u"Custom"_s);
+    }
+
+    QList<qint64> actions;
+    QStringList searches;
+};
+
+/// A text in pieces, a piece a line.
+struct Lines : ZEVTextFinderClient {
+    qsizetype stringLength() const override { return lines.join(u'\n').size(); }
+    QString stringAtIndex(qsizetype index, ZEVRange &effectiveRange) const override
+    {
+        const QString rest = lines.join(u'\n').mid(index);
+        const QString line = rest.section(u'\n', 0, 0);
+        effectiveRange = {index, qMin(line.size() + 1, rest.size())};
+        return line;
+    }
+
+    QStringList lines;
+};
+
+/// A controller's view in an active window.
+template <typename Controller>
+struct Shown {
+    Shown()
+    {
+        controller.setDelegate(&listener);
+        auto *layout = new QVBoxLayout(&window);
+        layout->addWidget(controller.view());
+        window.show();
+        window.activateWindow();
+        field().setFocus();
+        if (!QTest::qWaitForWindowActive(&window))
+            qFatal("No active window");
+    }
+
+    ZEVTokenField &field() { return *controller.findTokenField(); }
+    template <typename Widget = QAbstractButton>
+    Widget *child(const QString &name)
+    {
+        return controller.view()->template findChild<Widget *>(name);
+    }
+
+    Listener listener;
+    QWidget window;
+    Controller controller;
+};
+
+/// A finder over lines, its bar above an editor of several lines and one of one line.
+struct Window {
+    explicit Window(const QStringList &lines = {})
+    {
+        client.lines = lines;
+        auto *layout = new QVBoxLayout(content);
+        layout->addWidget(&editor);
+        layout->addWidget(&line);
+        finder.setClient(&client);
+        finder.setFindBarContainer(&container);
+        container.resize(900, 300);
+        container.show();
+        container.activateWindow();
+        editor.setFocus();
+        if (!QTest::qWaitForWindowActive(&container))
+            qFatal("No active window");
+    }
+
+    ZEVTextFinderViewController &bar()
+    {
+        return *static_cast<ZEVTextFinderViewController *>(finder.textFinderViewController());
+    }
+    bool takes(qint64 action) { return finder.canTakeTextFinderActionOwnerShip(action); }
+
+    Lines client;
+    QWidget *content = new QWidget;
+    QPlainTextEdit &editor = *new QPlainTextEdit;
+    QLineEdit &line = *new QLineEdit;
+    ZEVFindBarContainerView container{content};
+    ZEVTextFinder finder;
+};
+
+QList<qint64> enabledActions(ZEVTextFinder &finder)
+{
+    QList<qint64> enabled;
+    for (qint64 action = -1; action <= 70; ++action) {
+        if (finder.validateAction(action))
+            enabled << action;
+    }
+    return enabled;
+}
+
+QStringList titles(const QMenu *menu)
+{
+    QStringList titles;
+    for (const QAction *item : menu->actions())
+        titles << (item->isSeparator() ? u"-"_s : item->text().trimmed())
+                + (item->isChecked() ? u"*"_s : u""_s);
+    return titles;
+}
+
+} // namespace
+
+/// A host's own interface, which brings a file of its name, and one that does not.
+class HostInterface : public ZEVTextFinderUserInterfaceVC {
+    Q_OBJECT
+};
+class HostBar : public ZEVTextFinderViewController {
+    Q_OBJECT
+};
+
+class tst_FindInterface : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        QFile::setPermissions(m_folder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_folder->path()));
+        ZEVUserDefaults::setStandardStore(
+            std::make_unique<QSettings>(m_folder->filePath(u"defaults.ini"_s), QSettings::IniFormat));
+    }
+
+    void theBarSearchesAsOneTypes()
+    {
+        Shown<ZEVTextFinderViewController> shown;
+        QTest::keyClicks(&shown.field(), u"a."_s);
+        QCOMPARE(shown.listener.searches, QStringList({u"a"_s, u"a\\."_s}));
+        QVERIFY(shown.controller.searchTermUnchanged());
+        QTest::keyClick(&shown.field(), Qt::Key_Return); // found already: moves on
+        QTest::keyClick(&shown.field(), Qt::Key_Return, Qt::ShiftModifier);
+        QTest::keyClick(&shown.field(), Qt::Key_Escape);
+        QTest::keyClick(shown.child<QComboBox>(u"matchingTypeSelector"_s), Qt::Key_Escape);
+        shown.child(u"doneButton"_s)->click();
+        QCOMPARE(shown.listener.actions, QList<qint64>({2, 3, 11, 11, 11}));
+        shown.listener.actions.clear();
+        shown.controller.setShowReplace(true);
+        for (const auto &name : {u"nextButton"_s, u"previousButton"_s, u"replaceButton"_s,
+                                 u"replaceAndFindButton"_s, u"replaceAllButton"_s})
+            shown.child(name)->click();
+        QCOMPARE(shown.listener.actions, QList<qint64>({2, 3, 5, 6, 4}));
+
+        auto *types = shown.child<QComboBox>(u"matchingTypeSelector"_s);
+        QCOMPARE(types->count(), 6);
+        QTest::keyClick(types, Qt::Key_Down);
+        QCOMPARE(shown.controller.query().matchingType(), 1);
+        QCOMPARE(shown.listener.searches.last(), u"^a\\."_s);
+    }
+
+    void theBarTellsOfErrorsAndCounts()
+    {
+        Shown<ZEVTextFinderViewController> shown;
+        shown.controller.setMatchingType(ZEVFindPanelQuery::RegularExpression);
+        QTest::keyClicks(&shown.field(), u"(a"_s);
+        QCOMPARE(shown.listener.searches.last(), u"nil"_s);
+        auto *message = shown.child<QLabel>(u"messageLabel"_s);
+        QVERIFY(message->isVisible() && message->text().contains(u"parenthesis"));
+        QTest::keyClicks(&shown.field(), u")"_s);
+        QVERIFY(!message->isVisible());
+        shown.controller.setNumberOfMatches(12);
+        QTRY_COMPARE(shown.child<QLabel>(u"numberOfMatchesLabel"_s)->text(), u"12 matches"_s);
+        shown.controller.setSearchLimitReached(true);
+        QVERIFY(message->isVisible());
+        shown.controller.setNumberOfMatches(std::nullopt);
+        QCOMPARE(shown.child<QLabel>(u"numberOfMatchesLabel"_s)->text(), QString());
+    }
+
+    void theBarHasModes()
+    {
+        Shown<ZEVTextFinderViewController> shown;
+        auto *modes = shown.child<ZEVTextFinderBorderlessPopUpButton>(u"interfaceModePopupButton"_s);
+        const auto choose = [&](int row) {
+            modes->menu()->actions().at(row)->trigger();
+            QCoreApplication::processEvents();
+        };
+        const auto shownModes = [&] {
+            Q_EMIT modes->menu()->aboutToShow();
+            return titles(modes->menu()).join(u' ') + u" ["_s + modes->text().remove(u'&') + u"]"_s;
+        };
+        auto *row = shown.child<QWidget>(u"replaceContainerView"_s);
+        QVERIFY(!row->isVisible());
+        QCOMPARE(shownModes(), u"Find* Find && Replace - Wrap Around* [Find]"_s);
+        choose(0);
+        choose(1);
+        QCOMPARE(shown.listener.actions, QList<qint64>({1, 12}));
+        shown.controller.setShowReplace(true);
+        QVERIFY(row->isVisible());
+        choose(0);
+        QCOMPARE(shown.listener.actions.last(), 13);
+        choose(3);
+        QVERIFY(!shown.controller.wrapAround());
+        QCOMPARE(shownModes(), u"Find Find && Replace* - Wrap Around [Find  Replace]"_s);
+        const QFontMetricsF metrics(modes->font());
+        QCOMPARE(modes->maxWidth(), std::floor(metrics.horizontalAdvance(u"Find  Replace"_s) + 15));
+        QCOMPARE(ZEVTextFinderBorderlessPopUpButton().maxWidth(), 0.0);
+    }
+
+    void theBarsMenuHasTheCaseOption()
+    {
+        Shown<ZEVTextFinderViewController> shown;
+        QTest::keyClicks(&shown.field(), u"a"_s);
+        QTest::mousePress(shown.child(u"findMenuButton"_s), Qt::LeftButton);
+        QMenu *menu = shown.field().dropDownMenu();
+        QTRY_VERIFY(menu->isVisible());
+        QCOMPARE(titles(menu),
+                 QStringList({u"Insert Pattern"_s, u"-"_s, u"Save Current"_s, u"-"_s, u"Case Sensitive*"_s}));
+        menu->actions().last()->trigger();
+        menu->close();
+        QTRY_COMPARE(shown.listener.searches.size(), 2); // with the new option
+        QVERIFY(shown.controller.query().caseInsensitiveSearch());
+        QVERIFY(shown.controller.searchTermUnchanged());
+    }
+
+    void fieldsOfferTheirTokens()
+    {
+        Shown<ZEVTextFinderViewController> shown;
+        shown.controller.setShowReplace(true);
+        ZEVTokenField *replace = shown.controller.replaceTokenField();
+        Q_EMIT shown.field().menu()->aboutToShow();
+        Q_EMIT replace->menu()->aboutToShow();
+        QCOMPARE(titles(shown.field().menu()).join(u' '),
+                 u"Tab - Wildcard Any Characters Any Word Any Character White Space Digits - Email Address "
+                 u"Web Address"_s);
+        QCOMPARE(titles(replace->menu()), QStringList({u"Tab"_s, u"Line Break"_s}));
+        replace->menu()->actions().last()->trigger();
+        QTRY_COMPARE(replace->patternStringValue(), u"%(\\n)%"_s);
+        // Kept: only the find field's tokens are known by their texts.
+        QCOMPARE(replace->conversionPatternForPatternString(u"%(\\n)%"_s), QVariantList());
+        QCOMPARE(shown.controller.replacePattern().size(), 1);
+    }
+
+    void queriesAreCompared()
+    {
+        Shown<ZEVTextFinderViewController> shown;
+        QVERIFY(!shown.controller.searchTermUnchanged());
+        ZEVFindPanelQuery query;
+        query.setSearchPattern(QVariantList{u"x"_s});
+        query.setMatchingType(ZEVFindPanelQuery::EndsWith);
+        shown.window.setFocus();
+        shown.controller.performSearchForQuery(query);
+        QCOMPARE(shown.field().stringValue(), u"x"_s);
+        QCOMPARE(shown.child<QComboBox>(u"matchingTypeSelector"_s)->currentData(), QVariant(3));
+        QTRY_COMPARE(shown.listener.searches.last(), u"x$"_s);
+        QTRY_VERIFY(shown.controller.hasFocus());
+        QVERIFY(shown.controller.searchTermUnchanged());
+        shown.controller.setCaseInsensitiveSearch(true);
+        QVERIFY(!shown.controller.searchTermUnchanged());
+    }
+
+    void followsTheFindPasteboard()
+    {
+        Shown<ZEVTextFinderViewController> shown;
+        auto pasteboard = ZEVFindPasteboard::findPasteboard().value();
+        ZEVApplicationActivity *activity = ZEVApplicationActivity::shared();
+        const auto *cell = dynamic_cast<ZEVFocusTokenFieldCell *>(shown.field().cell());
+        QVERIFY(cell->fakeCellView());
+        QTest::keyClicks(&shown.field(), u"100 %(\\d+)%"_s);
+        Q_EMIT activity->willResignActive();
+        QCOMPARE(pasteboard.string(), u"100 %(\\d+)%"_s);
+        pasteboard.setString(u"other"_s);
+        Q_EMIT activity->didBecomeActive();
+        QCOMPARE(shown.field().stringValue(), u"other"_s);
+        QTest::keyClicks(&shown.field(), u"s"_s);
+        Q_EMIT activity->didBecomeActive(); // nothing new there
+        QCOMPARE(shown.field().stringValue(), u"others"_s);
+        pasteboard.setString(std::nullopt);
+        Q_EMIT activity->didBecomeActive();
+        QCOMPARE(shown.field().stringValue(), QString());
+        QVERIFY(!cell->fakeCellView()->focused());
+    }
+
+    void sharesTheFindPasteboardWithOthers()
+    {
+        QProcess other;
+        other.start(QCoreApplication::applicationFilePath(), {u"--write"_s, u"Übung"_s});
+        QVERIFY(other.waitForFinished() && other.exitCode() == 0);
+        auto pasteboard = ZEVFindPasteboard::findPasteboard().value();
+        QCOMPARE(pasteboard.string(), u"Übung"_s);
+        const qint64 count = pasteboard.changeCount();
+        QFile file(m_folder->filePath(u"zevglobalutils/find-pasteboard"_s));
+        QVERIFY(file.open(QFile::WriteOnly));
+        file.write("\x9f\xff damaged");
+        file.close();
+        QCOMPARE(pasteboard.string(), std::nullopt);
+        QCOMPARE(pasteboard.changeCount(), 0);
+        QVERIFY(pasteboard.setString(u"new"_s));
+        QVERIFY(pasteboard.changeCount() > count);
+    }
+
+    void thePanelRemembersQueries()
+    {
+        ZEVFindPanelQuery saved;
+        {
+            Shown<ZEVFindPanelQueryParamsController> shown;
+            const auto items = [&] {
+                Q_EMIT shown.field().patternsMenu()->aboutToShow();
+                return titles(shown.field().patternsMenu());
+            };
+            QCOMPARE(items(), QStringList()); // no pattern, nothing to save
+            shown.controller.addSavedQuery(shown.controller.query());
+            QTest::keyClicks(&shown.field(), u"a"_s);
+            QCOMPARE(items(), QStringList({u"-"_s, u"Save Query"_s}));
+            shown.controller.addSavedQuery(shown.controller.query());
+            saved = shown.controller.query();
+            QTest::keyClicks(&shown.field(), u"b"_s);
+            shown.controller.addSavedQuery(shown.controller.query());
+            QCOMPARE(items().size(), 5);
+            QCOMPARE(shown.controller.savedQueries().last(), saved);
+            shown.controller.addSavedQuery(saved);
+            shown.window.hide();
+        }
+        Shown<ZEVFindPanelQueryParamsController> shown;
+        QCOMPARE(shown.field().stringValue(), u"ab"_s);
+        QCOMPARE(shown.controller.savedQueries().size(), 2);
+        QCOMPARE(shown.controller.savedQueries().first(), saved);
+        QTest::keyClick(&shown.field(), Qt::Key_Down);
+        QMenu *menu = shown.field().dropDownMenu();
+        QVERIFY(menu->isVisible());
+        QCOMPARE(titles(menu).last(), u"Remove From Saved"_s);
+        menu->actions().at(3)->trigger(); // below the heading
+        menu->close();
+        QTRY_COMPARE(shown.listener.searches, QStringList(u"a"_s));
+    }
+
+    void thePanelSurvivesForeignDefaults()
+    {
+        ZEVUserDefaults *defaults = ZEVUserDefaults::standardUserDefaults();
+        defaults->setObject(u"text"_s, kZEVFindPanelLastQueryAutosaveName.toString());
+        defaults->setObject(QVariantList{1, u"x"_s}, kZEVFindPanelSavedQueriesAutosaveName.toString());
+        Shown<ZEVFindPanelQueryParamsController> shown;
+        QVERIFY(shown.field().objectValue().isEmpty());
+        QVERIFY(shown.controller.savedQueries().isEmpty());
+    }
+
+    void thePanelEnablesItsButtons()
+    {
+        Shown<ZEVFindPanelQueryParamsController> shown;
+        const auto enabled = [&] {
+            return std::pair(shown.child(u"findButton"_s)->isEnabled(),
+                             shown.child(u"replaceAllButton"_s)->isEnabled());
+        };
+        QCOMPARE(enabled(), std::pair(false, false));
+        QTest::keyClicks(&shown.field(), u"a"_s);
+        QVERIFY(shown.listener.searches.isEmpty()); // not as one types
+        QCOMPARE(enabled(), std::pair(true, false));
+        QTest::keyClick(&shown.field(), Qt::Key_Return);
+        QCOMPARE(enabled(), std::pair(true, false));
+        shown.controller.setNumberOfMatches(2);
+        QCOMPARE(enabled(), std::pair(false, true));
+        shown.child(u"replaceAllButton"_s)->click();
+        QCOMPARE(shown.listener.actions, QList<qint64>({4}));
+        QTest::keyClicks(&shown.field(), u"b"_s);
+        QCOMPARE(enabled(), std::pair(true, false));
+        QTest::keyClick(&shown.field(), Qt::Key_Escape);
+        QCOMPARE(shown.field().stringValue(), QString());
+        QCOMPARE(shown.listener.searches.size(), 2);
+        auto *scope = shown.child(u"scopeButton"_s);
+        QVERIFY(!scope->isVisible());
+        shown.controller.setScope(std::make_shared<ZEVFindPanelScope>(u"Library"_s));
+        QVERIFY(scope->isVisible() && scope->text() == u"Library");
+        shown.child(u"findMenuButton"_s)->pressed();
+        QVERIFY(titles(shown.field().dropDownMenu()).contains(u"Custom"_s));
+        shown.field().dropDownMenu()->close();
+    }
+
+    void theFinderEnablesActions()
+    {
+        Window window({u"ab a"_s});
+        QCOMPARE(enabledActions(window.finder), QList<qint64>({1, 7, 9, 10, 11, 12, 13}));
+        window.finder.performSearchAgainstExpression(ZEVRegularExpression::compile(u"a"_s));
+        QCOMPARE(enabledActions(window.finder), QList<qint64>({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13}));
+        window.finder.performAction(1);
+        QVERIFY(!window.finder.validateAction(7)); // the bar itself has the focus
+        QCOMPARE(ZEVTextFinder::localizedNameForAction(4), u"Replace All"_s);
+        QVERIFY_EXCEPTION_THROWN(ZEVTextFinder::localizedNameForAction(2), std::logic_error);
+    }
+
+    void theFinderTakesActionsOrLeavesThem()
+    {
+        Window window;
+        COMPARE_ROW("editor has the focus", window.takes(2), false);
+        COMPARE_ROW("editor, use selection", window.takes(7), true);
+        window.line.setFocus();
+        COMPARE_ROW("a line edit", window.takes(2), true);
+        window.finder.performAction(1);
+        COMPARE_ROW("the bar", window.takes(2), true);
+        window.editor.setFocus();
+        window.editor.setPlainText(u"one two one"_s);
+        window.editor.moveCursor(QTextCursor::End);
+        QObject sender;
+        const auto send = [&](int action) {
+            sender.setProperty("tag", action);
+            window.finder.tryToPerformTextFinderAction(&sender);
+        };
+        auto pasteboard = ZEVFindPasteboard::findPasteboard().value();
+        window.editor.find(u"one"_s, QTextDocument::FindBackward);
+        send(7);
+        QCOMPARE(pasteboard.string(), u"one"_s);
+        QCOMPARE(window.bar().findTokenField()->stringValue(), u"one"_s); // read again at once
+        window.editor.moveCursor(QTextCursor::Start);
+        send(3); // around the beginning, by the editor itself
+        QCOMPARE(window.editor.textCursor().selectionStart(), 8);
+        send(2);
+        QCOMPARE(window.editor.textCursor().selectionStart(), 0);
+        const QSignalSpy left(&window.finder, &ZEVTextFinder::actionLeftToHost);
+        window.line.setFocus();
+        send(2);
+        send(99);
+        QCOMPARE(left.size(), 2);
+    }
+
+    void theFinderShowsItsBar()
+    {
+        Window window({u"ab"_s, u"ba"_s});
+        window.container.setFocus();
+        window.finder.performAction(12);
+        QVERIFY(window.container.isFindBarVisible() && window.bar().showReplace());
+        QVERIFY(window.bar().findTokenField()->hasFocus()); // it begins with what to find
+        window.finder.performAction(12);
+        QVERIFY(window.bar().replaceTokenField()->hasFocus());
+        window.finder.performAction(1);
+        QVERIFY(window.bar().showReplace() && window.bar().findTokenField()->hasFocus());
+        const int tall = window.bar().view()->sizeHint().height();
+        QTRY_COMPARE(window.editor.mapTo(&window.container, QPoint()).y() > tall, true);
+        QCOMPARE(window.bar().view()->height(), tall);
+        window.finder.performAction(13);
+        QVERIFY(!window.bar().showReplace());
+        QTRY_VERIFY(window.bar().view()->height() < tall);
+        QTest::keyClicks(window.bar().findTokenField(), u"b"_s);
+        QCOMPARE(window.finder.foundMatches(), QList<ZEVRange>({{1, 1}, {3, 1}}));
+        QTRY_COMPARE(window.bar().view()->findChild<QLabel *>(u"numberOfMatchesLabel"_s)->text(),
+                     u"2 matches"_s);
+        QTest::keyClick(window.bar().findTokenField(), Qt::Key_Escape);
+        QVERIFY(!window.container.isFindBarVisible());
+        QVERIFY(window.editor.hasFocus() || window.content->hasFocus() || window.container.hasFocus());
+        QTRY_VERIFY(!window.bar().view()->isVisible());
+    }
+
+    void menusSendTheActions()
+    {
+        Window window({u"a"_s});
+        QMenu menu;
+        ZEVTextFinderMenu::addItems(&menu, &window.finder);
+        const auto item = [&](qint64 tag) {
+            const QList<QAction *> items = menu.actions();
+            return *std::ranges::find(items, tag, [](const QAction *a) { return ZEVMenuItem::tag(a); });
+        };
+        QVERIFY(!item(2)->isEnabled());
+        window.line.setFocus();
+        item(1)->trigger();
+        QTest::keyClicks(window.bar().findTokenField(), u"a"_s);
+        QVERIFY(item(2)->isEnabled());
+        const QSignalSpy left(&window.finder, &ZEVTextFinder::actionLeftToHost);
+        item(2)->trigger();
+        QCOMPARE(left.size(), 1);
+    }
+
+    void hostsBringTheirOwnFile()
+    {
+        HostInterface host;
+        QVERIFY(!host.findTokenField()); // nothing yet
+        QVERIFY(host.view()->children().isEmpty()); // its class has no file
+        HostBar bar;
+        QVERIFY(bar.view()->findChild<QWidget *>(u"replaceContainerView"_s)); // that of its base
+        QVERIFY(bar.findTokenField());
+    }
+
+    void survivesThatPartsGo()
+    {
+        auto window = std::make_unique<Window>(QStringList{u"a"_s});
+        auto listener = std::make_unique<Listener>();
+        window->finder.performAction(12);
+        window->bar().setDelegate(listener.get());
+        listener.reset();
+        QTest::keyClicks(window->bar().findTokenField(), u"a"_s);
+        delete window->bar().view();
+        window->bar().focusFieldForAction(1);
+        window->bar().performSearch();
+        QVERIFY(!window->bar().hasFocus());
+    }
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    if (const QStringList arguments = application.arguments(); arguments.value(1) == u"--write") {
+        auto pasteboard = ZEVFindPasteboard::findPasteboard();
+        return pasteboard && pasteboard->setString(arguments.value(2)) ? 0 : 1;
+    }
+    tst_FindInterface test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_FindInterface.moc"
