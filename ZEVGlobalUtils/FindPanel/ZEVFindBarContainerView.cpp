@@ -20,6 +20,7 @@ ZEVFindBarContainerView::ZEVFindBarContainerView(QWidget *content, QWidget *pare
     connect(&m_animation, &QVariantAnimation::finished, this, [this] {
         if (!m_findBarVisible && m_findBarView)
             m_findBarView->hide();
+        findBarViewDidChangeHeight();
     });
 }
 
@@ -54,10 +55,13 @@ void ZEVFindBarContainerView::setFindBarVisible(bool visible)
     Q_EMIT findBarVisibleChanged(visible);
 }
 
+/// What comes and goes inside the bar does so at once: only the bar as a whole slides.
 void ZEVFindBarContainerView::findBarViewDidChangeHeight()
 {
-    if (m_findBarVisible)
-        moveTo(fittingHeight());
+    if (!m_findBarVisible || m_animation.state() == QVariantAnimation::Running)
+        return;
+    m_shownHeight = fittingHeight();
+    layOut();
 }
 
 int ZEVFindBarContainerView::fittingHeight() const

@@ -12,6 +12,7 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QGridLayout>
 #include <QKeyEvent>
 #include <QMenu>
 
@@ -99,6 +100,19 @@ void ZEVTextFinderViewController::setUpModes()
     connect(menu, &QMenu::aboutToShow, this, &ZEVTextFinderViewController::updateInterfaceModeMenu);
     m_interfaceModePopupButton->setMenu(menu);
     m_interfaceModePopupButton->setUp();
+    alignReplaceRow();
+}
+
+/// Both fields begin behind the mode pop-up.
+void ZEVTextFinderViewController::alignReplaceRow()
+{
+    QLayout *row = m_replaceContainerView ? m_replaceContainerView->layout() : nullptr;
+    const auto *rows = qobject_cast<const QGridLayout *>(view()->layout());
+    if (!row || !rows)
+        return;
+    QMargins margins = row->contentsMargins();
+    margins.setLeft(m_interfaceModePopupButton->sizeHint().width() + rows->horizontalSpacing());
+    row->setContentsMargins(margins);
 }
 
 void ZEVTextFinderViewController::setUpSegments()

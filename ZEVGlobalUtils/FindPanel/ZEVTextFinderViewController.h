@@ -50,6 +50,7 @@ protected:
 private:
     void setUpMenuButtons();
     void setUpModes();
+    void alignReplaceRow();
     void setUpSegments();
     void updateInterfaceModeMenu();
     void updateInterfaceModeSelectorState();

@@ -3,6 +3,7 @@
 
 #include <tageditor/gallery/GalleryPages.h>
 
+#include <tageditor/gallery/FindInterfacesPage.h>
 #include <tageditor/gallery/LayoutPage.h>
 #include <tageditor/gallery/MenuItemsPage.h>
 #include <tageditor/gallery/TextTransformsPage.h>
@@ -13,9 +14,8 @@ using namespace Qt::StringLiterals;
 QList<GalleryPage> galleryPages()
 {
     return {
-        {u"Token fields"_s, &tokenFieldsPage},
-        {u"Menu items"_s, &menuItemsPage},
-        {u"Layout"_s, &layoutPage},
+        {u"Find interfaces"_s, &findInterfacesPage}, {u"Token fields"_s, &tokenFieldsPage},
+        {u"Menu items"_s, &menuItemsPage},           {u"Layout"_s, &layoutPage},
         {u"Text transforms"_s, &textTransformsPage},
     };
 }

@@ -49,7 +49,8 @@ bool GalleryWindow::saveScreenshots(const QString &folder)
     for (int row = 0; row < m_names->count(); ++row) {
         m_names->setCurrentRow(row);
         // Pages may put off some of their layout until the event loop comes round.
-        QCoreApplication::processEvents();
+        for (int i = 0; i < 3; ++i)
+            QCoreApplication::processEvents();
         const QString name = m_names->item(row)->text().toLower().replace(u' ', u'-');
         areSaved &= grab().save(QDir(folder).filePath(name + u".png"_s), "PNG");
     }
