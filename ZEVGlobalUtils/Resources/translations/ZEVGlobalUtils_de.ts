@@ -172,6 +172,14 @@
         <translation>%1 EB</translation>
     </message>
     <message>
+        <source>Unknown Type (0x%x)</source>
+        <translation>Unbekannter Typ (0x%x)</translation>
+    </message>
+    <message>
+        <source>The image “%1” could not be written: %2.</source>
+        <translation>Das Bild „%1“ konnte nicht geschrieben werden: %2.</translation>
+    </message>
+    <message>
         <source>None</source>
         <translation>Keine</translation>
     </message>

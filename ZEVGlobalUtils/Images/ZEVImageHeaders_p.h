@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QByteArrayView>
+#include <QSize>
+
+/// The pixel size that the header of each format gives, invalid when there is none. The bytes are foreign;
+/// only their signature has been looked at.
+namespace ZEVImageHeaders {
+
+QSize tiffSize(QByteArrayView bytes);
+QSize bmpSize(QByteArrayView bytes);
+QSize gifSize(QByteArrayView bytes);
+QSize jpegSize(QByteArrayView bytes);
+QSize pngSize(QByteArrayView bytes);
+QSize webpSize(QByteArrayView bytes);
+QSize avifSize(QByteArrayView bytes);
+
+/// Invalid for what is empty or does not fit.
+QSize checkedSize(qint64 width, qint64 height);
+
+} // namespace ZEVImageHeaders

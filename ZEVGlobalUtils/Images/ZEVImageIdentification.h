@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <ZEVGlobalUtils/Export.h>
+
+#include <QByteArrayView>
+#include <QSize>
+#include <QString>
+
+/// What encoded image bytes really are, by their whole signature and their header. No pixel is decoded and
+/// nothing is read past the bytes, whatever they say of themselves. Any thread.
+struct ZEV_EXPORT ZEVImageIdentification {
+    enum Format { Unknown, TIFF, BMP, GIF, JPEG, PNG, WebP, AVIF };
+
+    static ZEVImageIdentification identificationWithData(QByteArrayView data);
+
+    Format format = Unknown;
+
+    /// In pixels, of the first page or frame, as it is stored: no orientation is applied. Invalid where the
+    /// header does not say, or says nothing that fits into an int.
+    QSize pixelSize;
+
+    /// The registered media type (IANA), "image/webp" and the like; empty when unknown.
+    QString mimeType() const;
+
+    friend bool operator==(const ZEVImageIdentification &, const ZEVImageIdentification &) = default;
+};

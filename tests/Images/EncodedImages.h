@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QBuffer>
+#include <QImage>
+#include <QtEndian>
+
+/// Encoded pictures for tests, made as they are needed.
+namespace EncodedImages {
+
+inline QByteArray encoded(const QImage &image, const char *format)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    image.save(&buffer, format);
+    return bytes;
+}
+
+/// Noise, so that every format has something to say about every pixel.
+inline QImage picture(int width, int height)
+{
+    QImage image(width, height, QImage::Format_RGB32);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x)
+            image.setPixel(x, y, qRgb(x * 31 % 256, y * 57 % 256, x * y % 256));
+    }
+    return image;
+}
+
+inline QByteArray encoded(int width, int height, const char *format)
+{
+    return encoded(picture(width, height), format);
+}
+
+inline QByteArray bigEndian(quint32 number)
+{
+    const quint32 swapped = qToBigEndian(number);
+    return {reinterpret_cast<const char *>(&swapped), 4};
+}
+
+inline QByteArray box(const char *tag, const QByteArray &content)
+{
+    return bigEndian(quint32(content.size() + 8)) + tag + content;
+}
+
+/// Frames of one pixel on a screen of that size.
+inline QByteArray gif(quint16 width, quint16 height, int frames)
+{
+    QByteArray bytes("GIF89a\0\0\0\0\x80\0\0\0\0\0\xFF\xFF\xFF", 19);
+    qToLittleEndian(width, bytes.data() + 6);
+    qToLittleEndian(height, bytes.data() + 8);
+    bytes += QByteArray(",\0\0\0\0\1\0\1\0\0\2\2\x44\1\0", 15).repeated(frames);
+    return bytes + ';';
+}
+
+/// The boxes of a picture without its pixels: a thumbnail's size stands before that of the primary item.
+inline QByteArray avif(quint32 width, quint32 height)
+{
+    const QByteArray none(4, '\0'), item7("\0\7", 2);
+    const QByteArray sizes = box("ispe", none + bigEndian(16) + bigEndian(9)) + box("pixi", none)
+        + box("ispe", none + bigEndian(width) + bigEndian(height));
+    const QByteArray associations =
+        none + bigEndian(2) + QByteArray("\0\3\1\1", 4) + item7 + QByteArray("\2\2\x83", 3);
+    const QByteArray properties = box("iprp", box("ipco", sizes) + box("ipma", associations));
+    return box("ftyp", "mif1" + none + "miafavif")
+        + box("meta", none + box("pitm", none + item7) + properties);
+}
+
+} // namespace EncodedImages
