@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <ZEVGlobalUtils/Images/ZEVImageFile_p.h>
+
+#include <ZEVGlobalUtils/Transforms/ZEVGlobalHelper.h>
+
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace {
+
+constexpr qint64 LargestFile = 256LL * 1024 * 1024;
+
+qint64 codeOf(const QFileDevice &file, const QString &path)
+{
+    if (QFileInfo(path).isDir())
+        return ZEVImageFile::WriteFileExistsError;
+    const bool isDenied =
+        file.error() == QFileDevice::PermissionsError || !QFileInfo(QFileInfo(path).path()).isWritable();
+    return isDenied ? ZEVImageFile::WriteNoPermissionError : ZEVImageFile::WriteUnknownError;
+}
+
+} // namespace
+
+QByteArray ZEVImageFile::read(const QString &path)
+{
+    // A pipe would block, and a device would never end.
+    const QFileInfo info(path);
+    QFile file(path);
+    if (!info.isFile() || info.size() > LargestFile || !file.open(QFile::ReadOnly))
+        return {};
+    return file.read(LargestFile);
+}
+
+ZEVError ZEVImageFile::writeError(qint64 code, const QString &path, const QString &reason)
+{
+    const QString text = ZEVGlobalHelper::localizedStringForKey(u"The image “%1” could not be written: %2.");
+    return {ZEVError::CocoaErrorDomain,
+            code,
+            {{ZEVError::LocalizedDescriptionKey.toString(), text.arg(QFileInfo(path).fileName(), reason)}}};
+}
+
+std::optional<ZEVError> ZEVImageFile::writeWithoutOverwriting(const QByteArray &data, const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QFile::WriteOnly | QFile::NewOnly)) {
+        const bool exists = QFileInfo::exists(path) || QFileInfo(path).isSymLink();
+        return writeError(exists ? WriteFileExistsError : codeOf(file, path), path, file.errorString());
+    }
+    if (file.write(data) == data.size() && file.flush())
+        return std::nullopt;
+    file.remove(); // half a picture is worse than none
+    return writeError(WriteUnknownError, path, file.errorString());
+}
+
+std::optional<ZEVError> ZEVImageFile::writeAtomically(const QByteArray &data, const QString &path)
+{
+    QSaveFile file(path);
+    if (file.open(QFile::WriteOnly) && file.write(data) == data.size() && file.commit())
+        return std::nullopt;
+    return writeError(codeOf(file, path), path, file.errorString());
+}

@@ -1,0 +1,8 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <ZEVGlobalUtils/Platform/ZEVDirectSave_p.h>
+
+bool ZEVDirectSave::isAvailable() { return false; }
+void ZEVDirectSave::offer(const QString &) { }
+QByteArray ZEVDirectSave::takeAddress() { return {}; }
