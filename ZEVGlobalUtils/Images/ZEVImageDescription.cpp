@@ -1,0 +1,143 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <ZEVGlobalUtils/Images/ZEVImageDescription.h>
+
+#include <ZEVGlobalUtils/Images/ZEVDataBitmapData.h>
+#include <ZEVGlobalUtils/Images/ZEVImageDecoder_p.h>
+#include <ZEVGlobalUtils/Images/ZEVImageFile_p.h>
+#include <ZEVGlobalUtils/Images/ZEVPboardImageWriter.h>
+#include <ZEVGlobalUtils/Images/ZEVPreviewPanel.h>
+#include <ZEVGlobalUtils/Platform/ZEVErrorPresentation.h>
+#include <ZEVGlobalUtils/Platform/ZEVPasteboard.h>
+#include <ZEVGlobalUtils/Platform/ZEVPrivateFolder_p.h>
+#include <ZEVGlobalUtils/Platform/ZEVUniformType.h>
+#include <ZEVGlobalUtils/Transforms/ByteSizeTransformer.h>
+#include <ZEVGlobalUtils/Transforms/ResolutionTransformer.h>
+#include <ZEVGlobalUtils/Transforms/ZEVDataMD5.h>
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The bytes under the general type of images, and the picture as TIFF.
+class CopiedArtwork : public ZEVPboardImageWriter {
+public:
+    CopiedArtwork(const QByteArray &bitmapData, const QImage &image)
+        : m_image(image)
+    {
+        setBitmapData(bitmapData);
+    }
+
+    QStringList writableTypesForPasteboard() const override
+    {
+        QStringList types{ZEVUniformType::Image.toString()};
+        if (!m_image.isNull())
+            types.append(ZEVUniformType::TIFF.toString());
+        return types;
+    }
+
+    QByteArray pasteboardPropertyListForType(QStringView type) const override
+    {
+        if (!ZEVUniformType::isEqual(type, ZEVUniformType::TIFF))
+            return ZEVPboardImageWriter::pasteboardPropertyListForType(type);
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        m_image.save(&buffer, "TIFF");
+        return bytes;
+    }
+
+private:
+    QImage m_image;
+};
+
+QString previewFolder() { return ZEVImageDescription::quickLookTemporaryDirectoryURL(false).toLocalFile(); }
+
+/// The bare digest where no extension is known.
+QString previewFileName(const QByteArray &data)
+{
+    const auto extension = ZEVDataBitmapData::bitmapDataImageFileExtention(data);
+    return ZEVDataMD5::MD5Hash(data) + (extension ? u'.' + *extension : QString());
+}
+
+/// Makes sure of the file. Nobody else may have put a folder, or a link to one, in the place of ours.
+std::optional<ZEVError> writePreview(const QByteArray &data, const QString &path)
+{
+    const QString folder = ZEVImageDescription::quickLookTemporaryDirectoryURL(true).toLocalFile();
+    if (!ZEVPrivateFolder::isPrivate(folder))
+        return ZEVImageFile::writeError(ZEVImageFile::WriteNoPermissionError, path, folder);
+    if (QFileInfo(path).isSymLink())
+        QFile::remove(path); // written through, it would change a file elsewhere
+    if (ZEVImageFile::read(path) == data && QFileInfo::exists(path))
+        return std::nullopt;
+    return ZEVImageFile::writeAtomically(data, path);
+}
+
+/// Kept: that something is already there is swallowed without a word.
+void presentOnMainThread(const ZEVError &error)
+{
+    QCoreApplication *const application = QCoreApplication::instance();
+    if (application && error.code() != ZEVImageFile::WriteFileExistsError)
+        QMetaObject::invokeMethod(
+            application, [error] { ZEVErrorPresentation::presentError(error); }, Qt::QueuedConnection);
+}
+
+} // namespace
+
+ZEVImageDescription::ZEVImageDescription(const QByteArray &bitmapData)
+    : m_bitmapData(bitmapData)
+    , m_image(ZEVImageDecoder::imageWithData(bitmapData))
+    , m_type(ZEVDataBitmapData::bitmapImageType(bitmapData))
+    , m_dimensions(ResolutionTransformer().transformedValue(QSizeF(m_image.size())).toString())
+{
+}
+
+QString ZEVImageDescription::imageDescription() const
+{
+    const QString bytes = ByteSizeTransformer().transformedValue(byteSize()).toString();
+    return QStringList{m_dimensions, m_type, bytes}.join(u", ");
+}
+
+void ZEVImageDescription::placeOnGeneralPasteboard() const
+{
+    ZEVPasteboard::generalPasteboard().writeObject(std::make_shared<CopiedArtwork>(m_bitmapData, m_image));
+}
+
+QUrl ZEVImageDescription::previewItemURL() const
+{
+    if (!ZEVPreviewPanel::sharedPreviewPanelIsVisible())
+        return {};
+    const QString path = QDir(previewFolder()).filePath(previewFileName(m_bitmapData));
+    if (const auto error = writePreview(m_bitmapData, path)) {
+        presentOnMainThread(*error);
+        return {};
+    }
+    return QUrl::fromLocalFile(path);
+}
+
+std::optional<QString> ZEVImageDescription::previewItemTitle() const
+{
+    return ZEVPreviewPanel::sharedPreviewPanelIsVisible() ? std::optional(imageDescription()) : std::nullopt;
+}
+
+/// The runtime directory (XDG Base Directory Specification) is the user's alone, which /tmp is not.
+QUrl ZEVImageDescription::quickLookTemporaryDirectoryURL(bool create)
+{
+    const QString path =
+        QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + u"/artwork_cache";
+    if (create)
+        ZEVPrivateFolder::make(path);
+    return QUrl::fromLocalFile(path);
+}
+
+void ZEVImageDescription::cleanupTemporaryDirectory()
+{
+    if (ZEVPrivateFolder::isPrivate(previewFolder()))
+        QDir(previewFolder()).removeRecursively();
+}

@@ -1,0 +1,248 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include "../Rows.h"
+#include "EncodedImages.h"
+
+#include <ZEVGlobalUtils/Images/ZEVImageDescription.h>
+#include <ZEVGlobalUtils/Images/ZEVPasteboardRawBitmapData.h>
+#include <ZEVGlobalUtils/Images/ZEVPreviewPanel.h>
+#include <ZEVGlobalUtils/Platform/ZEVError.h>
+#include <ZEVGlobalUtils/Platform/ZEVErrorPresentation.h>
+#include <ZEVGlobalUtils/Platform/ZEVPasteboard.h>
+#include <ZEVGlobalUtils/Platform/ZEVUniformType.h>
+
+#include <QImageReader>
+#include <QImageWriter>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <sys/resource.h>
+#include <sys/time.h>
+
+using namespace Qt::StringLiterals;
+using namespace EncodedImages;
+
+namespace {
+
+#ifdef __SANITIZE_ADDRESS__
+constexpr int Slowness = 4;
+#else
+constexpr int Slowness = 1;
+#endif
+
+/// Progressive, with thousands of scans over it.
+QByteArray endlessJpeg()
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    QImageWriter writer(&buffer, "JPG");
+    writer.setProgressiveScanWrite(true);
+    writer.write(QImage(2000, 2000, QImage::Format_Grayscale8));
+    const qsizetype scan = bytes.indexOf("\xFF\xDA");
+    return bytes.chopped(2) + bytes.sliced(scan).chopped(2).repeated(500) + "\xFF\xD9";
+}
+
+QByteArray hugeJpeg()
+{
+    const QByteArray bytes = encoded(300, 300, "JPG");
+    return QByteArray(bytes).replace(bytes.indexOf("\xFF\xC0") + 5, 4, QByteArray(4, '\xFF'));
+}
+
+struct Bomb {
+    QString name;
+    QByteArray bytes;
+    QSize size;
+};
+
+QList<Bomb> bombs()
+{
+    QList<Bomb> bombs{
+        {u"nothing"_s, {}, {0, 0}},
+        {u"8000 x 8000"_s, encoded(QImage(8000, 8000, QImage::Format_Mono), "PNG"), {0, 0}},
+        {u"huge JPEG"_s, hugeJpeg(), {0, 0}},
+        {u"huge GIF"_s, gif(65535, 65535, 1), {0, 0}},
+        {u"cut GIF"_s, gif(300, 300, 1).chopped(3), {0, 0}},
+        {u"100,000 frames"_s, gif(3, 2, 100'000), {3, 2}},
+        {u"thousands of scans"_s, endlessJpeg(), {0, 0}},
+    };
+    for (const char *format : {"JPG", "PNG", "BMP", "TIFF", "WEBP", "GIF"}) {
+        const QByteArray whole = qstrcmp(format, "GIF") == 0 ? gif(300, 300, 1) : encoded(300, 300, format);
+        bombs.append({u"whole "_s + QString::fromLatin1(format), whole, {300, 300}});
+        bombs.append({u"half "_s + QString::fromLatin1(format), whole.first(whole.size() / 2), {0, 0}});
+    }
+    return bombs;
+}
+
+} // namespace
+
+class tst_ZEVImageDescription : public QObject {
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_runtime;
+    QList<ZEVError> m_errors;
+    const ZEVImageDescription m_png{encoded(9, 9, "PNG")};
+
+    QString folder() const
+    {
+        return ZEVImageDescription::quickLookTemporaryDirectoryURL(false).toLocalFile();
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_runtime.path()));
+        ZEVErrorPresentation::setPresenter([this](const ZEVError &error) { m_errors.append(error); });
+    }
+
+    void init()
+    {
+        ZEVImageDescription::cleanupTemporaryDirectory();
+        ZEVPreviewPanel::sharedPreviewPanel()->show();
+    }
+
+    void whatADescriptionTells()
+    {
+        QImage image = picture(600, 600);
+        image.setDotsPerMeterX(5669); // 144 dots an inch
+        const ZEVImageDescription jpeg(encoded(image, "JPG"));
+        QCOMPARE(jpeg.size(), QSizeF(600, 600));
+        QVERIFY(jpeg.imageDescription().startsWith(u"600\u2006×\u2006600 px, JPEG, "_s));
+        QCOMPARE(ZEVImageDescription("Banana").imageDescription(), u"0\u2006×\u20060 px, BMP, 6 bytes"_s);
+    }
+
+    /// TIFF 6.0: orientation 6 says that the picture is to be turned.
+    void aTurnedPictureHasItsStoredSize()
+    {
+        QByteArray tiff = encoded(40, 30, "TIFF");
+        const QByteArray orientation("\x12\1\3\0\1\0\0\0", 8);
+        QVERIFY(tiff.contains(orientation));
+        tiff[tiff.indexOf(orientation) + 8] = 6;
+        QCOMPARE(ZEVImageDescription(tiff).size(), QSizeF(40, 30));
+    }
+
+    /// Each in a process of its own, which is killed when it takes more than half a second of processor time.
+    void bombsTakeLittleTimeAndMemory()
+    {
+        for (const Bomb &bomb : bombs()) {
+            QFile file(m_runtime.filePath(u"bomb"_s));
+            QVERIFY(file.open(QFile::WriteOnly) && file.write(bomb.bytes) == bomb.bytes.size()
+                    && file.flush());
+            qputenv("ZEV_BOMB", QFile::encodeName(file.fileName()));
+            QProcess process;
+            process.start(QCoreApplication::applicationFilePath(), {u"describeBomb"_s});
+            QVERIFY(process.waitForFinished());
+            const QString size = u"%1 x %2,"_s.arg(bomb.size.width()).arg(bomb.size.height());
+            const QByteArray said = bomb.name.toUtf8() + ": " + process.readAll();
+            QVERIFY2(process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0,
+                     said.constData());
+            QVERIFY2(said.contains(size.toUtf8()), said.constData());
+        }
+        qunsetenv("ZEV_BOMB");
+    }
+
+    void describeBomb()
+    {
+        QFile file(qEnvironmentVariable("ZEV_BOMB"));
+        if (!file.open(QFile::ReadOnly))
+            return;
+        const QByteArray bytes = file.readAll();
+        QImageReader::setAllocationLimit(0); // a host may have lifted the process's limit
+        rusage before, after;
+        getrusage(RUSAGE_SELF, &before);
+        const itimerval limit{{0, 0}, {Slowness / 2, Slowness % 2 * 500'000}};
+        setitimer(ITIMER_PROF, &limit, nullptr);
+        const ZEVImageDescription description(bytes);
+        getrusage(RUSAGE_SELF, &after);
+        const long kilobytes = after.ru_maxrss - before.ru_maxrss;
+        std::printf("%.0f x %.0f, %ld KB\n", description.size().width(), description.size().height(),
+                    kilobytes);
+        QVERIFY(kilobytes < 256 * 1024);
+    }
+
+    void aCopyOffersTheBytesAndATiff()
+    {
+        const ZEVImageDescription description(encoded(6, 5, "JPG"));
+        description.placeOnGeneralPasteboard();
+        const ZEVPasteboard general = ZEVPasteboard::generalPasteboard();
+        QCOMPARE(general.types().first(3),
+                 QStringList({u"public.jpeg"_s, u"public.image"_s, u"public.tiff"_s}));
+        QCOMPARE(ZEVPasteboardRawBitmapData::rawImageData(general), description.bitmapData());
+        QCOMPARE(QImage::fromData(general.dataForType(ZEVUniformType::TIFF), "TIFF").size(), QSize(6, 5));
+    }
+
+    void aPreviewFileIsWrittenOnceAndMended()
+    {
+        const QString path = m_png.previewItemURL().toLocalFile();
+        QCOMPARE(m_png.previewItemTitle(), m_png.imageDescription());
+        QVERIFY(path.endsWith(u".png") && QFile(path).setPermissions(QFile::ReadOwner));
+        QCOMPARE(ZEVImageDescription(m_png.bitmapData()).previewItemURL().toLocalFile(), path);
+        QCOMPARE(QFile::permissions(path) & QFile::WriteOwner, QFile::Permissions()); // not written anew
+        QVERIFY(QFile(path).setPermissions(QFile::ReadOwner | QFile::WriteOwner) && QFile::resize(path, 5));
+        QCOMPARE(m_png.previewItemURL().toLocalFile(), path);
+        QCOMPARE(QFileInfo(path).size(), m_png.bitmapData().size());
+        ZEVPreviewPanel::sharedPreviewPanel()->hide();
+        QVERIFY(!m_png.previewItemURL().isValid() && !m_png.previewItemTitle());
+    }
+
+    void aPreviewFolderThatIsNotOursIsNotUsed()
+    {
+        const QTemporaryDir elsewhere;
+        const QString others = elsewhere.filePath(u"others"_s);
+        QVERIFY(QFile(others).open(QFile::WriteOnly) && QFile::link(elsewhere.path(), folder()));
+        QVERIFY(!m_png.previewItemURL().isValid());
+        QTRY_COMPARE(m_errors.size(), 1);
+        ZEVImageDescription::cleanupTemporaryDirectory();
+        QVERIFY(QFileInfo::exists(others) && QFile::remove(folder()));
+        QVERIFY(QDir().mkdir(folder()) && QFile::setPermissions(folder(), QFile::Permissions(0x7777)));
+        QVERIFY(m_png.previewItemURL().isValid());
+        QCOMPARE(QFile::permissions(folder()) & QFile::Permissions(0x77), QFile::Permissions());
+    }
+
+    void whatLiesInThePlaceOfAPreview()
+    {
+        const QString path = m_png.previewItemURL().toLocalFile();
+        QVERIFY(QFile::remove(path) && QDir().mkdir(path));
+        m_errors.clear();
+        QVERIFY(!m_png.previewItemURL().isValid());
+        QCoreApplication::processEvents();
+        QVERIFY(m_errors.isEmpty()); // swallowed
+        const QString secret = m_runtime.filePath(u"secret"_s);
+        QVERIFY(QDir().rmdir(path) && QFile::link(secret, path) && m_png.previewItemURL().isValid());
+        QVERIFY(!QFileInfo::exists(secret)); // nothing is written through a link
+    }
+
+    void thePanelStepsByItsKeysAndShowsWhatThereIs()
+    {
+        ZEVPreviewPanel *const panel = ZEVPreviewPanel::sharedPreviewPanel();
+        panel->hide();
+        panel->resize(240, 240);
+        ZEVPreviewPanel::Items items;
+        for (Qt::GlobalColor color : {Qt::red, Qt::green, Qt::blue}) {
+            QImage image(400, 100, QImage::Format_RGB32);
+            image.fill(color);
+            items.push_back(std::make_shared<ZEVImageDescription>(encoded(image, "PNG")));
+        }
+        panel->setPreviewItems(items, 7);
+        QCOMPARE(panel->windowTitle(), QString()); // closed, it has nothing to say
+        panel->toggle();
+        const std::tuple<Qt::Key, qsizetype, QColor> rows[] = {
+            {Qt::Key_Left, 1, Qt::green},  {Qt::Key_Up, 0, Qt::red},    {Qt::Key_Left, 0, Qt::red},
+            {Qt::Key_Right, 1, Qt::green}, {Qt::Key_Down, 2, Qt::blue}, {Qt::Key_Right, 2, Qt::blue},
+        };
+        for (const auto &[key, index, color] : rows) {
+            QTest::keyClick(panel, key);
+            COMPARE_ROW(key, panel->currentPreviewItemIndex(), index);
+            const QImage seen = panel->grab().toImage();
+            COMPARE_ROW(key, seen.pixelColor(seen.width() / 2, seen.height() * 9 / 20), color);
+            QVERIFY(seen.pixelColor(seen.width() / 2, seen.height() / 8) != color); // it is not stretched
+        }
+        QVERIFY(panel->windowTitle().startsWith(u"400"_s));
+        QTest::keyClick(panel, Qt::Key_Space);
+        QVERIFY(panel->isHidden() && !ZEVPreviewPanel::sharedPreviewPanelIsVisible());
+    }
+};
+
+QTEST_MAIN(tst_ZEVImageDescription)
+#include "tst_ZEVImageDescription.moc"
