@@ -4,6 +4,7 @@
 #include <tageditor/gallery/GalleryPages.h>
 
 #include <tageditor/gallery/FindInterfacesPage.h>
+#include <tageditor/gallery/ImagePages.h>
 #include <tageditor/gallery/LayoutPage.h>
 #include <tageditor/gallery/MenuItemsPage.h>
 #include <tageditor/gallery/TextTransformsPage.h>
@@ -16,6 +17,11 @@ QList<GalleryPage> galleryPages()
     return {
         {u"Find interfaces"_s, &findInterfacesPage}, {u"Token fields"_s, &tokenFieldsPage},
         {u"Menu items"_s, &menuItemsPage},           {u"Layout"_s, &layoutPage},
+        {u"Token fields"_s, &tokenFieldsPage},
+        {u"Menu items"_s, &menuItemsPage},
+        {u"Layout"_s, &layoutPage},
+        {u"Stencils"_s, &stencilsPage},
+        {u"Picture fitting"_s, &pictureFittingPage},
         {u"Text transforms"_s, &textTransformsPage},
     };
 }
