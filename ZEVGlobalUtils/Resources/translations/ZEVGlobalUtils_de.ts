@@ -363,5 +363,45 @@
         <source>&amp;Use Selection for Find</source>
         <translation>&amp;Auswahl zum Suchen verwenden</translation>
     </message>
+    <message>
+        <source>the item does not exist</source>
+        <translation>das Objekt gibt es nicht</translation>
+    </message>
+    <message>
+        <source>you do not have permission</source>
+        <translation>die Berechtigung fehlt</translation>
+    </message>
+    <message>
+        <source>an item with this name already exists</source>
+        <translation>ein Objekt mit diesem Namen ist schon vorhanden</translation>
+    </message>
+    <message>
+        <source>there is not enough room</source>
+        <translation>es ist nicht genug Platz</translation>
+    </message>
+    <message>
+        <source>the volume can only be read</source>
+        <translation>das Volume kann nur gelesen werden</translation>
+    </message>
+    <message>
+        <source>it was cancelled</source>
+        <translation>der Vorgang wurde abgebrochen</translation>
+    </message>
+    <message>
+        <source>“%1” could not be moved: %2.</source>
+        <translation>„%1“ konnte nicht bewegt werden: %2.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be copied: %2.</source>
+        <translation>„%1“ konnte nicht kopiert werden: %2.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be changed: %2.</source>
+        <translation>„%1“ konnte nicht geändert werden: %2.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
 </context>
 </TS>

@@ -363,5 +363,45 @@
         <source>&amp;Use Selection for Find</source>
         <translation>&amp;Use Selection for Find</translation>
     </message>
+    <message>
+        <source>the item does not exist</source>
+        <translation>the item does not exist</translation>
+    </message>
+    <message>
+        <source>you do not have permission</source>
+        <translation>you do not have permission</translation>
+    </message>
+    <message>
+        <source>an item with this name already exists</source>
+        <translation>an item with this name already exists</translation>
+    </message>
+    <message>
+        <source>there is not enough room</source>
+        <translation>there is not enough room</translation>
+    </message>
+    <message>
+        <source>the volume can only be read</source>
+        <translation>the volume can only be read</translation>
+    </message>
+    <message>
+        <source>it was cancelled</source>
+        <translation>it was cancelled</translation>
+    </message>
+    <message>
+        <source>“%1” could not be moved: %2.</source>
+        <translation>“%1” could not be moved: %2.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be copied: %2.</source>
+        <translation>“%1” could not be copied: %2.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be changed: %2.</source>
+        <translation>“%1” could not be changed: %2.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
 </context>
 </TS>

@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <ZEVGlobalUtils/Export.h>
+
+#include <QByteArray>
+
+/// A file's name in two halves. An extension is not empty and holds no white space: "Vol. 2" has none, nor
+/// have "Name." and ".hidden".
+struct ZEV_EXPORT ZEVFileName {
+    enum class Dot {
+        BeforeAnyExtension, ///< kept: also before an empty one, so that "Name" becomes "Name 2."
+        BeforeExtensionOnly,
+    };
+
+    explicit ZEVFileName(const QByteArray &name);
+
+    /// "Song 2.mp3". The base is shortened, between two characters, where the name would have more than the
+    /// 255 bytes that a file system takes.
+    QByteArray numbered(int number, Dot dot) const;
+
+    QByteArray base;
+    QByteArray extension; ///< without its dot
+};

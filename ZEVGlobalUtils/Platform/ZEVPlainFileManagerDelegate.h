@@ -1,0 +1,24 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <ZEVGlobalUtils/Export.h>
+
+class QUrl;
+class ZEVError;
+class ZEVPlainFileManager;
+
+/// Asked, on the operation's thread, when an item could not be copied or moved.
+class ZEV_EXPORT ZEVPlainFileManagerDelegate {
+public:
+    virtual ~ZEVPlainFileManagerDelegate();
+
+    /// True when the operation counts as done all the same.
+    virtual bool shouldProceedAfterErrorMovingItemAtURL(ZEVPlainFileManager &fileManager,
+                                                        const ZEVError &error, const QUrl &srcURL,
+                                                        const QUrl &dstURL);
+    virtual bool shouldProceedAfterErrorCopyingItemAtURL(ZEVPlainFileManager &fileManager,
+                                                         const ZEVError &error, const QUrl &srcURL,
+                                                         const QUrl &dstURL);
+};
