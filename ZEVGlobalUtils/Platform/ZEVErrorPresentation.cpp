@@ -3,7 +3,9 @@
 
 #include <ZEVGlobalUtils/Platform/ZEVErrorPresentation.h>
 
+#include <ZEVGlobalUtils/Platform/ZEVAlert.h>
 #include <ZEVGlobalUtils/Platform/ZEVError.h>
+#include <ZEVGlobalUtils/Platform/ZEVErrorRecoveryAttempting.h>
 #include <ZEVGlobalUtils/Platform/ZEVLog_p.h>
 
 #include <QApplication>
@@ -26,10 +28,18 @@ void showAlert(const ZEVError &error)
     alert.exec();
 }
 
+bool askForRecovery(const ZEVError &error, ZEVErrorRecoveryAttempting &attempter)
+{
+    const int answer = ZEVAlert::alertWithError(error).runModal();
+    return attempter.attemptRecoveryFromError(error, answer - ZEVAlert::FirstButtonReturn);
+}
+
 } // namespace
 
-void ZEVErrorPresentation::presentError(const ZEVError &error)
+bool ZEVErrorPresentation::presentError(const ZEVError &error)
 {
+    if (const auto attempter = ZEVErrorRecoveryAttempting::attempterOfError(error))
+        return askForRecovery(error, *attempter);
     // A copy, since a presenter may well put another in its own place.
     if (const Presenter presenter = hostPresenter())
         presenter(error);
@@ -37,6 +47,7 @@ void ZEVErrorPresentation::presentError(const ZEVError &error)
         showAlert(error);
     else
         qCWarning(zevLog).noquote() << error.localizedDescription();
+    return false;
 }
 
 ZEVErrorPresentation::Presenter ZEVErrorPresentation::setPresenter(Presenter presenter)

@@ -15,8 +15,9 @@ namespace ZEVErrorPresentation {
 using Presenter = std::function<void(const ZEVError &)>;
 
 /// Shows \a error through the host's presenter, else in an alert of plain text; without a QApplication it is
-/// logged.
-ZEV_EXPORT void presentError(const ZEVError &error);
+/// logged. One that carries ways to recover from it always comes as an alert with a button for each; true
+/// when the way that was chosen has solved the problem.
+ZEV_EXPORT bool presentError(const ZEVError &error);
 
 /// Puts \a presenter in the alert's place and returns the one before; an empty one brings the alert back.
 ZEV_EXPORT Presenter setPresenter(Presenter presenter);
