@@ -10,6 +10,7 @@
 #include <QMap>
 #include <QTemporaryDir>
 
+#include <fcntl.h>
 #include <filesystem>
 #include <sys/stat.h>
 #include <sys/xattr.h>
@@ -24,12 +25,10 @@ inline QUrl url(const QString &path) { return QUrl::fromLocalFile(path); }
 
 inline bool write(const QByteArray &path, const QByteArray &contents)
 {
-    QFile file(QString::fromUtf8(path));
-    if (path != file.fileName().toUtf8()) { // no name for QFile
-        const auto stream = fopen(path.constData(), "wb");
-        return stream && fwrite(contents.constData(), 1, size_t(contents.size()), stream) && !fclose(stream);
-    }
-    return file.open(QFile::WriteOnly) && file.write(contents) == contents.size();
+    FILE *const file = fopen(path.constData(), "wb");
+    const bool isWritten =
+        file && fwrite(contents.constData(), 1, size_t(contents.size()), file) == size_t(contents.size());
+    return file && fclose(file) == 0 && isWritten;
 }
 
 inline QByteArray read(const QByteArray &path)

@@ -61,6 +61,7 @@ ZEVAlertDialog::ZEVAlertDialog(const ZEVAlert &alert, QWidget *parent)
     column->addStretch();
     rows->addLayout(makeButtons(alert));
     rows->setSizeConstraint(QLayout::SetFixedSize);
+    findChild<QPushButton *>()->setFocus(); // only now is it in the window; the first is the default
 }
 
 QLabel *ZEVAlertDialog::addIcon(const ZEVAlert &alert)
@@ -116,8 +117,6 @@ QLayout *ZEVAlertDialog::makeButtons(const ZEVAlert &alert)
             button->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));
         connect(button, &QPushButton::clicked, this, [this, n] { done(n); });
         row->addWidget(button);
-        if (n == 0)
-            button->setFocus();
     }
     m_lastButton = int(titles.size()) - 1;
     return row;

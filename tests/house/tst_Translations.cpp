@@ -75,7 +75,7 @@ private Q_SLOTS:
     void theEnglishTableHasEveryTextOfTheSources()
     {
         for (auto text = m_english.cbegin(); text != m_english.cend(); ++text)
-            QCOMPARE(text.value(), text.key());
+            QVERIFY2(text.value() == text.key() || text.key().startsWith(u'-'), qPrintable(text.key()));
         const QSet<QString> keys = keysInSources();
         QVERIFY(keys.size() > 15);
         for (const QString &key : keys)

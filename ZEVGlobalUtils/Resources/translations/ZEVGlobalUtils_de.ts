@@ -403,5 +403,57 @@
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Apply to All</source>
+        <translation>Auf alle anwenden</translation>
+    </message>
+    <message>
+        <source>Allow Access</source>
+        <translation>Zugriff erlauben</translation>
+    </message>
+    <message>
+        <source>-SandboxExceptionKey-</source>
+        <translation>Um mit den Dateien in diesem Ordner zu arbeiten, wird Zugriff auf ihn benötigt. Wählen Sie ihn aus, um ihn zu erlauben.</translation>
+    </message>
+    <message>
+        <source>-SandboxSuggestion-</source>
+        <translation>Wenn Sie stattdessen Ihren persönlichen Ordner wählen, müssen Sie für die Ordner darin nicht noch einmal gefragt werden.</translation>
+    </message>
+    <message>
+        <source>Keep Both</source>
+        <translation>Beide behalten</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Überspringen</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>An item named “%@” already exists in this location.</source>
+        <translation>An diesem Ort ist schon ein Objekt mit dem Namen „%@“ vorhanden.</translation>
+    </message>
+    <message>
+        <source>Do you want to replace it with the one you’re moving?</source>
+        <translation>Möchten Sie es durch das Objekt ersetzen, das Sie bewegen?</translation>
+    </message>
+    <message>
+        <source>Existing item:</source>
+        <translation>Vorhandenes Objekt:</translation>
+    </message>
+    <message>
+        <source>New item:</source>
+        <translation>Neues Objekt:</translation>
+    </message>
 </context>
 </TS>

@@ -403,5 +403,57 @@
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Apply to All</source>
+        <translation>Apply to All</translation>
+    </message>
+    <message>
+        <source>Allow Access</source>
+        <translation>Allow Access</translation>
+    </message>
+    <message>
+        <source>-SandboxExceptionKey-</source>
+        <translation>To work with the files in this folder, access to it is needed. Choose the folder to allow it.</translation>
+    </message>
+    <message>
+        <source>-SandboxSuggestion-</source>
+        <translation>If you choose your home folder instead, you will not be asked again for the folders in it.</translation>
+    </message>
+    <message>
+        <source>Keep Both</source>
+        <translation>Keep Both</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Replace</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Skip</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>An item named “%@” already exists in this location.</source>
+        <translation>An item named “%@” already exists in this location.</translation>
+    </message>
+    <message>
+        <source>Do you want to replace it with the one you’re moving?</source>
+        <translation>Do you want to replace it with the one you’re moving?</translation>
+    </message>
+    <message>
+        <source>Existing item:</source>
+        <translation>Existing item:</translation>
+    </message>
+    <message>
+        <source>New item:</source>
+        <translation>New item:</translation>
+    </message>
 </context>
 </TS>
