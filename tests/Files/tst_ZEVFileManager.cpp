@@ -1,0 +1,379 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include "../Rows.h"
+#include "../Trees.h"
+
+#include <ZEVGlobalUtils/Files/ZEVFileManager.h>
+#include <ZEVGlobalUtils/Files/ZEVFileManagerDelegate.h>
+#include <ZEVGlobalUtils/Files/ZEVURLFileAccess.h>
+#include <ZEVGlobalUtils/Platform/ZEVAlert.h>
+#include <ZEVGlobalUtils/Platform/ZEVFileErrors.h>
+#include <ZEVGlobalUtils/Platform/ZEVFileReference.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDialog>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <thread>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Grants access by changing the folder's mode, as often as it is asked.
+class Grant : public ZEVFileManagerDelegate {
+public:
+    bool provideSandboxAccessToURL(ZEVFileManager &, const QUrl &url) override
+    {
+        asked.append(ZEVFileURL::lastPathComponent(url));
+        return grants && chmod(ZEVFileURL::path(url).constData(), 0755) == 0;
+    }
+
+    QByteArrayList asked;
+    bool grants = true;
+};
+
+/// A new folder with "from/Track.mp3" ("new"), "to/Track.mp3" ("old") and a manager.
+struct Desk {
+    Desk()
+    {
+        for (const char *name : {"from", "to"})
+            QDir(folder.path()).mkdir(QLatin1String(name));
+        Trees::write(path("from/Track.mp3"), "new");
+        Trees::write(path("to/Track.mp3"), "old");
+    }
+    ~Desk()
+    {
+        for (const char *name : {"from", "to"})
+            chmod(path(name).constData(), 0755);
+        std::filesystem::remove_all(folder.path().toStdString());
+    }
+
+    QByteArray path(const QByteArray &name) const { return folder.path().toUtf8() + '/' + name; }
+    QUrl url(const QByteArray &name) const { return ZEVFileURL::withPath(path(name)); }
+    bool move(const QByteArray &to) { return manager.moveItemAtURL(url("from/Track.mp3"), url(to), &error); }
+    bool copy(const QByteArray &to) { return manager.copyItemAtURL(url("from/Track.mp3"), url(to), &error); }
+    QByteArray names(const QByteArray &of) const { return Trees::names(path(of)).join('|'); }
+    QByteArray read(const QByteArray &name) const { return Trees::read(path(name)); }
+
+    QTemporaryDir folder;
+    ZEVFileManager manager;
+    ZEVError error;
+};
+
+ZEVError conflict(const QString &path)
+{
+    return ZEVFileErrors::error(EEXIST, ZEVFileErrors::Operation::Copy, Trees::url(u"/x/"_s + path),
+                                Trees::url(u"/y/"_s + path));
+}
+
+/// Does \a action to the alert that comes next.
+void onAlert(const std::function<void(QDialog *)> &action)
+{
+    QTimer::singleShot(0, qApp,
+                       [action] { action(qobject_cast<QDialog *>(QApplication::activeModalWidget())); });
+}
+
+} // namespace
+
+class tst_ZEVFileManager : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    /// Root may do everything. Only the locking of files takes the right back for a while.
+    void initTestCase()
+    {
+        if (geteuid() == 0)
+            QVERIFY(setresgid(65534, 65534, 0) == 0 && setresuid(65534, 65534, 0) == 0);
+    }
+
+    void aTakenNameIsRecoveredFromAsAsked()
+    {
+        for (const unsigned recovery : {0U, 1U, 2U, 3U, 4U}) {
+            for (const bool copies : {false, true}) {
+                Desk desk;
+                Trees::write(desk.path("to/Track 2.mp3"), "old 2");
+                desk.manager.setFileExistsRecovery(recovery);
+                const bool done = copies ? desk.copy("to/Track.mp3") : desk.move("to/Track.mp3");
+                COMPARE_ROW(recovery, done, recovery == 2 || recovery == 3);
+                COMPARE_ROW(recovery, desk.error.code(), done ? 0 : 516);
+                COMPARE_ROW(recovery, desk.read("to/Track.mp3"), QByteArray(recovery == 3 ? "new" : "old"));
+                COMPARE_ROW(recovery, desk.read("to/Track 3.mp3"),
+                            QByteArray(recovery == 2 ? "new" : "(none)"));
+                COMPARE_ROW(recovery, desk.read("to/Track 2.mp3"), QByteArray("old 2"));
+                COMPARE_ROW(recovery, desk.names("from"), QByteArray(done && !copies ? "" : "Track.mp3"));
+            }
+        }
+    }
+
+    void theNameThatWasFoundIsTold()
+    {
+        Desk desk;
+        Trees::write(desk.path("to/Notes"), "old");
+        const ZEVError error = conflict(u"Notes"_s);
+        QUrl used = desk.url("to/Notes");
+        QVERIFY(desk.manager.attemptFixingFileExistsError(error, 2, desk.url("from/Track.mp3"), used));
+        QCOMPARE(used, desk.url("to/Notes 2."));
+        for (int n = 3; n <= 999; ++n)
+            Trees::write(desk.path("to/Notes " + QByteArray::number(n) + '.'), "old");
+        used = desk.url("to/Notes");
+        QVERIFY(!desk.manager.attemptRecoveryFromFileExistsErrorByFindingUniqueNameAtURL(
+            error, used, desk.url("from/Track.mp3"), &desk.error));
+        QCOMPARE(desk.error.userInfo().value(u"NSURL"_s).toUrl(), desk.url("to/Notes 999."));
+        QVERIFY(!QFile::exists(QString::fromUtf8(desk.path("to/Notes 1000."))));
+        QCOMPARE(Trees::names(desk.path("to")).size(), 1000);
+    }
+
+    void replacingAcrossVolumesLosesNeither()
+    {
+        const Trees::OtherVolume other;
+        QVERIFY(other.isOther());
+        Desk desk;
+        desk.manager.setFileExistsRecovery(ZEVFileExistsRecoveryReplace);
+        const QByteArray there = other.folder.path().toUtf8() + "/item";
+        QVERIFY(Trees::write(there, "from there"));
+        const QUrl source = ZEVFileReference::fileReferenceURL(ZEVFileURL::withPath(there));
+        QVERIFY(chmod(qPrintable(other.folder.path()), 0555) == 0);
+        QVERIFY(!desk.manager.moveItemAtURL(source, desk.url("to/Track.mp3")));
+        QVERIFY(desk.read("to/Track.mp3") == "old" && Trees::read(there) == "from there");
+        QVERIFY(chmod(qPrintable(other.folder.path()), 0755) == 0);
+        QVERIFY(desk.manager.moveItemAtURL(source, desk.url("to/Track.mp3")));
+        QCOMPARE(desk.read("to/Track.mp3"), "from there");
+        QVERIFY(!QFile::exists(QString::fromUtf8(there)));
+        QCOMPARE(desk.names("to"), "Track.mp3");
+    }
+
+    void missingFoldersAreMadeWhereAsked()
+    {
+        Desk desk;
+        QVERIFY(!desk.copy("a/b/Track.mp3") && desk.error.code() == 4);
+        desk.manager.setCreateMissingDirectories(true);
+        desk.manager.setCopyFinderTagsToNewDirectories(true);
+        QVERIFY(setxattr(desk.path("from").constData(), "user.xdg.tags", "jazz,live", 9, 0) == 0);
+        QVERIFY(desk.copy("a/b/Track.mp3") && desk.copy("to/Other.mp3"));
+        QCOMPARE(desk.manager.tagNamesOfItemAtURL(desk.url("a/b")), (QStringList{u"jazz"_s, u"live"_s}));
+        QCOMPARE(desk.manager.tagNamesOfItemAtURL(desk.url("to")), QStringList()); // was there before
+        QVERIFY(!desk.manager.moveItemAtURL(desk.url("from/none"), desk.url("c/none"), &desk.error));
+        QCOMPARE(desk.error.code(), 4); // and came to an end
+        QVERIFY(!desk.move("to/Track.mp3/below/file"));
+    }
+
+    void rightsAreGivenWhereAllowed()
+    {
+        for (const bool fixes : {true, false}) {
+            Desk desk;
+            desk.manager.setFixPermissions(fixes);
+            QVERIFY(chmod(desk.path("from").constData(), 0555) == 0);
+            COMPARE_ROW(fixes, desk.move("to/New.mp3"), fixes);
+            COMPARE_ROW(fixes, desk.error.code(), fixes ? 0 : 513);
+        }
+    }
+
+    /// A repair that does not help is not tried again.
+    void accessIsAskedForOnce()
+    {
+        Desk desk;
+        const auto grant = std::make_shared<Grant>();
+        desk.manager.setSandboxDelegate(grant);
+        QVERIFY(chmod(desk.path("from").constData(), 0333) == 0
+                && chmod(desk.path("to").constData(), 0555) == 0);
+        QVERIFY(!desk.move("to/New.mp3") && desk.error.code() == 513);
+        QCOMPARE(grant->asked, (QByteArrayList{"from", "New.mp3"}));
+        QVERIFY(desk.copy("from/New.mp3"));
+    }
+
+    void aRepairMayUncoverAnotherFailure()
+    {
+        Desk desk;
+        desk.manager.setFileExistsRecovery(ZEVFileExistsRecoveryKeepBoth);
+        QVERIFY(chmod(desk.path("from").constData(), 0555) == 0);
+        // First the name is taken, then the plain manager that looks for another has no right to take it
+        // away.
+        QVERIFY(desk.move("to/Track.mp3"));
+        QVERIFY(desk.names("to") == "Track 2.mp3|Track.mp3" && desk.names("from").isEmpty());
+    }
+
+    void lockedFilesAreUnlockedWhereAllowed()
+    {
+        const auto privileges = qScopeGuard([] { return seteuid(65534); });
+        for (const bool unlocks : {false, true}) {
+            Desk desk;
+            desk.manager.setUnlockFiles(unlocks);
+            if (seteuid(0) < 0 || !ZEVURLFileAccess::setLocked(desk.url("from/Track.mp3"), true))
+                QSKIP("No right to lock files");
+            COMPARE_ROW(unlocks, desk.move("to/New.mp3"), unlocks);
+            COMPARE_ROW(unlocks, desk.error.code(), unlocks ? 0 : 513);
+            QVERIFY(!ZEVURLFileAccess::isLocked(desk.url("to/New.mp3")));
+            ZEVURLFileAccess::setLocked(desk.url("from/Track.mp3"), false);
+        }
+    }
+
+    void aPolicyDecidesForEachItem()
+    {
+        Desk desk;
+        QVERIFY(utimes(desk.path("to/Track.mp3").constData(), nullptr) == 0);
+        desk.manager.setFileExistsPolicy([](const ZEVError &, const QUrl &source, const QUrl &destination) {
+            const auto modified = [](const QUrl &url) { return QFileInfo(url.toLocalFile()).lastModified(); };
+            return modified(source) > modified(destination) ? ZEVFileExistsRecoveryReplace
+                                                            : ZEVFileExistsRecoverySkip;
+        });
+        QVERIFY(!desk.move("to/Track.mp3"));
+        QTest::qWait(5);
+        QVERIFY(utimes(desk.path("from/Track.mp3").constData(), nullptr) == 0);
+        QVERIFY(desk.move("to/Track.mp3") && desk.read("to/Track.mp3") == "new");
+    }
+
+    void aFolderSwappedForALinkLeadsNowhere()
+    {
+        Desk desk;
+        QVERIFY(QDir(desk.folder.path()).mkpath(u"tree/inner"_s));
+        Trees::write(desk.path("tree/a"), QByteArray(100, 'a'));
+        Trees::write(desk.path("tree/inner/b"), "b");
+        bool isSwapped = false;
+        desk.manager.setProgressHandler([&](qint64) {
+            const QByteArrayList names = Trees::names(desk.path("to"));
+            const QByteArray copy = desk.path("to/" + names.first());
+            if (names.first().startsWith(".zev-") && !std::exchange(isSwapped, true)) {
+                std::filesystem::rename(desk.path("to").toStdString(), desk.path("moved").toStdString());
+                std::filesystem::create_directory_symlink("from", desk.path("to").toStdString());
+            }
+            return true;
+        });
+        QVERIFY(desk.manager.copyItemAtURL(desk.url("tree"), desk.url("to/tree")));
+        QVERIFY(isSwapped && desk.names("from") == "Track.mp3");
+        QCOMPARE(Trees::contents(desk.path("moved/tree")), Trees::contents(desk.path("tree")));
+        std::filesystem::remove(desk.path("to").toStdString());
+    }
+
+    void theAlertReadsAsDescribed()
+    {
+        QStringList texts;
+        ZEVAlert::setRunner([&](ZEVAlert &alert) {
+            texts = alert.buttons + QStringList{alert.messageText, alert.informativeText};
+            return 1000;
+        });
+        ZEVFileManager().runModalRecoveryAlertForFileExistsError(conflict(u"-rf AC:DC\n<b>.mp3"_s));
+        ZEVAlert::setRunner({});
+        QCOMPARE(texts,
+                 (QStringList{u"Keep Both"_s, u"Replace"_s, u"Skip"_s, u"Stop"_s,
+                              u"An item named “-rf AC/DC\n<b>.mp3” already exists in this location."_s,
+                              u"Do you want to replace it with the one you’re moving?"_s}));
+    }
+
+    void theAlertIsAnsweredByKeyboard()
+    {
+        const std::tuple<const char *, std::function<void(QDialog *)>, unsigned, bool> rows[] = {
+            {"Return", [](QDialog *alert) { QTest::keyClick(alert, Qt::Key_Return); }, 2, false},
+            {"Escape", [](QDialog *alert) { QTest::keyClick(alert, Qt::Key_Escape); }, 1, false},
+            {"closing", [](QDialog *alert) { alert->close(); }, 0, false},
+            {"Tab to Replace, for all",
+             [](QDialog *alert) {
+                 QTest::keyClick(alert->findChild<QCheckBox *>(), Qt::Key_Space);
+                 QTest::keyClick(alert, Qt::Key_Tab);
+                 QTest::keyClick(alert->focusWidget(), Qt::Key_Space);
+             },
+             3, true},
+        };
+        for (const auto &[name, action, recovery, toAll] : rows) {
+            ZEVFileManager manager;
+            manager.setShowsConflictDetails(true, [](const QUrl &) { return u"3:14"_s; });
+            bool isPlain = false, hasDetails = false;
+            onAlert([&](QDialog *alert) {
+                for (const QLabel *label : alert->findChildren<QLabel *>()) {
+                    hasDetails = hasDetails || label->text().contains(u"3:14");
+                    isPlain =
+                        isPlain || (label->textFormat() == Qt::PlainText && label->text().contains(u"<b>"));
+                }
+                action(alert);
+            });
+            COMPARE_ROW(name,
+                        unsigned(manager.userRequestedRecoveryForFileExistsError(conflict(u"<b>"_s), true)),
+                        recovery);
+            QVERIFY(isPlain && hasDetails);
+            COMPARE_ROW(name, manager.appliedToAllRecovery(), toAll ? recovery : 0U);
+        }
+    }
+
+    void onlyABatchIsOfferedAnAnswerToAll()
+    {
+        ZEVFileManager manager;
+        bool isOffered = true;
+        onAlert([&](QDialog *alert) {
+            isOffered = alert->findChild<QCheckBox *>();
+            alert->close();
+        });
+        manager.userRequestedRecoveryForFileExistsError(conflict(u"a"_s), false);
+        QVERIFY(!isOffered);
+    }
+
+    void fourWorkersAskThroughTheMainThread()
+    {
+        constexpr int Conflicts = 1000;
+        ZEVFileManager manager;
+        int asked = 0, nested = 0, depth = 0;
+        ZEVAlert::setRunner([&](ZEVAlert &alert) {
+            nested += ++depth > 1;
+            QTest::qWait(1); // in which other questions may come
+            --depth;
+            alert.isSuppressed = ++asked == 10;
+            return alert.isSuppressed ? 1001 : 1002;
+        });
+        std::atomic<int> skipped = 0, replaced = 0, left = 4;
+        const auto work = [&] {
+            for (int n = 0; n < Conflicts / 4; ++n) {
+                const auto answer = manager.userRequestedRecoveryForFileExistsError(conflict(u"a"_s), true);
+                skipped += answer == ZEVFileExistsRecoverySkip;
+                replaced += answer == ZEVFileExistsRecoveryReplace;
+            }
+            --left;
+        };
+        {
+            const std::jthread workers[]{std::jthread(work), std::jthread(work), std::jthread(work),
+                                         std::jthread(work)};
+            QTRY_COMPARE(left.load(), 0);
+        }
+        ZEVAlert::setRunner({});
+        QVERIFY(nested == 0 && asked == 10 && skipped == 9);
+        QCOMPARE(replaced.load(), Conflicts - 9);
+    }
+
+    /// The end of the loop answers those who wait for it, and the answer is no answer for all.
+    void quittingAnswersStop()
+    {
+        ZEVFileManager manager;
+        std::atomic<int> stopped = 0;
+        const auto work = [&] {
+            stopped += manager.userRequestedRecoveryForFileExistsError(conflict(u"a"_s), true)
+                == ZEVFileExistsRecoveryNone;
+        };
+        std::jthread shown(work);
+        std::jthread waiting(work);
+        QTimer look;
+        connect(&look, &QTimer::timeout, qApp, [] {
+            if (QApplication::activeModalWidget()) // of the one or of the other
+                QApplication::quit();
+        });
+        look.start(1);
+        QApplication::exec();
+        shown.join();
+        waiting.join();
+        std::jthread(work).join(); // after the end
+        QCOMPARE(stopped.load(), 3);
+        ZEVAlert::setRunner([&](ZEVAlert &) { return 1000; });
+        std::atomic<bool> isAnswered = false;
+        const std::jthread again([&] { // by another loop
+            while (manager.userRequestedRecoveryForFileExistsError(conflict(u"a"_s), true) == 0) { }
+            isAnswered = true;
+        });
+        QTRY_VERIFY(isAnswered);
+        ZEVAlert::setRunner({});
+    }
+};
+
+QTEST_MAIN(tst_ZEVFileManager)
+#include "tst_ZEVFileManager.moc"
