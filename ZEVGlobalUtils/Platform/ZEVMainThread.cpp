@@ -4,11 +4,11 @@
 #include <ZEVGlobalUtils/Platform/ZEVMainThread.h>
 
 #include <QCoreApplication>
-#include <QMutex>
 #include <QThread>
-#include <QWaitCondition>
 
+#include <condition_variable>
 #include <memory>
+#include <mutex>
 #include <vector>
 
 namespace {
@@ -34,33 +34,32 @@ public:
     bool makeAndWait(const std::function<void()> &work)
     {
         const auto call = std::make_shared<Call>(Call{&work});
-        QMutexLocker lock(&m_mutex);
+        std::unique_lock lock(m_mutex);
         if (m_hasEnded || !QCoreApplication::instance())
             return false;
         m_waiting.push_back(call);
         QMetaObject::invokeMethod(
             QCoreApplication::instance(), [this, call] { run(*call); }, Qt::QueuedConnection);
-        while (call->state == Call::Waiting || call->state == Call::Running)
-            m_changed.wait(&m_mutex);
+        m_changed.wait(lock, [&] { return call->state == Call::Done || call->state == Call::Refused; });
         std::erase(m_waiting, call);
         return call->state == Call::Done;
     }
 
     void begin()
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::scoped_lock lock(m_mutex);
         m_hasEnded = false;
     }
 
     void end()
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::scoped_lock lock(m_mutex);
         m_hasEnded = true;
         for (const auto &call : m_waiting) {
             if (call->state == Call::Waiting)
                 call->state = Call::Refused;
         }
-        m_changed.wakeAll();
+        m_changed.notify_all();
     }
 
 private:
@@ -76,16 +75,16 @@ private:
 
     bool pass(Call &call, Call::State from, Call::State to)
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::scoped_lock lock(m_mutex);
         if (call.state != from)
             return false;
         call.state = to;
-        m_changed.wakeAll();
+        m_changed.notify_all();
         return true;
     }
 
-    QMutex m_mutex;
-    QWaitCondition m_changed;
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
     std::vector<std::shared_ptr<Call>> m_waiting;
     bool m_hasEnded = false;
 };
