@@ -56,29 +56,18 @@ inline QByteArray describe(const QByteArray &path)
     return S_ISREG(status.st_mode) ? text + ' ' + QByteArray::number(qHash(read(path))) : text;
 }
 
-/// What is at \a root and below, by path.
+/// What is at \a root and below, by path; only itself where that is no folder.
 inline Contents contents(const QByteArray &root)
 {
+    namespace fs = std::filesystem;
     Contents items{{"", describe(root)}};
-    if (items.first().isEmpty())
-        return {};
-    for (const auto &entry : std::filesystem::recursive_directory_iterator(
-             root.toStdString(), std::filesystem::directory_options::skip_permission_denied)) {
+    if (!fs::is_directory(fs::symlink_status(root.toStdString())))
+        return items;
+    for (const auto &entry : fs::recursive_directory_iterator(root.toStdString())) {
         const QByteArray path = QByteArray::fromStdString(entry.path().native());
         items.insert(path.sliced(root.size()), describe(path));
     }
     return items;
-}
-
-inline bool isFolder(const QByteArray &path)
-{
-    struct stat status { };
-    return lstat(path.constData(), &status) == 0 && S_ISDIR(status.st_mode);
-}
-
-inline Contents contentsOfItem(const QByteArray &path)
-{
-    return isFolder(path) ? contents(path) : Contents{{"", describe(path)}};
 }
 
 inline QByteArrayList names(const QByteArray &folder)

@@ -145,7 +145,7 @@ private Q_SLOTS:
         ZEVFileManager manager;
         manager.setFileExistsRecovery(ZEVFileExistsRecoveryReplace);
         for (const QByteArray &source : {there + "folder/large", there + "folder"}) {
-            const Trees::Contents before = Trees::contentsOfItem(source);
+            const Trees::Contents before = Trees::contents(source);
             for (const char *name : {"new", "item"}) {
                 ZEVError error;
                 QVERIFY(!manager.copyItemAtURL(url(source), url(here + name), &error));
@@ -154,7 +154,7 @@ private Q_SLOTS:
                     QByteArray(1 << 20, 'x'), url(here + name), nullptr, &error));
                 QCOMPARE(ZEVFileErrors::posixCode(error), ENOSPC);
             }
-            QCOMPARE(Trees::contentsOfItem(source), before);
+            QCOMPARE(Trees::contents(source), before);
         }
         QCOMPARE(Trees::names(here).join('|'), "item");
         QCOMPARE(Trees::read(here + "item"), "old");

@@ -222,21 +222,6 @@ private Q_SLOTS:
         QCOMPARE(Trees::contents(path("to/item")), before);
     }
 
-    void lockingTouchesNoFlagButTheUsers()
-    {
-        QVERIFY(Trees::write(path("locked"), {}));
-        if (!ZEVURLFileAccess::setLocked(url("locked"), true)) {
-            QVERIFY(!ZEVURLFileAccess::isLocked(url("locked")));
-            QSKIP("No right to lock files");
-        }
-        QVERIFY(ZEVURLFileAccess::isLocked(url("locked")));
-        QVERIFY(!manager().removeItemAtURL(url("locked")));
-        QVERIFY(ZEVURLFileAccess::setLocked(url("locked"), false)
-                && !ZEVURLFileAccess::isLocked(url("locked")));
-        QVERIFY(manager().removeItemAtURL(url("locked"))
-                && !ZEVURLFileAccess::setLocked(url("locked"), true));
-    }
-
     void titlesHaveAnIconAndAreToldApart()
     {
         using namespace ZEVFileManagerHelpers;

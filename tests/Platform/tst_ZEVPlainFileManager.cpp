@@ -42,8 +42,8 @@ struct Pair {
             QDir().mkpath(QString::fromUtf8(destination));
         if (!old.isEmpty())
             Trees::write(isFolder ? destination + "/old" : destination, old);
-        sourceBefore = Trees::contentsOfItem(source);
-        destinationBefore = Trees::contentsOfItem(destination);
+        sourceBefore = Trees::contents(source);
+        destinationBefore = Trees::contents(destination);
     }
     ~Pair()
     {
@@ -57,20 +57,20 @@ struct Pair {
     }
     bool isAsBefore() const
     {
-        return Trees::contentsOfItem(source) == sourceBefore
-            && Trees::contentsOfItem(destination) == destinationBefore && hasNoTemporaries();
+        return Trees::contents(source) == sourceBefore && Trees::contents(destination) == destinationBefore
+            && hasNoTemporaries();
     }
     bool isDone(bool keepsSource) const
     {
-        return Trees::contentsOfItem(destination) == sourceBefore && hasNoTemporaries()
-            && (keepsSource ? Trees::contentsOfItem(source) == sourceBefore
+        return Trees::contents(destination) == sourceBefore && hasNoTemporaries()
+            && (keepsSource ? Trees::contents(source) == sourceBefore
                             : !QFile::exists(QString::fromUtf8(source)));
     }
     /// A folder of which nothing can be removed any more when half of it has gone. The destination has all of
     /// the new one by then; what is left of a replaced one does not keep the source's name.
     bool isPartlyRemoved(bool wasReplaced) const
     {
-        return Trees::contentsOfItem(destination) == sourceBefore
+        return Trees::contents(destination) == sourceBefore
             && (!wasReplaced || !QFile::exists(QString::fromUtf8(source)));
     }
     bool hasNoTemporaries() const
@@ -151,19 +151,13 @@ private Q_SLOTS:
             const Pair copied(isFolder), moved(isFolder), replaced(isFolder, "old");
             const Pair across(isFolder, {}, m_other.folder.path());
             QVERIFY(copied.run(Copy) && copied.isDone(true));
+            struct stat status { };
+            stat((copied.destination + "/sparse").constData(), &status);
+            QVERIFY(!isFolder || status.st_blocks < 64); // the hole is one
             QVERIFY(moved.run(Move) && moved.isDone(false));
             QVERIFY(replaced.run(Replace) && replaced.isDone(false));
             QVERIFY(m_other.isOther() && across.run(Move) && across.isDone(false));
         }
-    }
-
-    void holesStayHoles()
-    {
-        const Pair pair(true);
-        QVERIFY(pair.run(Copy));
-        struct stat status { };
-        QVERIFY(lstat((pair.destination + "/sparse").constData(), &status) == 0);
-        QVERIFY(status.st_size == Trees::HoleSize && status.st_blocks < 64);
     }
 
     void failuresAreClassified()
@@ -276,14 +270,14 @@ private Q_SLOTS:
             else
                 QVERIFY(QDir().mkpath(QString::fromUtf8(other + "/full/of/folders")));
             QVERIFY(Replace(ZEVFileURL::withPath(pair.source), ZEVFileURL::withPath(other), nullptr));
-            QCOMPARE(Trees::contentsOfItem(other), pair.sourceBefore);
+            QCOMPARE(Trees::contents(other), pair.sourceBefore);
         }
         const Pair linked(false, "old");
         const QByteArray link = linked.destination.chopped(5) + "/link";
         std::filesystem::create_symlink("item", link.toStdString());
         QVERIFY(Replace(ZEVFileURL::withPath(linked.source), ZEVFileURL::withPath(link), nullptr));
-        QCOMPARE(Trees::contentsOfItem(link), linked.sourceBefore); // the link, not what it led to
-        QCOMPARE(Trees::contentsOfItem(linked.destination), linked.destinationBefore);
+        QCOMPARE(Trees::contents(link), linked.sourceBefore); // the link, not what it led to
+        QCOMPARE(Trees::contents(linked.destination), linked.destinationBefore);
     }
 
     void replacedByItselfNothingIsLost()
@@ -302,12 +296,12 @@ private Q_SLOTS:
         const Pair pair(true);
         Manager manager;
         qint64 told = 0;
+        bool wasPrivate = true;
         manager.setProgressHandler([&](qint64 bytes) {
             for (const QByteArray &name : Trees::names(pair.destination.chopped(5))) {
                 struct stat status { };
                 lstat((pair.destination.chopped(4) + name).constData(), &status);
-                if (!name.startsWith(".zev-") || (status.st_mode & 077) != 0)
-                    told = -1000;
+                wasPrivate = wasPrivate && name.startsWith(".zev-") && (status.st_mode & 077) == 0;
             }
             told = std::max(told, bytes);
             return bytes < 10;
@@ -315,7 +309,7 @@ private Q_SLOTS:
         ZEVError error;
         QVERIFY(!manager.copyItemAtURL(ZEVFileURL::withPath(pair.source),
                                        ZEVFileURL::withPath(pair.destination), &error));
-        QVERIFY(told >= 10 && pair.isAsBefore());
+        QVERIFY(told >= 10 && wasPrivate && pair.isAsBefore());
         QCOMPARE(ZEVFileErrors::posixCode(error), ECANCELED);
     }
 
