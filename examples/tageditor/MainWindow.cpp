@@ -3,6 +3,7 @@
 
 #include <tageditor/MainWindow.h>
 
+#include <tageditor/files/FileActions.h>
 #include <tageditor/FindLine.h>
 #include <tageditor/MatchHighlightDelegate.h>
 #include <tageditor/MessageLabel.h>
@@ -72,6 +73,7 @@ MainWindow::MainWindow(QWidget *parent)
     setCentralWidget(content);
     setUpTable();
     m_editing = new TextEditing(&m_model, m_table);
+    m_files = new FileActions(&m_model, m_table);
     m_quickOpen = new QuickOpen(&m_model, this);
     makeMenus();
     setUpStatusBar();
@@ -87,6 +89,8 @@ void MainWindow::makeMenus()
 {
     QMenu *file = menuBar()->addMenu(tr("&File"));
     file->addAction(tr("&Open Folder…"), QKeySequence(u"Ctrl+O"_s), this, &MainWindow::chooseFolder);
+    file->addSeparator();
+    m_files->addActions(file);
     file->addSeparator();
     file->addAction(tr("&Quit"), QKeySequence(u"Ctrl+Q"_s), this, &QWidget::close);
 
@@ -171,6 +175,7 @@ void MainWindow::setUpStatusBar()
     statusBar()->addWidget(m_counts);
     statusBar()->addWidget(m_problem, 1);
     statusBar()->addPermanentWidget(m_progress);
+    statusBar()->addPermanentWidget(m_files->progressView());
     statusBar()->addPermanentWidget(new SizeLabel(&m_model, m_table->selectionModel()));
 }
 
@@ -189,6 +194,7 @@ void MainWindow::watchTexts()
     connect(&m_model, &TrackTableModel::modelReset, this, showModified);
     connect(m_editing, &TextEditing::nothingDone, this,
             [this](const QString &message) { statusBar()->showMessage(message, MessageDuration); });
+    connect(m_files, &FileActions::reported, m_problem, &MessageLabel::showMessage);
     connect(m_quickOpen, &QuickOpen::trackChosen, this, &MainWindow::selectTrack);
 }
 
@@ -313,6 +319,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
         event->ignore();
         return;
     }
+    m_files->cancelAndWait();
     m_reader.cancel();
     ZEVUserDefaults::standardUserDefaults()->setObject(saveGeometry(), GeometryKey);
     QMainWindow::closeEvent(event);

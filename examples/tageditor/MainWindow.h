@@ -12,6 +12,7 @@
 
 #include <functional>
 
+class FileActions;
 class FindLine;
 class MessageLabel;
 class QLabel;
@@ -78,6 +79,7 @@ private:
     FindLine *m_findLine;
     QTableView *m_table;
     TextEditing *m_editing;
+    FileActions *m_files;
     QuickOpen *m_quickOpen;
     QLabel *m_counts;
     MessageLabel *m_problem;

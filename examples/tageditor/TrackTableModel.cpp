@@ -105,6 +105,16 @@ QList<TextChange> TrackTableModel::setTexts(const QList<TextChange> &changes)
     return reverse;
 }
 
+void TrackTableModel::setPath(int trackId, const std::filesystem::path &path)
+{
+    const int row = rowOfTrack(trackId);
+    if (row < 0)
+        return;
+    m_tracks[row].path = path;
+    m_tracks[row].text(TrackField::FileName) = displayedPath(path.filename());
+    Q_EMIT dataChanged(index(row, int(TrackField::FileName)), index(row, int(TrackField::FileName)));
+}
+
 /// The text that stood there before.
 QString TrackTableModel::setText(Track &track, TrackField field, const QString &text)
 {

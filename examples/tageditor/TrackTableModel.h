@@ -42,6 +42,9 @@ public:
     /// the table was sorted by, so that nothing jumps from under its user.
     QList<TextChange> setTexts(const QList<TextChange> &changes);
 
+    /// Where the file of a track is now, and what it is called.
+    void setPath(int trackId, const std::filesystem::path &path);
+
     /// Whether a text differs from what the file holds.
     bool hasChanges() const { return !m_savedTexts.isEmpty(); }
     bool isChanged(int row, TrackField field) const;

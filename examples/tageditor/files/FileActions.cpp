@@ -1,0 +1,178 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <tageditor/files/FileActions.h>
+
+#include <tageditor/files/RenameDialog.h>
+#include <tageditor/TableSelection.h>
+#include <tageditor/TrackTableModel.h>
+
+#include <ZEVGlobalUtils/Platform/ZEVFileURL.h>
+#include <ZEVGlobalUtils/Platform/ZEVOpenPanel.h>
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QProgressBar>
+#include <QTableView>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int Steps = 100;
+
+QList<Track> selectedTracks(const QTableView &table, const TrackTableModel &model)
+{
+    QList<Track> tracks;
+    for (const int row : TableSelection::rows(*table.selectionModel()))
+        tracks.append(model.track(row));
+    return tracks;
+}
+
+QUrl urlOf(const Track &track)
+{
+    return ZEVFileURL::withPath(QByteArray::fromStdString(track.path.native()));
+}
+
+} // namespace
+
+FileActions::FileActions(TrackTableModel *model, QTableView *table)
+    : QObject(table)
+    , m_model(model)
+    , m_table(table)
+    , m_journal(FileJournal::standardPath())
+    , m_batch(m_journal)
+    , m_progressView(makeProgressView())
+{
+    connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &FileActions::updateActions);
+    connect(model, &TrackTableModel::modelReset, this, &FileActions::updateActions);
+    connect(&m_batch, &FileBatch::progressed, this, &FileActions::showProgress);
+    connect(&m_batch, &FileBatch::finished, this, &FileActions::finish);
+}
+
+/// The table is going, too: nobody follows what the batch still does.
+FileActions::~FileActions()
+{
+    disconnect(&m_batch, nullptr, this, nullptr);
+    m_batch.cancelAndWait();
+}
+
+QWidget *FileActions::makeProgressView()
+{
+    auto *view = new QWidget;
+    auto *row = new QHBoxLayout(view);
+    row->setContentsMargins(0, 0, 0, 0);
+    m_progress = new QProgressBar;
+    m_progress->setAccessibleName(tr("Progress of files"));
+    m_progress->setRange(0, Steps);
+    m_progress->setMaximumWidth(m_progress->fontMetrics().averageCharWidth() * 30);
+    auto *cancel = new QToolButton;
+    cancel->setText(tr("Cancel"));
+    connect(cancel, &QToolButton::clicked, &m_batch, &FileBatch::cancel);
+    row->addWidget(m_progress);
+    row->addWidget(cancel);
+    view->hide();
+    return view;
+}
+
+void FileActions::addActions(QMenu *menu)
+{
+    m_forSelection = {
+        menu->addAction(tr("&Rename Files…"), QKeySequence(u"Ctrl+R"_s), this, &FileActions::askForPattern),
+        menu->addAction(tr("&Move to Folder…"), this, [this] { askForFolder(false); }),
+        menu->addAction(tr("&Copy to Folder…"), this, [this] { askForFolder(true); }),
+    };
+    m_undo = menu->addAction(tr("Put Files &Back"), this, &FileActions::undo);
+    updateActions();
+}
+
+void FileActions::updateActions()
+{
+    const bool isIdle = !m_batch.isRunning();
+    const bool isPossible = isIdle && m_table->selectionModel()->hasSelection();
+    for (QAction *action : std::as_const(m_forSelection))
+        action->setEnabled(isPossible);
+    if (m_undo)
+        m_undo->setEnabled(isIdle && !m_journal.isEmpty());
+}
+
+void FileActions::askForPattern()
+{
+    auto *dialog = new RenameDialog(selectedTracks(*m_table, *m_model), m_table->window());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, dialog] { run(dialog->changes()); });
+    dialog->open();
+}
+
+void FileActions::askForFolder(bool isCopy)
+{
+    ZEVOpenPanel panel;
+    panel.title = isCopy ? tr("Copy to Folder") : tr("Move to Folder");
+    panel.prompt = isCopy ? tr("Copy") : tr("Move");
+    if (panel.runModal() != ZEVOpenPanel::OKResponse)
+        return;
+    QList<FileChange> changes;
+    for (const Track &track : selectedTracks(*m_table, *m_model)) {
+        const QUrl source = urlOf(track);
+        const QUrl target =
+            ZEVFileURL::byAppendingPathComponent(panel.URL, ZEVFileURL::lastPathComponent(source));
+        changes.append({source, target, {}, isCopy, track.id});
+    }
+    run(changes);
+}
+
+void FileActions::run(const QList<FileChange> &changes)
+{
+    m_batch.run(changes);
+    updateActions();
+}
+
+void FileActions::undo()
+{
+    m_batch.undo();
+    updateActions();
+}
+
+void FileActions::showProgress(double fraction, const QString &name)
+{
+    m_progressView->show();
+    m_progress->setValue(qRound(fraction * Steps));
+    m_progress->setToolTip(Qt::convertFromPlainText(name));
+}
+
+void FileActions::finish(const FileBatch::Result &result)
+{
+    m_progressView->hide();
+    followFiles(result);
+    updateActions();
+    QString text = tr("%L1 files done").arg(result.done.size());
+    if (result.skipped > 0)
+        text += tr(", %L1 skipped").arg(result.skipped);
+    if (result.isStopped)
+        text += tr(", stopped");
+    if (!result.errors.isEmpty())
+        text = tr("%1, %L2 failed: %3")
+                   .arg(text)
+                   .arg(result.errors.size())
+                   .arg(result.errors.first().localizedDescription());
+    Q_EMIT reported(text, !result.errors.isEmpty());
+}
+
+/// A track stays the same wherever its file goes; of a copy the table knows nothing.
+void FileActions::followFiles(const FileBatch::Result &result)
+{
+    QHash<QByteArray, int> ids;
+    for (int row = 0; row < m_model->rowCount(); ++row)
+        ids.insert(QByteArray::fromStdString(m_model->track(row).path.native()), m_model->track(row).id);
+    for (const FileChange &change : result.done) {
+        const int id = ids.value(ZEVFileURL::path(change.source), -1);
+        if (change.isCopy || id < 0)
+            continue;
+        m_model->setPath(id, ZEVFileURL::path(change.destination).toStdString());
+        ids.remove(ZEVFileURL::path(change.source));
+        ids.insert(ZEVFileURL::path(change.destination), id);
+    }
+}

@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <tageditor/files/FileBatch.h>
+
+#include <QList>
+
+class QAction;
+class QMenu;
+class QProgressBar;
+class QTableView;
+class TrackTableModel;
+
+/// Lets the user rename the selected files, bring them to another folder, and take that back.
+class FileActions : public QObject {
+    Q_OBJECT
+
+public:
+    FileActions(TrackTableModel *model, QTableView *table);
+    ~FileActions() override;
+
+    void addActions(QMenu *menu);
+
+    /// How far the batch is, with a way to cancel it; hidden while there is none.
+    QWidget *progressView() const { return m_progressView; }
+
+    /// The file at hand is finished or brought back.
+    void cancelAndWait() { m_batch.cancelAndWait(); }
+
+Q_SIGNALS:
+    /// What was done, in one line; \a isProblem when something was not.
+    void reported(const QString &message, bool isProblem);
+
+private:
+    QWidget *makeProgressView();
+    void updateActions();
+    void askForPattern();
+    void askForFolder(bool isCopy);
+    void run(const QList<FileChange> &changes);
+    void undo();
+    void showProgress(double fraction, const QString &name);
+    void finish(const FileBatch::Result &result);
+    void followFiles(const FileBatch::Result &result);
+
+    TrackTableModel *m_model;
+    QTableView *m_table;
+    FileJournal m_journal;
+    FileBatch m_batch;
+    QProgressBar *m_progress = nullptr;
+    QWidget *m_progressView;
+    QList<QAction *> m_forSelection;
+    QAction *m_undo = nullptr;
+};

@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <tageditor/files/RenameDialog.h>
+
+#include <tageditor/files/FileNamePattern.h>
+
+#include <ZEVGlobalUtils/Platform/ZEVUserDefaults.h>
+
+#include <QDialogButtonBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QTableView>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString PatternKey = u"RenamePattern"_s;
+
+} // namespace
+
+RenameDialog::RenameDialog(const QList<Track> &tracks, QWidget *parent)
+    : QDialog(parent)
+    , m_model(tracks)
+    , m_pattern(new QLineEdit)
+    , m_count(new QLabel)
+    , m_rename(new QPushButton(tr("&Rename")))
+{
+    setWindowTitle(tr("Rename Files"));
+    layOut();
+    connect(m_pattern, &QLineEdit::textChanged, this, &RenameDialog::updatePreview);
+    const QString last = ZEVUserDefaults::standardUserDefaults()->objectForKey(PatternKey).toString();
+    m_pattern->setText(last.isEmpty() ? u"%track% - %title%"_s : last);
+    m_pattern->selectAll();
+}
+
+void RenameDialog::layOut()
+{
+    auto *label = new QLabel(tr("&Pattern:"));
+    label->setBuddy(m_pattern);
+    auto *choices = new QHBoxLayout;
+    choices->addWidget(label);
+    choices->addWidget(m_pattern, 1);
+    choices->addWidget(makePlaceholderButton());
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
+    buttons->addButton(m_rename, QDialogButtonBox::AcceptRole);
+    connect(buttons, &QDialogButtonBox::accepted, this, &RenameDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &RenameDialog::reject);
+    m_count->setWordWrap(true);
+
+    auto *rows = new QVBoxLayout(this);
+    rows->addLayout(choices);
+    rows->addWidget(makePreview(), 1);
+    rows->addWidget(m_count);
+    rows->addWidget(buttons);
+    m_rename->setDefault(true);
+    resize(fontMetrics().averageCharWidth() * 110, fontMetrics().height() * 28);
+}
+
+QWidget *RenameDialog::makePreview()
+{
+    auto *table = new QTableView;
+    table->setAccessibleName(tr("Preview"));
+    table->setModel(&m_model);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setAlternatingRowColors(true);
+    table->setShowGrid(false);
+    table->setWordWrap(false);
+    table->setTabKeyNavigation(false); // so that Tab leaves the table
+    table->verticalHeader()->hide();
+    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() * 3 / 2);
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    table->horizontalHeader()->setHighlightSections(false);
+    return table;
+}
+
+/// For those who do not know them by heart.
+QWidget *RenameDialog::makePlaceholderButton()
+{
+    auto *menu = new QMenu(this);
+    for (const QString &placeholder : FileNamePattern::placeholders())
+        menu->addAction(placeholder, this, [this, placeholder] { m_pattern->insert(placeholder); });
+    auto *button = new QToolButton;
+    button->setText(tr("&Insert"));
+    button->setToolTip(tr("Insert a placeholder for a tag"));
+    button->setPopupMode(QToolButton::InstantPopup);
+    button->setMenu(menu);
+    return button;
+}
+
+void RenameDialog::updatePreview()
+{
+    m_model.setPattern(m_pattern->text());
+    const qsizetype count = m_model.changes().size();
+    QString text = tr("%L1 of %L2 files will be renamed").arg(count).arg(m_model.rowCount());
+    if (m_model.numberOfConflicts() > 0)
+        text += tr("; %L1 names are taken").arg(m_model.numberOfConflicts());
+    m_count->setText(text);
+    m_rename->setEnabled(count > 0);
+}
+
+void RenameDialog::accept()
+{
+    if (!m_rename->isEnabled())
+        return;
+    ZEVUserDefaults::standardUserDefaults()->setObject(m_pattern->text(), PatternKey);
+    QDialog::accept();
+}

@@ -1,0 +1,112 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <tageditor/files/RenamePreviewModel.h>
+
+#include <tageditor/files/FileNamePattern.h>
+
+#include <ZEVGlobalUtils/Platform/ZEVFileURL.h>
+
+#include <QFont>
+#include <QSet>
+
+namespace {
+
+std::string newPath(const Track &track, const QByteArray &name)
+{
+    return (track.path.parent_path() / name.toStdString()).native();
+}
+
+QUrl urlOf(const std::string &path) { return ZEVFileURL::withPath(QByteArray::fromStdString(path)); }
+
+} // namespace
+
+RenamePreviewModel::RenamePreviewModel(const QList<Track> &tracks, QObject *parent)
+    : QAbstractTableModel(parent)
+{
+    for (const Track &track : tracks)
+        m_rows.push_back({track, {}});
+}
+
+void RenamePreviewModel::setPattern(const QString &pattern)
+{
+    for (Row &row : m_rows) {
+        row.name = FileNamePattern::fileName(pattern, row.track);
+        if (row.name.isEmpty()) // the tags say nothing: it keeps its name
+            row.name = QByteArray::fromStdString(row.track.path.filename().native());
+    }
+    findConflicts();
+    if (!m_rows.empty())
+        Q_EMIT dataChanged(index(0, After), index(rowCount() - 1, After));
+}
+
+void RenamePreviewModel::findConflicts()
+{
+    std::unordered_map<std::string, int> wanted;
+    std::unordered_map<std::string, int> given;
+    for (const Row &row : m_rows) {
+        ++wanted[newPath(row.track, row.name)];
+        ++given[row.track.path.native()];
+    }
+    m_numberOfConflicts = 0;
+    for (Row &row : m_rows) {
+        const std::string path = newPath(row.track, row.name);
+        std::error_code ignored;
+        const bool isForeign =
+            !given.contains(path) && std::filesystem::exists(std::filesystem::symlink_status(path, ignored));
+        row.isTaken = wanted[path] > 1 || isForeign;
+        m_numberOfConflicts += row.isTaken;
+    }
+}
+
+QList<FileChange> RenamePreviewModel::changes() const
+{
+    QList<FileChange> changes;
+    for (const Row &row : m_rows) {
+        const std::string path = newPath(row.track, row.name);
+        if (path != row.track.path.native())
+            changes.append({urlOf(row.track.path.native()), urlOf(path), {}, false, row.track.id});
+    }
+    return changes;
+}
+
+int RenamePreviewModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(m_rows.size());
+}
+
+int RenamePreviewModel::columnCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : 2; }
+
+QVariant RenamePreviewModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const Row &row = m_rows.at(size_t(index.row()));
+    const bool marksConflict = index.column() == After && row.isTaken;
+    switch (role) {
+    case Qt::DisplayRole:
+        return index.column() == Before ? displayedPath(row.track.path.filename())
+                                        : QString::fromUtf8(row.name);
+    case Qt::FontRole: {
+        QFont font;
+        font.setItalic(true);
+        return marksConflict ? font : QVariant();
+    }
+    case Qt::ToolTipRole:
+    case Qt::AccessibleDescriptionRole:
+        return marksConflict ? tr("This name is taken; you will be asked what to do.") : QVariant();
+    default:
+        return {};
+    }
+}
+
+QVariant RenamePreviewModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal)
+        return QAbstractTableModel::headerData(section, orientation, role);
+    if (role == Qt::TextAlignmentRole)
+        return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+    if (role != Qt::DisplayRole)
+        return {};
+    return section == Before ? tr("Before") : tr("After");
+}

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <tageditor/files/FileJournal.h>
+#include <tageditor/Track.h>
+
+#include <QAbstractTableModel>
+
+#include <vector>
+
+/// What a pattern makes of files' names: a row for each file.
+class RenamePreviewModel : public QAbstractTableModel {
+    Q_OBJECT
+
+public:
+    enum Column { Before, After };
+
+    explicit RenamePreviewModel(const QList<Track> &tracks, QObject *parent = nullptr);
+
+    void setPattern(const QString &pattern);
+
+    /// Of the files that get another name.
+    QList<FileChange> changes() const;
+
+    /// Names that two files would get, or that another file has and keeps: the user will be asked.
+    int numberOfConflicts() const { return m_numberOfConflicts; }
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    struct Row {
+        Track track;
+        QByteArray name; ///< the new one
+        bool isTaken = false;
+    };
+
+    void findConflicts();
+
+    std::vector<Row> m_rows;
+    int m_numberOfConflicts = 0;
+};

@@ -1,0 +1,216 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include "../Rows.h"
+#include "../Trees.h"
+#include "Shown.h"
+
+#include <tageditor/files/FileActions.h>
+#include <tageditor/files/FileNamePattern.h>
+#include <tageditor/files/RenameDialog.h>
+
+#include <ZEVGlobalUtils/Platform/ZEVAlert.h>
+#include <ZEVGlobalUtils/Platform/ZEVOpenPanel.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A folder, and batches in it by the names of the files.
+struct Batches {
+    Batches()
+        : journal(folder.filePath(u"journal"_s))
+        , batch(journal)
+    {
+        QDir(folder.path()).mkdir(u"f"_s);
+        QObject::connect(&batch, &FileBatch::finished,
+                         [this](const FileBatch::Result &finished) { result = finished; });
+    }
+
+    QByteArray path(const QByteArray &name) const { return folder.path().toUtf8() + "/f/" + name; }
+    QByteArray contents() const
+    {
+        QByteArrayList items;
+        for (const QByteArray &name : Trees::names(folder.path().toUtf8() + "/f"))
+            items.append(name + '=' + Trees::read(path(name)));
+        return items.join(' ');
+    }
+    bool run(const QList<std::pair<QByteArray, QByteArray>> &names, bool isCopy = false)
+    {
+        QList<FileChange> changes;
+        for (const auto &[from, to] : names)
+            changes.append(
+                {ZEVFileURL::withPath(path(from)), ZEVFileURL::withPath(path(to)), {}, isCopy, -1});
+        batch.run(changes);
+        return QTest::qWaitFor([this] { return !batch.isRunning(); });
+    }
+    bool undo()
+    {
+        batch.undo();
+        return QTest::qWaitFor([this] { return !batch.isRunning(); });
+    }
+
+    QTemporaryDir folder;
+    FileJournal journal;
+    FileBatch batch;
+    FileBatch::Result result;
+};
+
+struct Answer {
+    explicit Answer(int button)
+    {
+        ZEVAlert::setRunner([=](ZEVAlert &) { return 1000 + button; });
+    }
+    ~Answer() { ZEVAlert::setRunner({}); }
+};
+
+} // namespace
+
+class tst_FileActions : public QObject {
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_home;
+
+private Q_SLOTS:
+    void initTestCase() { qputenv("XDG_DATA_HOME", m_home.path().toUtf8()); } // of the trash and the journal
+    void init() { useStoreIn(m_home); }
+
+    void namesAreMadeOfTags()
+    {
+        const QString usual = u"%track% - %title%"_s;
+        const std::tuple<QString, QString, QString, QByteArray> rows[] = {
+            {usual, u"7/12"_s, u"Été"_s, "07 - Été.mp3"},
+            {usual, u"101"_s, u"AC/DC"_s, "101 - AC-DC.mp3"},
+            {usual, {}, u"-x-"_s, "x.mp3"},
+            {usual, u"7"_s, {}, "07.mp3"},
+            {usual, {}, {}, ""},
+            {u"%title%"_s, {}, u"..."_s, "_...mp3"},
+            {u"%title%"_s, {}, u" a\nb  c "_s, "a b c.mp3"},
+            {u"%title%"_s, {}, u"%track%"_s, "%track%.mp3"},
+            {u"100%% %nothing% %"_s, {}, {}, "100% %nothing% %.mp3"},
+            {u"a/%title%"_s, {}, u"x"_s, "a-x.mp3"},
+            {u"%title%"_s, {}, QString(130, u'\u00E9'), QByteArray("\u00E9").repeated(125) + ".mp3"},
+        };
+        for (const auto &[pattern, number, title, name] : rows) {
+            Track track = Samples::track({{}, title, {}, {}, {}, number});
+            track.path = "/x/old.mp3";
+            COMPARE_ROW(pattern + title, FileNamePattern::fileName(pattern, track), name);
+        }
+    }
+
+    void filesAreRenamedByAPatternAndBack()
+    {
+        const QTemporaryDir folder;
+        QVERIFY(Samples::copy(u"Maree/04 Ete.mp3"_s, folder.filePath(u"x.mp3"_s)));
+        QVERIFY(Samples::copy(u"Maree/05 Fenetre.flac"_s, folder.filePath(u"y.flac"_s)));
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(folder.path()));
+        QVERIFY(!shown.action(u"Rename"_s)->isEnabled() && !shown.action(u"Put Files"_s)->isEnabled());
+        shown.select(0, TrackField::Title);
+        shown.select(1, TrackField::Title);
+        shown.action(u"Rename"_s)->trigger();
+        auto *dialog = shown.window.findChild<RenameDialog *>();
+        QVERIFY(QTest::qWaitForWindowExposed(dialog));
+        const QAbstractItemModel *preview = dialog->findChild<QTableView *>()->model();
+        const QString after = preview->index(0, 1).data().toString();
+        QVERIFY(after.endsWith(u" - Été à la plage.mp3"));
+        auto *line = dialog->findChild<QLineEdit *>();
+        line->setText(u"same"_s);
+        QCOMPARE(preview->index(1, 1).data().toString(), u"same.flac"_s);
+        line->setText(u"%track% - %title%"_s);
+        QTest::keyClick(dialog, Qt::Key_Return);
+        QTRY_COMPARE(shown.text(0, TrackField::FileName), after);
+        QVERIFY(QFile::exists(folder.filePath(after)) && !QFile::exists(folder.filePath(u"x.mp3"_s)));
+        QTRY_VERIFY(shown.action(u"Put Files"_s)->isEnabled());
+        shown.action(u"Put Files"_s)->trigger();
+        QTRY_COMPARE(shown.text(0, TrackField::FileName), u"x.mp3"_s);
+        QCOMPARE(Trees::names(folder.path().toUtf8()).join('|'), "x.mp3|y.flac");
+        QTRY_VERIFY(!shown.action(u"Put Files"_s)->isEnabled());
+        QVERIFY(!shown.window.isWindowModified());
+    }
+
+    void filesThatExchangeTheirNamesLoseNone()
+    {
+        Batches files;
+        for (const char *name : {"a", "b", "c", "d"})
+            QVERIFY(Trees::write(files.path(name), name));
+        QVERIFY(files.run({{"a", "b"}, {"b", "a"}, {"c", "d"}, {"d", "e"}}));
+        QCOMPARE(files.contents(), "a=b b=a d=c e=d");
+        QVERIFY(files.result.errors.isEmpty() && files.undo());
+        QCOMPARE(files.contents(), "a=a b=b c=c d=d");
+    }
+
+    void conflictsAreAskedAboutAndUndone()
+    {
+        const std::tuple<int, bool, QByteArray> rows[] = {
+            {0, false, "b=old b 2.=new"},      {1, false, "b=new"},
+            {2, false, "a=new b=old"},         {3, false, "a=new b=old"},
+            {0, true, "a=new b=old b 2.=new"}, {1, true, "a=new b=new"},
+        };
+        for (const auto &[button, isCopy, expected] : rows) {
+            const Answer answer(button);
+            Batches files;
+            QVERIFY(Trees::write(files.path("a"), "new") && Trees::write(files.path("b"), "old"));
+            QVERIFY(files.run({{"a", "b"}}, isCopy));
+            COMPARE_ROW(button, files.contents(), expected);
+            COMPARE_ROW(button, files.result.isStopped, button == 3);
+            COMPARE_ROW(button, files.result.skipped, button == 2 ? 1 : 0);
+            const FileJournal reopened(files.folder.filePath(u"journal"_s));
+            COMPARE_ROW(button, reopened.changes().size(), button < 2 ? 1 : 0);
+            QVERIFY(files.undo() && files.journal.isEmpty());
+            COMPARE_ROW(button, files.contents(), QByteArray("a=new b=old"));
+        }
+    }
+
+    void whatCannotBeTakenBackStaysInTheJournal()
+    {
+        Batches files;
+        QVERIFY(Trees::write(files.path("a"), "a") && files.run({{"a", "b"}}));
+        QVERIFY(Trees::write(files.path("a"), "another"));
+        QVERIFY(files.undo());
+        QCOMPARE(files.contents(), "a=another b=a");
+        QCOMPARE(files.result.errors.size(), 1);
+        QFile(files.folder.filePath(u"journal"_s)).open(QFile::Append); // as a crash leaves it
+        QVERIFY(QFile::remove(QString::fromUtf8(files.path("a"))) && files.undo());
+        QCOMPARE(files.contents(), "a=a");
+    }
+
+    void aCancelledCopyLeavesNothing()
+    {
+        Batches files;
+        QVERIFY(Trees::write(files.path("a"), "a")
+                && Trees::write(files.path("b"), QByteArray(64 << 20, 'x')));
+        connect(&files.batch, &FileBatch::progressed, &files.batch, [&](double, const QString &name) {
+            if (name == u"b")
+                files.batch.cancel();
+        });
+        QVERIFY(files.run({{"a", "c"}, {"b", "d"}}, true));
+        QVERIFY(files.result.isStopped && files.result.errors.isEmpty());
+        QCOMPARE(Trees::names(files.path("").chopped(1)).join('|'), "a|b|c");
+    }
+
+    void theTableFollowsAFileToItsFolder()
+    {
+        const QTemporaryDir folder, target;
+        QVERIFY(Samples::copy(u"Interlude.ogg"_s, folder.filePath(u"a.ogg"_s)));
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(folder.path()));
+        shown.select(0, TrackField::Title);
+        ZEVOpenPanel::setRunner([&](ZEVOpenPanel &panel) {
+            panel.URL = Trees::url(target.path());
+            return ZEVOpenPanel::OKResponse;
+        });
+        shown.action(u"Copy to"_s)->trigger();
+        QTRY_VERIFY(QFile::exists(target.filePath(u"a.ogg"_s)) && shown.action(u"Move to"_s)->isEnabled());
+        QCOMPARE(shown.window.tracks().track(0).path.native(), folder.filePath(u"a.ogg"_s).toStdString());
+        const Answer replace(1);
+        shown.action(u"Move to"_s)->trigger();
+        QTRY_COMPARE(shown.window.tracks().track(0).path.native(), target.filePath(u"a.ogg"_s).toStdString());
+        ZEVOpenPanel::setRunner({});
+        QVERIFY(!QFile::exists(folder.filePath(u"a.ogg"_s)) && QFile::exists(target.filePath(u"a.ogg"_s)));
+    }
+};
+
+QTEST_MAIN(tst_FileActions)
+#include "tst_FileActions.moc"
