@@ -15,8 +15,7 @@ using namespace Qt::StringLiterals;
 QList<GalleryPage> galleryPages()
 {
     return {
-        {u"Find interfaces"_s, &findInterfacesPage}, {u"Token fields"_s, &tokenFieldsPage},
-        {u"Menu items"_s, &menuItemsPage},           {u"Layout"_s, &layoutPage},
+        {u"Find interfaces"_s, &findInterfacesPage},
         {u"Token fields"_s, &tokenFieldsPage},
         {u"Menu items"_s, &menuItemsPage},
         {u"Layout"_s, &layoutPage},
