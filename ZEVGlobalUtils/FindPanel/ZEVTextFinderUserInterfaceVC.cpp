@@ -60,7 +60,15 @@ ZEVTextFinderUserInterfaceVC::ZEVTextFinderUserInterfaceVC(const QString &nibNam
 {
 }
 
-ZEVTextFinderUserInterfaceVC::~ZEVTextFinderUserInterfaceVC() { delete m_view; }
+/// Where the view itself owns the controller, it is going already.
+ZEVTextFinderUserInterfaceVC::~ZEVTextFinderUserInterfaceVC()
+{
+    const QObject *owner = parent();
+    while (owner && owner != m_view)
+        owner = owner->parent();
+    if (!owner)
+        delete m_view;
+}
 
 QWidget *ZEVTextFinderUserInterfaceVC::view()
 {

@@ -31,7 +31,7 @@ public:
     explicit ZEVTextFinderUserInterfaceVC(const QString &nibName, QObject *parent = nullptr);
     ~ZEVTextFinderUserInterfaceVC() override;
 
-    /// The controller owns it as long as nobody else takes it in.
+    /// Goes with the controller, whoever has taken it in; it may own the controller in turn.
     QWidget *view() override;
 
     ZEVTextFinderUserInterfaceDelegate *delegate() const { return m_delegate.get(); }

@@ -508,6 +508,9 @@ private Q_SLOTS:
         window->bar().focusFieldForAction(1);
         window->bar().performSearch();
         QVERIFY(!window->bar().hasFocus());
+        auto *owned = new ZEVTextFinderViewController;
+        std::unique_ptr<QWidget> view(owned->view());
+        owned->setParent(view.get());
     }
 
 private:
