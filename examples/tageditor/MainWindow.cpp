@@ -10,6 +10,7 @@
 #include <tageditor/QuickOpen.h>
 #include <tageditor/SizeLabel.h>
 #include <tageditor/TextEditing.h>
+#include <tageditor/TrackSaving.h>
 
 #include <ZEVGlobalUtils/Platform/ZEVUserDefaults.h>
 
@@ -89,6 +90,7 @@ void MainWindow::makeMenus()
 {
     QMenu *file = menuBar()->addMenu(tr("&File"));
     file->addAction(tr("&Open Folder…"), QKeySequence(u"Ctrl+O"_s), this, &MainWindow::chooseFolder);
+    file->addAction(tr("&Save"), QKeySequence(u"Ctrl+S"_s), this, &MainWindow::save);
     file->addSeparator();
     m_files->addActions(file);
     file->addSeparator();
@@ -222,12 +224,15 @@ void MainWindow::chooseFolder()
 
 bool MainWindow::askToDiscard()
 {
-    QMessageBox question(QMessageBox::Warning, tr("Discard Changes"), tr("Discard changes?"),
-                         QMessageBox::Discard | QMessageBox::Cancel, this);
-    question.setInformativeText(tr("Texts were changed and not saved. They will be lost."));
-    question.setDefaultButton(QMessageBox::Cancel);
-    return question.exec() == QMessageBox::Discard;
+    QMessageBox question(QMessageBox::Warning, tr("Save Changes"), tr("Save the changes?"),
+                         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
+    question.setInformativeText(tr("Texts were changed. They will be lost if they are not saved."));
+    question.setDefaultButton(QMessageBox::Save);
+    const int answer = question.exec();
+    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save());
 }
+
+bool MainWindow::save() { return TrackSaving::save(&m_model, this); }
 
 /// The whole row, with the cursor in the title.
 void MainWindow::selectTrack(int trackId)

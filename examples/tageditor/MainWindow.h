@@ -32,6 +32,9 @@ public:
     /// Asks first where changed texts would be lost; the folder stays if the user wants to keep them.
     void openFolder(const QString &folder);
 
+    /// Writes the changed texts into their files; false when some are left.
+    bool save();
+
     /// What asks whether changed texts may be lost, and says so: a question in a dialog at first.
     void setDiscardQuestion(std::function<bool()> question) { m_mayDiscard = std::move(question); }
 

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QHash>
 #include <QList>
 #include <QString>
 
@@ -13,6 +14,8 @@
 enum class TrackField : int { FileName, Title, Artist, Album, Year, Number, Genre, Comment };
 
 inline constexpr int TrackFieldCount = 8;
+
+inline size_t qHash(TrackField field, size_t seed = 0) { return ::qHash(int(field), seed); }
 
 /// One audio file as it was read, and as its texts were changed since.
 struct Track {

@@ -133,6 +133,34 @@ bool TrackTableModel::isChanged(int row, TrackField field) const
     return m_savedTexts.contains({track(row).id, int(field)});
 }
 
+QList<int> TrackTableModel::changedTracks() const
+{
+    QList<int> ids;
+    for (auto cell = m_savedTexts.keyBegin(); cell != m_savedTexts.keyEnd(); ++cell)
+        ids.append(cell->first);
+    std::ranges::sort(ids, {}, [this](int id) { return rowOfTrack(id); });
+    ids.erase(std::unique(ids.begin(), ids.end()), ids.end());
+    return ids;
+}
+
+QHash<TrackField, QString> TrackTableModel::changedTexts(int trackId) const
+{
+    QHash<TrackField, QString> texts;
+    for (int field = 0; field < TrackFieldCount; ++field) {
+        if (m_savedTexts.contains({trackId, field}))
+            texts.insert(TrackField(field), track(rowOfTrack(trackId)).text(TrackField(field)));
+    }
+    return texts;
+}
+
+void TrackTableModel::setSaved(int trackId)
+{
+    const int row = rowOfTrack(trackId);
+    m_savedTexts.removeIf([trackId](const auto &cell) { return cell.key().first == trackId; });
+    if (row >= 0)
+        Q_EMIT dataChanged(index(row, 0), index(row, TrackFieldCount - 1), {Qt::FontRole});
+}
+
 QString TrackTableModel::titleForField(TrackField field)
 {
     switch (field) {

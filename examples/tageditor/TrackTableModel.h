@@ -49,6 +49,13 @@ public:
     bool hasChanges() const { return !m_savedTexts.isEmpty(); }
     bool isChanged(int row, TrackField field) const;
 
+    /// The ids of the tracks with changed texts, in the order of the rows; and those texts.
+    QList<int> changedTracks() const;
+    QHash<TrackField, QString> changedTexts(int trackId) const;
+
+    /// The file holds the texts of the track now.
+    void setSaved(int trackId);
+
     void append(const QList<Track> &tracks);
     void clear();
 
