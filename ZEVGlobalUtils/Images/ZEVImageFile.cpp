@@ -41,19 +41,6 @@ ZEVError ZEVImageFile::writeError(qint64 code, const QString &path, const QStrin
             {{ZEVError::LocalizedDescriptionKey.toString(), text.arg(QFileInfo(path).fileName(), reason)}}};
 }
 
-std::optional<ZEVError> ZEVImageFile::writeWithoutOverwriting(const QByteArray &data, const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QFile::WriteOnly | QFile::NewOnly)) {
-        const bool exists = QFileInfo::exists(path) || QFileInfo(path).isSymLink();
-        return writeError(exists ? WriteFileExistsError : codeOf(file, path), path, file.errorString());
-    }
-    if (file.write(data) == data.size() && file.flush())
-        return std::nullopt;
-    file.remove(); // half a picture is worse than none
-    return writeError(WriteUnknownError, path, file.errorString());
-}
-
 std::optional<ZEVError> ZEVImageFile::writeAtomically(const QByteArray &data, const QString &path)
 {
     QSaveFile file(path);

@@ -19,7 +19,6 @@ inline constexpr qint64 WriteFileExistsError = 516;
 /// MB, the limit of an ID3v2 frame).
 QByteArray read(const QString &path);
 
-std::optional<ZEVError> writeWithoutOverwriting(const QByteArray &data, const QString &path);
 std::optional<ZEVError> writeAtomically(const QByteArray &data, const QString &path);
 
 /// An error with the text that the user gets to read.

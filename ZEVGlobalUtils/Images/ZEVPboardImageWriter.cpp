@@ -3,48 +3,23 @@
 
 #include <ZEVGlobalUtils/Images/ZEVPboardImageWriter.h>
 
+#include <ZEVGlobalUtils/Files/ZEVErrorFileErrorHelpers.h>
+#include <ZEVGlobalUtils/Files/ZEVURLFileOperationAttempter.h>
 #include <ZEVGlobalUtils/Images/ZEVDataBitmapData.h>
-#include <ZEVGlobalUtils/Images/ZEVImageFile_p.h>
 #include <ZEVGlobalUtils/Images/ZEVImageIdentification.h>
+#include <ZEVGlobalUtils/Platform/ZEVError.h>
 #include <ZEVGlobalUtils/Platform/ZEVErrorPresentation.h>
+#include <ZEVGlobalUtils/Platform/ZEVFileName.h>
+#include <ZEVGlobalUtils/Platform/ZEVFileURL.h>
 #include <ZEVGlobalUtils/Platform/ZEVPasteboard.h>
+#include <ZEVGlobalUtils/Platform/ZEVPlainFileManager.h>
 #include <ZEVGlobalUtils/Platform/ZEVUniformType.h>
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// What stands behind the last dot, unless it is more of the title ("Mr. Blue"), or all of the name.
-bool hasExtension(const QString &name)
-{
-    const QString suffix = QFileInfo(name).suffix();
-    return !suffix.isEmpty() && !suffix.contains(u' ') && !QFileInfo(name).completeBaseName().isEmpty();
-}
-
-/// Kept: the dot is written even where there is no extension.
-QString numberedPath(const QString &path, int number)
-{
-    const QFileInfo file(path);
-    const QString name = file.completeBaseName() + u' ' + QString::number(number) + u'.' + file.suffix();
-    return QDir(file.path()).filePath(name);
-}
-
-/// Takes the first free name of those from 2 to 999; \a path becomes that of the file.
-std::optional<ZEVError> writeUnderFreeName(const QByteArray &data, QString &path)
-{
-    const QString wanted = path;
-    auto error = ZEVImageFile::writeWithoutOverwriting(data, path);
-    for (int number = 2; number <= 999 && error && error->code() == ZEVImageFile::WriteFileExistsError;
-         ++number) {
-        path = numberedPath(wanted, number);
-        error = ZEVImageFile::writeWithoutOverwriting(data, path);
-    }
-    return error;
-}
 
 void presentLater(const ZEVError &error)
 {
@@ -89,7 +64,7 @@ QString ZEVPboardImageWriter::promisedFileName() const { return withExtension(m_
 
 QString ZEVPboardImageWriter::withExtension(const QString &name) const
 {
-    if (hasExtension(name) || m_bitmapData.isNull())
+    if (!ZEVFileName(name.toUtf8()).extension.isEmpty() || m_bitmapData.isNull())
         return name;
     const auto extension = ZEVDataBitmapData::bitmapDataImageFileExtention(m_bitmapData);
     return extension ? name + u'.' + *extension : name;
@@ -101,10 +76,16 @@ QByteArray ZEVPboardImageWriter::writePromisedFile() const
     if (!location)
         return {};
     const QString name = location->fileName.isEmpty() ? promisedFileName() : location->fileName;
-    QString path = QDir(location->folder.toLocalFile()).filePath(name);
-    if (const auto error = writeUnderFreeName(m_bitmapData, path)) {
-        presentLater(*error);
-        return {};
-    }
-    return QUrl::fromLocalFile(path).toEncoded();
+    const QUrl target = ZEVFileURL::byAppendingPathComponent(location->folder, name.toUtf8());
+    const auto write = [this](const QUrl &, const QUrl &candidate, ZEVError *error) {
+        return ZEVPlainFileManager::defaultManager()->createFileAtURL(candidate, m_bitmapData, error);
+    };
+    ZEVError error;
+    QUrl written = target;
+    if (write(target, target, &error)
+        || (ZEVErrorFileErrorHelpers::ZEV_isFileWriteFileExistsError(error)
+            && ZEVURLFileOperationAttempter::attemptFWFERecoveryWithError(target, &written, write, &error)))
+        return written.toEncoded();
+    presentLater(error);
+    return {};
 }
