@@ -272,6 +272,17 @@ QPointF OEXTokenField::textOrigin() const
     return line - QPointF(horizontalScrollBar()->value(), 0);
 }
 
+/// The line also holds what an input method is composing, which is not in the text yet: -1 stands for that.
+qsizetype OEXTokenField::storageIndexOfLayoutIndex(qsizetype index) const
+{
+    const QTextLayout *layout = document()->firstBlock().layout();
+    const qsizetype start = layout->preeditAreaPosition();
+    const qsizetype length = layout->preeditAreaText().size();
+    if (length == 0 || index < start)
+        return index;
+    return index < start + length ? -1 : index - length;
+}
+
 /// Only what lies in \a area is looked at: a pattern may be as long as a book.
 void OEXTokenField::drawTokens(QPainter *painter, const QRect &area)
 {
@@ -285,7 +296,8 @@ void OEXTokenField::drawTokens(QPainter *painter, const QRect &area)
         std::minmax(line.xToCursor(area.left() - origin.x(), QTextLine::CursorOnCharacter),
                     line.xToCursor(area.right() - origin.x()));
     for (int index = first; index <= last; ++index) {
-        const ZEVTextAttachmentPointer attachment = textStorage()->attachmentAtIndex(index);
+        const qsizetype storageIndex = storageIndexOfLayoutIndex(index);
+        const ZEVTextAttachmentPointer attachment = textStorage()->attachmentAtIndex(storageIndex);
         ZEVTextAttachmentCell *cell = attachment ? attachment->attachmentCell() : nullptr;
         if (!cell)
             continue;
@@ -293,7 +305,7 @@ void OEXTokenField::drawTokens(QPainter *painter, const QRect &area)
         const qreal left = qMin(line.cursorToX(index), line.cursorToX(index + 1));
         QRectF frame({origin.x() + left + offset.x(), 0}, cell->cellSize());
         frame.moveBottom(baseline - offset.y());
-        cell->drawWithFrame(painter, frame, this, index);
+        cell->drawWithFrame(painter, frame, this, storageIndex);
     }
 }
 

@@ -117,6 +117,7 @@ private:
     bool tokenizeBeforeCaret();
     std::optional<qsizetype> tokenAt(QPoint position) const;
     QPointF textOrigin() const;
+    qsizetype storageIndexOfLayoutIndex(qsizetype index) const;
     void drawTokens(QPainter *painter, const QRect &area);
     QString textFormOfObjects(const QVariantList &objects) const;
 

@@ -165,9 +165,10 @@ std::optional<qsizetype> OEXTokenField::tokenAt(QPoint position) const
     const int index = textLine.xToCursor(x, QTextLine::CursorOnCharacter);
     const qreal left = textLine.cursorToX(index);
     const qreal right = textLine.cursorToX(index + 1);
-    if (x < qMin(left, right) || x > qMax(left, right) || !textStorage()->attachmentAtIndex(index))
+    const qsizetype storageIndex = storageIndexOfLayoutIndex(index);
+    if (x < qMin(left, right) || x > qMax(left, right) || !textStorage()->attachmentAtIndex(storageIndex))
         return std::nullopt;
-    return index;
+    return storageIndex;
 }
 
 void OEXTokenField::mousePressEvent(QMouseEvent *event)

@@ -126,6 +126,30 @@ private Q_SLOTS:
         QVERIFY2(isNear(drawn(), disabled), qPrintable(drawn().name()));
     }
 
+    void drawsBehindWhatIsComposed()
+    {
+        Field field;
+        field.window.setPalette(palette(false));
+        field.field.setObjectValue(pattern(u"<Title>"_s));
+        field.press(Qt::Key_Home);
+        const auto leftEnd = [&] {
+            const QImage image = field.field.grab().toImage();
+            const int y = int(field.field.height() * field.field.devicePixelRatio() / 2);
+            int x = 6; // behind the frame and the cursor
+            while (x < image.width() && image.pixelColor(x, y).blueF() <= image.pixelColor(x, y).redF())
+                ++x;
+            return x;
+        };
+        const int before = leftEnd();
+        QInputMethodEvent composing(u"かな"_s, {});
+        QCoreApplication::sendEvent(&field.field, &composing);
+        QVERIFY2(leftEnd() > before + 10, qPrintable(QString::number(leftEnd())));
+        QInputMethodEvent committing;
+        committing.setCommitString(u"仮名"_s);
+        QCoreApplication::sendEvent(&field.field, &committing);
+        QCOMPARE(field.shownValue(), u"仮名<Title>"_s);
+    }
+
     void placesButtons()
     {
         Field field;
