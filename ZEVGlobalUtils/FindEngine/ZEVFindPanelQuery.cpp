@@ -5,6 +5,7 @@
 
 #include <ZEVGlobalUtils/FindEngine/ZEVArrayPatternDisplaySupport.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVFindPanelScope.h>
+#include <ZEVGlobalUtils/FindEngine/ZEVOrvCaptureGroup.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVPattern_p.h>
 #include <ZEVGlobalUtils/Platform/ZEVAttributedString.h>
 #include <ZEVGlobalUtils/Platform/ZEVError.h>
@@ -47,6 +48,10 @@ QString fragment(const QVariant &element, bool literalTextIsSyntax)
         return literalTextIsSyntax ? *text : ZEVRegularExpression::escapedPatternForString(*text);
     return {};
 }
+
+/// The empty group that stands before or behind the item of that number, only for counting.
+QString boundName(QStringView place, qsizetype item) { return u"zevItem" + place + QString::number(item); }
+QString bound(QStringView place, qsizetype item) { return u"(?<" + boundName(place, item) + u">)"; }
 
 size_t elementHash(const QVariant &element)
 {
@@ -91,6 +96,35 @@ std::optional<ZEVRegularExpression> ZEVFindPanelQuery::searchExpression() const
     if (!expression)
         ZEVErrorPresentation::presentError(error);
     return expression;
+}
+
+/// Named groups around every item tell its number in whatever surrounds it: escapes, sets, quotations and
+/// groups that the user's own text opens before a token and closes behind it. Only the engine reads all those
+/// right.
+QList<ZEVOrvCaptureGroup> ZEVFindPanelQuery::captureGroups() const
+{
+    QString pattern;
+    QList<ZEVPatternItem> items;
+    for (const QVariant &element : m_searchPattern.value_or(QVariantList())) {
+        const QString text = fragment(element, m_matchingType == RegularExpression);
+        if (const ZEVPatternItem *item = ZEVPattern::item(element)) {
+            pattern += bound(u"Begin", items.size()) + text + bound(u"End", items.size());
+            items.append(*item);
+        } else {
+            pattern += text;
+        }
+    }
+    const auto expression = ZEVRegularExpression::compile(pattern);
+    QList<ZEVOrvCaptureGroup> groups;
+    int boundsBefore = 0;
+    for (qsizetype n = 0; expression && n < items.size(); ++n) {
+        const auto begin = expression->numberOfCaptureGroup(boundName(u"Begin", n));
+        const auto end = expression->numberOfCaptureGroup(boundName(u"End", n));
+        if (begin && end && *end > *begin + 1)
+            groups.append({items.at(n), *begin - boundsBefore});
+        boundsBefore += int(begin.has_value()) + int(end.has_value());
+    }
+    return groups;
 }
 
 ZEVAttributedString ZEVFindPanelQuery::attributedTitle() const

@@ -15,6 +15,7 @@ class ZEVFindPanelScope;
 class ZEVKeyedArchiver;
 class ZEVKeyedUnarchiver;
 class ZEVRegularExpression;
+struct ZEVOrvCaptureGroup;
 
 /// The defaults key of the archive of the last query.
 inline constexpr QStringView kZEVFindPanelLastQueryAutosaveName = u"kZEVFindPanelLastQueryAutosaveName";
@@ -57,6 +58,12 @@ public:
     /// The compiled expression; nil without a pattern, and for one that does not compile, whose error is
     /// presented to the user at every call. Main thread.
     std::optional<ZEVRegularExpression> searchExpression() const;
+
+    /// Which group of the expression each item of the pattern captures with, in the pattern's order: the
+    /// outer one of its fragment. Whatever groups the fragments and the user's own expression hold are
+    /// counted. An item that captures nothing is left out: its fragment has no group, or a set or a quotation
+    /// around it makes text of it. Empty when the expression does not compile.
+    QList<ZEVOrvCaptureGroup> captureGroups() const;
 
     /// One line, such as: Library, Contains "abc", Case Sensitive.
     ZEVAttributedString attributedTitle() const;

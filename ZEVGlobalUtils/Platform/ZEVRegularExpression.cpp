@@ -103,6 +103,14 @@ int ZEVRegularExpression::numberOfCaptureGroups() const
     return U_SUCCESS(code) ? matcher->groupCount() : 0;
 }
 
+std::optional<int> ZEVRegularExpression::numberOfCaptureGroup(const QString &name) const
+{
+    UErrorCode code = U_ZERO_ERROR;
+    const icu::UnicodeString text(false, name.utf16(), static_cast<int32_t>(name.size()));
+    const int number = m_compiled->icuPattern->groupNumberFromName(text, code);
+    return U_SUCCESS(code) ? std::optional(number) : std::nullopt;
+}
+
 ZEVRegularExpression::Matches ZEVRegularExpression::matchesInString(QStringView text) const
 {
     Matches matches;

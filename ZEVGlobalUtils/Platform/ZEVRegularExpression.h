@@ -43,6 +43,9 @@ public:
     Options options() const;
     int numberOfCaptureGroups() const;
 
+    /// The number of the group (?<name>...); nil when the expression has none of that name.
+    std::optional<int> numberOfCaptureGroup(const QString &name) const;
+
     Matches matchesInString(QStringView text) const;
     std::optional<ZEVRange> rangeOfFirstMatchInString(QStringView text) const;
     qsizetype numberOfMatchesInString(QStringView text) const { return matchesInString(text).ranges.size(); }

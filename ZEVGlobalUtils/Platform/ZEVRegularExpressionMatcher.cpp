@@ -260,6 +260,8 @@ std::optional<ZEVRange> ZEVRegularExpressionMatcher::rangeOfGroup(int group) con
     return ZEVRange{static_cast<qsizetype>(start), static_cast<qsizetype>(end - start)};
 }
 
+int ZEVRegularExpressionMatcher::numberOfCaptureGroups() const { return d->matcher->groupCount(); }
+
 bool ZEVRegularExpressionMatcher::textReachedLimit() const { return d->textStruck; }
 
 bool ZEVRegularExpressionMatcher::limitReached() const { return d->anyStruck; }

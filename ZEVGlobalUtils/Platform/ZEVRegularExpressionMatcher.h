@@ -31,6 +31,7 @@ public:
 
     /// Where a group of the last match lies; nil for one that took no part in it.
     std::optional<ZEVRange> rangeOfGroup(int group) const;
+    int numberOfCaptureGroups() const;
 
     /// A limit has struck on this text; on any text since the matcher was made; too often to go on.
     bool textReachedLimit() const;

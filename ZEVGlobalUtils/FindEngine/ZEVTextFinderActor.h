@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <ZEVGlobalUtils/FindEngine/ZEVFindPanelQuery.h>
+#include <ZEVGlobalUtils/FindEngine/ZEVReplacementPreview.h>
+#include <ZEVGlobalUtils/FindEngine/ZEVReplacementTemplate.h>
+
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+
+class ZEVTextFinder;
+
+/// Does what a finder leaves to its host: moves between the matches, selects and replaces them, where the
+/// finder's client is a ZEVTextFinderEditableClient. A text that has changed since the search is searched
+/// again first. Main thread only. A host has find and replace by
+///
+///     auto *finder = new ZEVTextFinder(window);
+///     finder->setFindBarContainer(container);
+///     auto *client = new ZEVTextEditFinderClient(editor, finder);
+///     auto *actor = new ZEVTextFinderActor(finder, finder);
+///     actor->setQuerySource([controller] { return controller->query(); });
+///     connect(client, &ZEVTextEditFinderClient::textChanged, actor, &ZEVTextFinderActor::searchAgainSoon);
+class ZEV_EXPORT ZEVTextFinderActor : public QObject {
+    Q_OBJECT
+
+public:
+    /// The host's value for a placeholder in the replacement of the match at the range.
+    using PlaceholderValue =
+        std::function<std::optional<ZEVOrvCaptureMatch>(const ZEVPatternItem &, const ZEVRange &)>;
+
+    explicit ZEVTextFinderActor(ZEVTextFinder *finder, QObject *parent = nullptr);
+
+    /// Whether next goes on at the beginning and previous at the end; true at first.
+    bool wrapsAround() const { return m_wrapsAround; }
+    void setWrapsAround(bool wraps) { m_wrapsAround = wraps; }
+
+    /// Asked after every search for the query behind it. Without one, or when its expression is not the one
+    /// that was searched for, no item of a replacement has a captured text.
+    void setQuerySource(const std::function<ZEVFindPanelQuery()> &source) { m_querySource = source; }
+
+    /// By default the find bar's replacePattern().
+    void setReplacePatternSource(const std::function<QVariantList()> &source)
+    {
+        m_replacePatternSource = source;
+    }
+
+    void setPlaceholderValue(const PlaceholderValue &value) { m_placeholderValue = value; }
+
+    /// The finder's actions 2 to 6 and 8 to 10; any other does nothing. Replace, and replace and find, act on
+    /// the selected match; where none is selected they select the next one. After replacing, the text is
+    /// searched again.
+    void performAction(qint64 action);
+
+    /// What replace all would do. Matches that are not editable are left out.
+    ZEVReplacementPreview preview();
+
+    /// Of the matches that lie within the selected ranges as a whole.
+    ZEVReplacementPreview previewInSelection();
+
+    /// False when nothing was replaced: the text has changed since, the preview is empty, or the client
+    /// refused.
+    bool apply(const ZEVReplacementPreview &preview);
+
+    /// Once the events at hand are done, if the text has changed since the search.
+    void searchAgainSoon() { m_timer.start(0); }
+
+Q_SIGNALS:
+    void wrappedAround();
+    void replaced(qsizetype count);
+
+private:
+    class Replacer;
+    ZEVTextFinderEditableClient *client() const;
+    const QList<ZEVRange> &matches() const;
+    bool isFresh() const;
+    bool searchIfChanged();
+    void searchEnded();
+    QVariantList replacePattern() const;
+    QList<ZEVOrvCaptureGroup> captureGroups() const;
+    ZEVReplacementPreview previewOf(const QList<ZEVRange> &matches) const;
+    bool replace(const QList<ZEVTextReplacement> &replacements, qint64 action);
+    QList<ZEVRange> matchesInSelection() const;
+    qsizetype firstMatchAt(qsizetype location) const;
+    qsizetype selectedMatch() const;
+    void step(int direction);
+    void select(qsizetype match, bool wraps);
+    void replaceSelectedMatch(bool findsNext);
+    void selectBehind(const ZEVTextReplacement &replacement, bool findsNext);
+
+    QPointer<ZEVTextFinder> m_finder;
+    std::function<ZEVFindPanelQuery()> m_querySource;
+    std::function<QVariantList()> m_replacePatternSource;
+    PlaceholderValue m_placeholderValue;
+    std::optional<ZEVFindPanelQuery> m_query; ///< of the last search
+    std::optional<quint64> m_changeStamp; ///< of the text that was searched
+    const void *m_searchedClient = nullptr; ///< only compared
+    QTimer m_timer;
+    bool m_wrapsAround = true;
+    bool m_searchesAgain = false; ///< the query is still the one before
+};
