@@ -3,19 +3,19 @@
 
 #pragma once
 
-#include <tageditor/HighlightDelegate.h>
+#include <ZEVGlobalUtils/FindPanel/ZEVHighlightDelegate.h>
 
 class TrackSearch;
 
 /// Draws the cells of the table of tracks with the matches of a search marked in them.
-class MatchHighlightDelegate : public HighlightDelegate {
+class MatchHighlightDelegate : public ZEVHighlightDelegate {
     Q_OBJECT
 
 public:
     explicit MatchHighlightDelegate(const TrackSearch *search, QObject *parent = nullptr);
 
 protected:
-    CellMatches matches(const QModelIndex &index) const override;
+    ZEVCellMatches matches(const QModelIndex &index) const override;
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
 
 private:

@@ -3,7 +3,7 @@
 
 #include <tageditor/MessageLabel.h>
 
-#include <tageditor/MatchColors.h>
+#include <ZEVGlobalUtils/FindPanel/ZEVMatchColors.h>
 
 #include <QPainter>
 #include <QStyle>
@@ -26,7 +26,7 @@ void MessageLabel::showMessage(const QString &message, bool isError)
 void MessageLabel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setPen(m_isError ? MatchColors::errorText(palette()) : palette().color(foregroundRole()));
+    painter.setPen(m_isError ? ZEVMatchColors::errorText(palette()) : palette().color(foregroundRole()));
     const QString line = QString(text()).replace(u'\n', u' ');
     const QString shown = fontMetrics().elidedText(line, Qt::ElideRight, contentsRect().width());
     const Qt::Alignment side = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter);

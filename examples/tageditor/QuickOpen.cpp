@@ -3,8 +3,7 @@
 
 #include <tageditor/QuickOpen.h>
 
-#include <tageditor/HighlightDelegate.h>
-
+#include <ZEVGlobalUtils/FindPanel/ZEVHighlightDelegate.h>
 #include <ZEVGlobalUtils/Transforms/ZEVValueTransformer.h>
 
 #include <QApplication>
@@ -50,7 +49,7 @@ void QuickOpen::setUpList()
 {
     m_list->setAccessibleName(tr("Tracks"));
     m_list->setModel(&m_model);
-    m_list->setItemDelegate(new HighlightDelegate(m_list));
+    m_list->setItemDelegate(new ZEVHighlightDelegate(m_list));
     m_list->setUniformItemSizes(true);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setFocusPolicy(Qt::NoFocus); // what is typed goes to the field, whatever was clicked

@@ -3,8 +3,9 @@
 
 #include <tageditor/QuickOpenModel.h>
 
-#include <tageditor/HighlightDelegate.h>
 #include <tageditor/TrackTableModel.h>
+
+#include <ZEVGlobalUtils/FindPanel/ZEVHighlightDelegate.h>
 
 #include <numeric>
 
@@ -90,7 +91,7 @@ QVariant QuickOpenModel::data(const QModelIndex &index, int role) const
         return m_candidates.texts.at(candidate);
     case TrackIdRole:
         return m_candidates.trackIds.at(candidate);
-    case HighlightDelegate::RangesRole:
+    case ZEVHighlightDelegate::RangesRole:
         return QVariant::fromValue(ranges(m_candidates.texts.at(candidate)));
     default:
         return {};

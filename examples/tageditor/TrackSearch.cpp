@@ -162,9 +162,9 @@ TrackFinderClient::Place TrackSearch::match(qsizetype number) const
     return m_client.placeOfRange(m_finder.foundMatches().at(number));
 }
 
-CellMatches TrackSearch::matchesInCell(int row, TrackField field) const
+ZEVCellMatches TrackSearch::matchesInCell(int row, TrackField field) const
 {
-    CellMatches result;
+    ZEVCellMatches result;
     if (m_isStale)
         return result;
     const ZEVRange cell = m_client.rangeOfCell(row, field);

@@ -3,11 +3,11 @@
 
 #pragma once
 
-#include <tageditor/CellMatches.h>
 #include <tageditor/TrackFinderClient.h>
 
 #include <ZEVGlobalUtils/FindEngine/ZEVFindPanelQuery.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
+#include <ZEVGlobalUtils/FindPanel/ZEVCellMatches.h>
 #include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
 
 #include <QPersistentModelIndex>
@@ -39,7 +39,7 @@ public:
     const QString &error() const { return m_error; }
 
     TrackFinderClient::Place match(qsizetype number) const;
-    CellMatches matchesInCell(int row, TrackField field) const;
+    ZEVCellMatches matchesInCell(int row, TrackField field) const;
 
     /// -1 for none, as after every change of the query.
     qsizetype currentMatch() const { return m_currentMatch; }

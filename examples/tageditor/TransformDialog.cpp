@@ -3,8 +3,7 @@
 
 #include <tageditor/TransformDialog.h>
 
-#include <tageditor/HighlightDelegate.h>
-
+#include <ZEVGlobalUtils/FindPanel/ZEVHighlightDelegate.h>
 #include <ZEVGlobalUtils/Platform/ZEVUserDefaults.h>
 
 #include <QComboBox>
@@ -76,7 +75,7 @@ void TransformDialog::setUpTable()
 {
     m_table->setAccessibleName(tr("Preview"));
     m_table->setModel(&m_model);
-    m_table->setItemDelegate(new HighlightDelegate(m_table));
+    m_table->setItemDelegate(new ZEVHighlightDelegate(m_table));
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setAlternatingRowColors(true);
     m_table->setShowGrid(false);

@@ -3,8 +3,9 @@
 
 #include <tageditor/TransformPreviewModel.h>
 
-#include <tageditor/HighlightDelegate.h>
 #include <tageditor/TextDifference.h>
+
+#include <ZEVGlobalUtils/FindPanel/ZEVHighlightDelegate.h>
 
 #include <QElapsedTimer>
 
@@ -97,7 +98,7 @@ QVariant TransformPreviewModel::data(const QModelIndex &index, int role) const
     const QString &before = m_cells.at(row.cell).text;
     if (role == Qt::DisplayRole)
         return index.column() == Before ? before : row.after;
-    if (role != HighlightDelegate::RangesRole)
+    if (role != ZEVHighlightDelegate::RangesRole)
         return {};
     const TextDifference difference = TextDifference::between(before, row.after);
     return QVariant::fromValue(index.column() == Before ? difference.before : difference.after);

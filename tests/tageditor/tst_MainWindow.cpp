@@ -4,8 +4,8 @@
 #include "Shown.h"
 
 #include <tageditor/DarkPalette.h>
-#include <tageditor/MatchColors.h>
 
+#include <ZEVGlobalUtils/FindPanel/ZEVMatchColors.h>
 #include <ZEVGlobalUtils/Transforms/FileSizeTransformer.h>
 
 #include <QAccessible>
@@ -145,7 +145,7 @@ private Q_SLOTS:
         for (const QPalette &palette : {QPalette(), darkPalette()}) {
             QApplication::setPalette(palette);
             const QImage picture = shown.messageLabel()->grab().toImage();
-            QVERIFY(hasColor(picture, MatchColors::errorText(shown.window.palette())));
+            QVERIFY(hasColor(picture, ZEVMatchColors::errorText(shown.window.palette())));
         }
         QApplication::setPalette(QPalette());
         QTest::keyClicks(shown.line, u")"_s);

@@ -4,10 +4,11 @@
 #include "Samples.h"
 
 #include <tageditor/DarkPalette.h>
-#include <tageditor/MatchColors.h>
 #include <tageditor/MatchHighlightDelegate.h>
 #include <tageditor/TrackSearch.h>
 #include <tageditor/TrackTableModel.h>
+
+#include <ZEVGlobalUtils/FindPanel/ZEVMatchColors.h>
 
 #include <QImage>
 #include <QPainter>
@@ -61,7 +62,7 @@ public:
 
     QColor matchColor(bool isCurrent, QPalette::ColorRole base = QPalette::Base) const
     {
-        return MatchColors::forMatchOver(m_option.palette.color(base), isCurrent).background;
+        return ZEVMatchColors::forMatchOver(m_option.palette.color(base), isCurrent).background;
     }
 
 private:
@@ -103,7 +104,7 @@ private Q_SLOTS:
     {
         QFETCH(QList<ZEVRange>, matches);
         QFETCH(int, current);
-        const CellMatches visible =
+        const ZEVCellMatches visible =
             MatchHighlightDelegate::visibleMatches({matches, current}, u"Harbour Lights"_s, u"Harbour…"_s);
         QTEST(visible.ranges, "visible");
         QTEST(int(visible.current), "visibleCurrent");
@@ -162,17 +163,17 @@ private Q_SLOTS:
         QFETCH(QPalette, palette);
         for (const auto role : {QPalette::Base, QPalette::AlternateBase, QPalette::Highlight}) {
             const QColor base = palette.color(role);
-            const auto match = MatchColors::forMatchOver(base, false);
-            const auto current = MatchColors::forMatchOver(base, true);
-            QVERIFY(MatchColors::contrast(match.background, match.text) >= 4.5);
-            QVERIFY(MatchColors::contrast(current.background, current.text) >= 4.5);
+            const auto match = ZEVMatchColors::forMatchOver(base, false);
+            const auto current = ZEVMatchColors::forMatchOver(base, true);
+            QVERIFY(ZEVMatchColors::contrast(match.background, match.text) >= 4.5);
+            QVERIFY(ZEVMatchColors::contrast(current.background, current.text) >= 4.5);
             QVERIFY(match.background != base && match.background != current.background);
         }
-        const QColor dimmed = MatchColors::dimmedText(palette);
+        const QColor dimmed = ZEVMatchColors::dimmedText(palette);
         QVERIFY(dimmed != palette.color(QPalette::Text));
-        QVERIFY(MatchColors::contrast(dimmed, palette.color(QPalette::Base)) >= 4.5);
-        const QColor error = MatchColors::errorText(palette);
-        QVERIFY(MatchColors::contrast(error, palette.color(QPalette::Window)) >= 4.5);
+        QVERIFY(ZEVMatchColors::contrast(dimmed, palette.color(QPalette::Base)) >= 4.5);
+        const QColor error = ZEVMatchColors::errorText(palette);
+        QVERIFY(ZEVMatchColors::contrast(error, palette.color(QPalette::Window)) >= 4.5);
     }
 };
 

@@ -3,8 +3,9 @@
 
 #include "Shown.h"
 
-#include <tageditor/HighlightDelegate.h>
 #include <tageditor/QuickOpen.h>
+
+#include <ZEVGlobalUtils/FindPanel/ZEVHighlightDelegate.h>
 
 #include <QListView>
 
@@ -28,7 +29,7 @@ struct Opened : Shown {
     {
         const QModelIndex index = list->model()->index(row, 0);
         QString marked;
-        for (const ZEVRange &range : index.data(HighlightDelegate::RangesRole).value<QList<ZEVRange>>())
+        for (const ZEVRange &range : index.data(ZEVHighlightDelegate::RangesRole).value<QList<ZEVRange>>())
             marked += index.data().toString().sliced(range.location, range.length);
         return marked;
     }

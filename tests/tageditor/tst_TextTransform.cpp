@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <tageditor/HighlightDelegate.h>
 #include <tageditor/TextDifference.h>
 #include <tageditor/TransformPreviewModel.h>
+
+#include <ZEVGlobalUtils/FindPanel/ZEVHighlightDelegate.h>
 
 #include <QSignalSpy>
 #include <QTest>
@@ -102,7 +103,7 @@ private Q_SLOTS:
         QCOMPARE(model.rowCount(), 2);
         QCOMPARE(model.index(1, TransformPreviewModel::Before).data().toString(), u"c"_s);
         QCOMPARE(model.index(1, TransformPreviewModel::After).data().toString(), u"C"_s);
-        const QVariant marked = model.index(0, 1).data(HighlightDelegate::RangesRole);
+        const QVariant marked = model.index(0, 1).data(ZEVHighlightDelegate::RangesRole);
         QCOMPARE(ranges(marked.value<QList<ZEVRange>>()), u"0+1 2+1"_s);
         QCOMPARE(model.changes().at(1).trackId, 3);
         QCOMPARE(model.changes().at(1).text, u"C"_s);

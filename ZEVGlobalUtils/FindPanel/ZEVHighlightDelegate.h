@@ -3,13 +3,14 @@
 
 #pragma once
 
-#include <tageditor/CellMatches.h>
+#include <ZEVGlobalUtils/Export.h>
+#include <ZEVGlobalUtils/FindPanel/ZEVCellMatches.h>
 
 #include <QStyledItemDelegate>
 
 /// Draws a view's cells with stretches of their texts marked. A stretch that is hidden behind the ellipsis of
 /// a cell that is too narrow marks the ellipsis.
-class HighlightDelegate : public QStyledItemDelegate {
+class ZEV_EXPORT ZEVHighlightDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
 public:
@@ -26,10 +27,10 @@ public:
     QString displayText(const QVariant &value, const QLocale &locale) const override;
 
     /// Where \a matches lie in \a visible, which is \a text or a beginning of it that ends in an ellipsis.
-    static CellMatches visibleMatches(const CellMatches &matches, const QString &text,
-                                      const QString &visible);
+    static ZEVCellMatches visibleMatches(const ZEVCellMatches &matches, const QString &text,
+                                         const QString &visible);
 
 protected:
     /// What to mark: the model's ranges.
-    virtual CellMatches matches(const QModelIndex &index) const;
+    virtual ZEVCellMatches matches(const QModelIndex &index) const;
 };

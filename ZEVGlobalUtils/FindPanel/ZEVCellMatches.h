@@ -8,7 +8,7 @@
 #include <QList>
 
 /// The matches within one cell, in its own UTF-16 units.
-struct CellMatches {
+struct ZEVCellMatches {
     QList<ZEVRange> ranges;
     qsizetype current = -1; ///< index of the current match in ranges, or -1
 };

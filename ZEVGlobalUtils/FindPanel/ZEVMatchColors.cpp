@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <tageditor/MatchColors.h>
+#include <ZEVGlobalUtils/FindPanel/ZEVMatchColors.h>
 
 #include <ZEVGlobalUtils/Transforms/ZEVAppearanceHelpers.h>
 
@@ -31,24 +31,24 @@ QColor laidOver(const QColor &base, const QColor &color, float alpha)
 
 } // namespace
 
-MatchColors::Pair MatchColors::forMatchOver(const QColor &base, bool isCurrent)
+ZEVMatchColors::Pair ZEVMatchColors::forMatchOver(const QColor &base, bool isCurrent)
 {
     const QColor background = isCurrent ? QColor(255, 150, 20) : laidOver(base, QColor(255, 215, 0), 0.5F);
     const bool blackStandsOut = contrast(background, Qt::black) >= contrast(background, Qt::white);
     return {background, blackStandsOut ? Qt::black : Qt::white};
 }
 
-QColor MatchColors::dimmedText(const QPalette &palette)
+QColor ZEVMatchColors::dimmedText(const QPalette &palette)
 {
     return laidOver(palette.color(QPalette::Base), palette.color(QPalette::Text), 0.6F);
 }
 
-QColor MatchColors::errorText(const QPalette &palette)
+QColor ZEVMatchColors::errorText(const QPalette &palette)
 {
     return ZEVAppearanceHelpers::isDark(palette) ? QColor(255, 138, 128) : QColor(176, 0, 32);
 }
 
-double MatchColors::contrast(const QColor &a, const QColor &b)
+double ZEVMatchColors::contrast(const QColor &a, const QColor &b)
 {
     const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
     return (lighter + 0.05) / (darker + 0.05);

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <tageditor/HighlightDelegate.h>
+#include <ZEVGlobalUtils/FindPanel/ZEVHighlightDelegate.h>
 
-#include <tageditor/MatchColors.h>
+#include <ZEVGlobalUtils/FindPanel/ZEVMatchColors.h>
 
 #include <QApplication>
 #include <QPainter>
@@ -53,7 +53,7 @@ void layOut(QTextLayout &layout, const QStyleOptionViewItem &cell, qreal width)
     layout.endLayout();
 }
 
-QTextLayout::FormatRange mark(const ZEVRange &range, const MatchColors::Pair &colors)
+QTextLayout::FormatRange mark(const ZEVRange &range, const ZEVMatchColors::Pair &colors)
 {
     QTextCharFormat format;
     format.setBackground(colors.background);
@@ -63,7 +63,7 @@ QTextLayout::FormatRange mark(const ZEVRange &range, const MatchColors::Pair &co
 
 /// Selections rather than formats: a format would break the joining of letters at its edges. Matches that
 /// touch share one, since each costs a drawing of the line; the current one is drawn last, over the others.
-QList<QTextLayout::FormatRange> marks(const CellMatches &matches, const QColor &base)
+QList<QTextLayout::FormatRange> marks(const ZEVCellMatches &matches, const QColor &base)
 {
     QList<QTextLayout::FormatRange> marks;
     for (const ZEVRange &range : matches.ranges) {
@@ -72,10 +72,10 @@ QList<QTextLayout::FormatRange> marks(const CellMatches &matches, const QColor &
         if (touches)
             marks.last().length += int(range.length);
         else
-            marks.append(mark(range, MatchColors::forMatchOver(base, false)));
+            marks.append(mark(range, ZEVMatchColors::forMatchOver(base, false)));
     }
     if (matches.current >= 0)
-        marks.append(mark(matches.ranges.at(matches.current), MatchColors::forMatchOver(base, true)));
+        marks.append(mark(matches.ranges.at(matches.current), ZEVMatchColors::forMatchOver(base, true)));
     return marks;
 }
 
@@ -102,14 +102,14 @@ void layOutElided(QTextLayout &layout, const QStyleOptionViewItem &cell, int wid
 }
 
 void drawText(QPainter *painter, const QStyleOptionViewItem &cell, const QRect &rect,
-              const CellMatches &matches)
+              const ZEVCellMatches &matches)
 {
     QTextLayout layout(cell.text.left(LongestLine), cell.font, painter->device());
     layOutElided(layout, cell, rect.width());
     const QTextLine line = layout.lineAt(0);
     const QPointF origin(rect.x(), rect.y() + (rect.height() - line.height()) / 2);
     const QColor base = cellColor(cell, QPalette::Base, QPalette::Highlight);
-    const auto ranges = marks(HighlightDelegate::visibleMatches(matches, cell.text, layout.text()), base);
+    const auto ranges = marks(ZEVHighlightDelegate::visibleMatches(matches, cell.text, layout.text()), base);
     painter->save();
     painter->setClipRect(rect, Qt::IntersectClip);
     painter->setPen(cellColor(cell, QPalette::Text, QPalette::HighlightedText));
@@ -120,13 +120,13 @@ void drawText(QPainter *painter, const QStyleOptionViewItem &cell, const QRect &
 
 } // namespace
 
-CellMatches HighlightDelegate::matches(const QModelIndex &index) const
+ZEVCellMatches ZEVHighlightDelegate::matches(const QModelIndex &index) const
 {
     return {.ranges = index.data(RangesRole).value<QList<ZEVRange>>()};
 }
 
-void HighlightDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
-                              const QModelIndex &index) const
+void ZEVHighlightDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                                 const QModelIndex &index) const
 {
     QStyleOptionViewItem cell = option;
     initStyleOption(&cell, index);
@@ -138,7 +138,7 @@ void HighlightDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
     drawText(painter, cell, rect, matches(index));
 }
 
-QString HighlightDelegate::displayText(const QVariant &value, const QLocale &) const
+QString ZEVHighlightDelegate::displayText(const QVariant &value, const QLocale &) const
 {
     QString text = value.toString();
     for (QChar &character : text) {
@@ -153,13 +153,13 @@ QString HighlightDelegate::displayText(const QVariant &value, const QLocale &) c
     return text;
 }
 
-CellMatches HighlightDelegate::visibleMatches(const CellMatches &matches, const QString &text,
-                                              const QString &visible)
+ZEVCellMatches ZEVHighlightDelegate::visibleMatches(const ZEVCellMatches &matches, const QString &text,
+                                                    const QString &visible)
 {
     if (visible.size() == text.size() && visible == text)
         return matches;
     const qsizetype shown = std::ranges::mismatch(visible, text).in1 - visible.begin();
-    CellMatches result;
+    ZEVCellMatches result;
     bool ellipsisIsMarked = false;
     for (qsizetype n = 0; n < matches.ranges.size(); ++n) {
         const ZEVRange &range = matches.ranges.at(n);

@@ -3,12 +3,14 @@
 
 #pragma once
 
+#include <ZEVGlobalUtils/Export.h>
+
 #include <QColor>
 
 class QPalette;
 
 /// Colours that stay readable in light and dark palettes.
-namespace MatchColors {
+namespace ZEVMatchColors {
 
 struct Pair {
     QColor background;
@@ -17,15 +19,15 @@ struct Pair {
 
 /// A match over a cell whose background is \a base: a marker's yellow laid over it, the current match in a
 /// full orange, and the text in whichever of black and white stands out more.
-Pair forMatchOver(const QColor &base, bool isCurrent);
+ZEV_EXPORT Pair forMatchOver(const QColor &base, bool isCurrent);
 
 /// A text of less weight than others on the base, yet no fainter than can be read.
-QColor dimmedText(const QPalette &palette);
+ZEV_EXPORT QColor dimmedText(const QPalette &palette);
 
 /// A text that tells of an error, on the window's background.
-QColor errorText(const QPalette &palette);
+ZEV_EXPORT QColor errorText(const QPalette &palette);
 
 /// 1 for the same colour up to 21 for black on white, by the formula of WCAG 2.1.
-double contrast(const QColor &a, const QColor &b);
+ZEV_EXPORT double contrast(const QColor &a, const QColor &b);
 
-} // namespace MatchColors
+} // namespace ZEVMatchColors
