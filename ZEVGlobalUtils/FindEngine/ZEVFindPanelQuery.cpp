@@ -49,6 +49,11 @@ QString fragment(const QVariant &element, bool literalTextIsSyntax)
     return {};
 }
 
+ZEVRegularExpression::Option optionFor(bool caseInsensitive)
+{
+    return caseInsensitive ? ZEVRegularExpression::CaseInsensitive : ZEVRegularExpression::NoOptions;
+}
+
 /// The empty group that stands before or behind the item of that number, only for counting.
 QString boundName(QStringView place, qsizetype item) { return u"zevItem" + place + QString::number(item); }
 QString bound(QStringView place, qsizetype item) { return u"(?<" + boundName(place, item) + u">)"; }
@@ -78,24 +83,33 @@ std::optional<QString> ZEVFindPanelQuery::titleForMatchingType(qint64 matchingTy
     return ZEVGlobalHelper::localizedStringForKey(MatchingTypes.at(matchingType).title);
 }
 
+QString ZEVFindPanelQuery::expressionPattern() const
+{
+    QString pattern;
+    for (const QVariant &element : m_searchPattern.value_or(QVariantList()))
+        pattern += fragment(element, m_matchingType == RegularExpression);
+    if (!isMatchingType(m_matchingType))
+        return pattern;
+    const MatchingTypeTraits &type = MatchingTypes.at(m_matchingType);
+    return type.before + pattern + type.after;
+}
+
 std::optional<ZEVRegularExpression> ZEVFindPanelQuery::searchExpression() const
 {
     if (!m_searchPattern || m_searchPattern->isEmpty())
         return std::nullopt;
-    QString pattern;
-    for (const QVariant &element : *m_searchPattern)
-        pattern += fragment(element, m_matchingType == RegularExpression);
-    if (isMatchingType(m_matchingType)) {
-        const MatchingTypeTraits &type = MatchingTypes.at(m_matchingType);
-        pattern = type.before + pattern + type.after;
-    }
-    const auto option =
-        m_caseInsensitiveSearch ? ZEVRegularExpression::CaseInsensitive : ZEVRegularExpression::NoOptions;
     ZEVError error;
-    auto expression = ZEVRegularExpression::compile(pattern, option, &error);
+    auto expression =
+        ZEVRegularExpression::compile(expressionPattern(), optionFor(m_caseInsensitiveSearch), &error);
     if (!expression)
         ZEVErrorPresentation::presentError(error);
     return expression;
+}
+
+bool ZEVFindPanelQuery::isQueryOf(const ZEVRegularExpression &expression) const
+{
+    return m_searchPattern && !m_searchPattern->isEmpty() && expressionPattern() == expression.pattern()
+        && optionFor(m_caseInsensitiveSearch) == expression.options();
 }
 
 /// Named groups around every item tell its number in whatever surrounds it: escapes, sets, quotations and

@@ -59,6 +59,9 @@ public:
     /// presented to the user at every call. Main thread.
     std::optional<ZEVRegularExpression> searchExpression() const;
 
+    /// Whether \a expression is what searchExpression() makes of this query, told without compiling it.
+    bool isQueryOf(const ZEVRegularExpression &expression) const;
+
     /// Which group of the expression each item of the pattern captures with, in the pattern's order: the
     /// outer one of its fragment. Whatever groups the fragments and the user's own expression hold are
     /// counted. An item that captures nothing is left out: its fragment has no group, or a set or a quotation
@@ -88,6 +91,8 @@ public:
     friend size_t qHash(const ZEVFindPanelQuery &query, size_t seed = 0) { return query.hash() ^ seed; }
 
 private:
+    QString expressionPattern() const;
+
     std::shared_ptr<ZEVFindPanelScope> m_scope;
     std::optional<QVariantList> m_searchPattern;
     qint64 m_matchingType = Contains;

@@ -3,12 +3,16 @@
 
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
 
-#include <ZEVGlobalUtils/FindEngine/ZEVTextFinderClient.h>
+#include <ZEVGlobalUtils/FindEngine/ZEVTextFinderEditableClient.h>
 #include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
 #include <ZEVGlobalUtils/Platform/ZEVRegularExpressionMatcher.h>
 
+#include <QDeadlineTimer>
 #include <QMetaMethod>
 #include <QPointer>
+#include <QTimer>
+
+using namespace std::chrono_literals;
 
 ZEVTextFinderClient::~ZEVTextFinderClient() = default;
 
@@ -43,39 +47,68 @@ class ZEVTextFinder::Search {
 public:
     explicit Search(ZEVTextFinder *finder)
         : m_finder(finder)
-        , m_number(++finder->m_searchNumber)
         , m_isObserved(
               finder->m_textFinderViewController
               || finder->isSignalConnected(QMetaMethod::fromSignal(&ZEVTextFinder::numberOfMatchesChanged)))
     {
     }
 
-    bool isCurrent() const { return m_finder && m_finder->m_searchNumber == m_number; }
+    bool isCurrent() const { return m_finder && m_finder->m_search.get() == this; }
 
-    void run(const ZEVRegularExpression &expression)
+    void begin(const ZEVRegularExpression &expression)
     {
-        ZEVRegularExpressionMatcher matcher(expression);
-        const qsizetype total = m_finder->m_client->stringLength();
-        qsizetype index = 0;
-        while (index < total && !matcher.isExhausted()) {
-            ZEVRange piece;
-            const QString text = m_finder->m_client->stringAtIndex(index, piece);
-            if (piece.length <= 0 || !collect(matcher, text, piece.location))
-                break;
-            if (piece.length > total - index)
-                break; // a client that claims more than it has
-            index += piece.length;
-        }
-        if (isCurrent())
-            m_finder->m_limitReached = matcher.limitReached();
+        m_client = m_finder->m_client;
+        m_total = m_client->stringLength();
+        m_changeStamp = changeStamp();
+        if (m_total > 0)
+            m_matcher.emplace(expression);
+    }
+
+    bool hasBegun() const { return m_matcher.has_value(); }
+    bool limitReached() const { return m_matcher && m_matcher->limitReached(); }
+
+    /// Matches that were found before the text changed lie anywhere. Only some clients tell.
+    bool textHasChanged() const { return m_client != m_finder->m_client || m_changeStamp != changeStamp(); }
+
+    /// Whether the search is over, after \a duration at the most; none has no end. A piece is never left half
+    /// searched.
+    bool run(std::chrono::milliseconds duration)
+    {
+        const QDeadlineTimer deadline(duration > 0ms ? QDeadlineTimer(duration, Qt::PreciseTimer)
+                                                     : QDeadlineTimer(QDeadlineTimer::Forever));
+        for (unsigned pieces = 1; searchPiece(); ++pieces)
+            if (pieces % PiecesPerReading == 0 && deadline.hasExpired())
+                return false;
+        return true;
     }
 
 private:
-    /// False when the host's answer to a match ends this search.
-    bool collect(ZEVRegularExpressionMatcher &matcher, const QString &text, qsizetype offset)
+    static constexpr unsigned PiecesPerReading = 16;
+
+    std::optional<quint64> changeStamp() const
     {
-        matcher.setText(text);
-        while (const auto match = matcher.findNext()) {
+        const auto *client = dynamic_cast<ZEVTextFinderEditableClient *>(m_finder->m_client);
+        return client ? std::optional(client->changeStamp()) : std::nullopt;
+    }
+
+    /// False when there is nothing more to search.
+    bool searchPiece()
+    {
+        if (!m_matcher || !m_finder->m_client || m_index >= m_total || m_matcher->isExhausted())
+            return false;
+        ZEVRange piece;
+        const QString text = m_finder->m_client->stringAtIndex(m_index, piece);
+        if (piece.length <= 0 || !collect(text, piece.location) || piece.length > m_total - m_index)
+            return false; // the last for a client that claims more than it has
+        m_index += piece.length;
+        return true;
+    }
+
+    /// False when the host's answer to a match ends this search.
+    bool collect(const QString &text, qsizetype offset)
+    {
+        m_matcher->setText(text);
+        while (const auto match = m_matcher->findNext()) {
             ZEVTextFinder *finder = m_finder;
             finder->m_foundMatches.append({offset + match->location, match->length});
             finder->m_numberOfMatches = finder->m_foundMatches.size();
@@ -92,24 +125,78 @@ private:
     }
 
     QPointer<ZEVTextFinder> m_finder;
-    quint64 m_number;
+    std::optional<ZEVRegularExpressionMatcher> m_matcher;
+    const ZEVTextFinderClient *m_client = nullptr; ///< only compared
+    qsizetype m_total = 0;
+    qsizetype m_index = 0;
+    std::optional<quint64> m_changeStamp;
     bool m_isObserved; // a signal for every match costs a tenth of a search even where nobody listens
 };
 
 void ZEVTextFinder::performSearchAgainstExpression(const std::optional<ZEVRegularExpression> &expression)
 {
-    Search search(this);
-    const QPointer guard(this);
+    beginSearch(expression, m_sliceDuration);
+}
+
+void ZEVTextFinder::beginSearch(const std::optional<ZEVRegularExpression> &expression,
+                                std::chrono::milliseconds duration)
+{
+    const auto search = std::make_shared<Search>(this);
+    m_search = search; // whichever was under way ends here
+    m_isSearching = true;
     *m_expression = expression;
     m_foundMatches.clear();
     m_limitReached = false;
     setNumberOfMatches(std::nullopt);
-    if (search.isCurrent() && m_client && *m_expression && m_client->stringLength() > 0) {
-        search.run(**m_expression);
-        if (search.isCurrent())
-            setNumberOfMatches(m_foundMatches.size()); // 0, no longer nil, where nothing was found
-    }
-    if (!guard || !search.isCurrent())
+    if (!search->isCurrent())
+        return;
+    if (m_client && *m_expression)
+        search->begin(**m_expression);
+    goOn(search, duration);
+}
+
+void ZEVTextFinder::finishSearch()
+{
+    if (!m_isSearching)
+        return;
+    const auto search = m_search;
+    if (search->textHasChanged())
+        beginSearch(std::optional(*m_expression), 0ms);
+    else
+        goOn(search, 0ms);
+}
+
+void ZEVTextFinder::goOnSoon(const std::shared_ptr<Search> &search)
+{
+    QTimer::singleShot(0, this, [this, search] {
+        if (!m_isSearching || !search->isCurrent())
+            return;
+        if (search->textHasChanged())
+            beginSearch(std::optional(*m_expression), m_sliceDuration);
+        else
+            goOn(search, m_sliceDuration);
+    });
+}
+
+/// Whoever calls this holds the search, which an observer may end.
+void ZEVTextFinder::goOn(const std::shared_ptr<Search> &search, std::chrono::milliseconds duration)
+{
+    const bool isOver = search->run(duration);
+    if (!search->isCurrent())
+        return;
+    if (isOver)
+        endSearch(*search);
+    else
+        goOnSoon(search);
+}
+
+void ZEVTextFinder::endSearch(const Search &search)
+{
+    m_isSearching = false;
+    m_limitReached = search.limitReached();
+    if (search.hasBegun())
+        setNumberOfMatches(m_foundMatches.size()); // 0, no longer nil, where nothing was found
+    if (!search.isCurrent())
         return;
     if (m_textFinderViewController)
         m_textFinderViewController->setSearchLimitReached(m_limitReached);

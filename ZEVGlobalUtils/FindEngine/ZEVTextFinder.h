@@ -9,6 +9,8 @@
 #include <QList>
 #include <QObject>
 
+#include <chrono>
+#include <memory>
 #include <optional>
 
 class ZEVFindBarContainer;
@@ -57,6 +59,15 @@ public:
     /// not found. Nil finds nothing. An observer may search anew or delete the finder while the count grows.
     void performSearchAgainstExpression(const std::optional<ZEVRegularExpression> &expression) override;
 
+    /// How long a search may hold up its caller and the user at a time. What is left is searched once other
+    /// events have been handled, from the start where an editable client's text has changed; a new search
+    /// ends it. 0, as at first: until it is done. A find bar that searches at every key press sets some 30.
+    void setSliceDuration(std::chrono::milliseconds duration) { m_sliceDuration = duration; }
+
+    /// Matches may still be added. finishSearch() does the rest at once.
+    bool isSearching() const { return m_isSearching; }
+    void finishSearch();
+
     /// What was searched last; nil before any search, and for a query that was none.
     const std::optional<ZEVRegularExpression> &expression() const;
 
@@ -85,6 +96,11 @@ private:
     class Search;
     void setNumberOfMatches(std::optional<qsizetype> number);
     void announceNumberOfMatches();
+    void beginSearch(const std::optional<ZEVRegularExpression> &expression,
+                     std::chrono::milliseconds duration);
+    void goOn(const std::shared_ptr<Search> &search, std::chrono::milliseconds duration);
+    void goOnSoon(const std::shared_ptr<Search> &search);
+    void endSearch(const Search &search);
     QWidget *firstResponder() const;
     bool findBarHasFocus();
     void showFindBar(qint64 action);
@@ -96,6 +112,8 @@ private:
     std::unique_ptr<std::optional<ZEVRegularExpression>> m_expression;
     QList<ZEVRange> m_foundMatches;
     std::optional<qsizetype> m_numberOfMatches;
-    quint64 m_searchNumber = 0;
+    std::shared_ptr<Search> m_search; ///< the last one, done or not
+    std::chrono::milliseconds m_sliceDuration{0};
+    bool m_isSearching = false;
     bool m_limitReached = false;
 };

@@ -8,8 +8,6 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderAction.h>
 #include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
 
-#include <QScopedValueRollback>
-
 #include <algorithm>
 
 using namespace ZEVTextFinderAction;
@@ -61,7 +59,8 @@ void ZEVTextFinderActor::performAction(qint64 action)
 
 bool ZEVTextFinderActor::isFresh() const
 {
-    return m_searchedClient == client() && m_changeStamp == client()->changeStamp();
+    return !m_finder->isSearching() && m_searchedClient == client()
+        && m_changeStamp == client()->changeStamp();
 }
 
 /// Whether there is something to act on. Observers of a search may do anything.
@@ -69,25 +68,29 @@ bool ZEVTextFinderActor::searchIfChanged()
 {
     if (!client())
         return false;
-    if (isFresh())
-        return true;
     const QPointer guard(this);
-    const QScopedValueRollback again(m_searchesAgain, true);
-    const auto expression = m_finder->expression();
-    m_finder->performSearchAgainstExpression(expression);
+    m_finder->finishSearch();
+    if (guard && client() && !isFresh())
+        m_finder->performSearchAgainstExpression(std::optional(m_finder->expression()));
+    if (guard && m_finder)
+        m_finder->finishSearch();
     return guard && client() && isFresh();
 }
 
+/// The user may have gone on typing: the query before is still the one of a text that was searched again.
 void ZEVTextFinderActor::searchEnded()
 {
     const ZEVTextFinderEditableClient *searched = client();
     m_searchedClient = searched;
     m_changeStamp = searched ? std::optional(searched->changeStamp()) : std::nullopt;
-    if (m_searchesAgain)
+    const auto &expression = m_finder->expression();
+    if (!expression)
         return;
-    m_query.reset();
-    if (m_querySource && m_finder->expression())
-        m_query = m_querySource();
+    if (const ZEVFindPanelQuery query = m_querySource ? m_querySource() : ZEVFindPanelQuery();
+        query.isQueryOf(*expression))
+        m_query = query;
+    else if (!m_query.isQueryOf(*expression))
+        m_query = {};
 }
 
 qsizetype ZEVTextFinderActor::firstMatchAt(qsizetype location) const

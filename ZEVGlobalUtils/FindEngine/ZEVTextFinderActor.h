@@ -79,7 +79,6 @@ private:
     bool searchIfChanged();
     void searchEnded();
     QVariantList replacePattern() const;
-    QList<ZEVOrvCaptureGroup> captureGroups() const;
     ZEVReplacementPreview previewOf(const QList<ZEVRange> &matches) const;
     bool replace(const QList<ZEVTextReplacement> &replacements, qint64 action);
     QList<ZEVRange> matchesInSelection() const;
@@ -94,10 +93,9 @@ private:
     std::function<ZEVFindPanelQuery()> m_querySource;
     std::function<QVariantList()> m_replacePatternSource;
     PlaceholderValue m_placeholderValue;
-    std::optional<ZEVFindPanelQuery> m_query; ///< of the last search
+    ZEVFindPanelQuery m_query; ///< of the last search; without a pattern when it is not known
     std::optional<quint64> m_changeStamp; ///< of the text that was searched
     const void *m_searchedClient = nullptr; ///< only compared
     QTimer m_timer;
     bool m_wrapsAround = true;
-    bool m_searchesAgain = false; ///< the query is still the one before
 };

@@ -20,7 +20,7 @@ public:
         : m_actor(actor)
         , m_client(*actor.client())
         , m_matcher(*actor.m_finder->expression())
-        , m_template(actor.replacePattern(), actor.captureGroups())
+        , m_template(actor.replacePattern(), actor.m_query.captureGroups())
         , m_matches(matches)
         , m_match(m_matches.begin())
     {
@@ -80,12 +80,6 @@ QVariantList ZEVTextFinderActor::replacePattern() const
 {
     return m_replacePatternSource ? m_replacePatternSource()
                                   : m_finder->textFinderViewController()->replacePattern();
-}
-
-QList<ZEVOrvCaptureGroup> ZEVTextFinderActor::captureGroups() const
-{
-    const bool wasSearched = m_query && m_query->searchExpression() == m_finder->expression();
-    return wasSearched ? m_query->captureGroups() : QList<ZEVOrvCaptureGroup>();
 }
 
 ZEVReplacementPreview ZEVTextFinderActor::previewOf(const QList<ZEVRange> &matches) const

@@ -9,8 +9,10 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderClient.h>
 #include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
 
+#include <QElapsedTimer>
 #include <QPointer>
 #include <QRegularExpression>
+#include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -102,6 +104,35 @@ private Q_SLOTS:
         QCOMPARE(counts, (QList<std::optional<qsizetype>>{1, 2, std::nullopt, 0}));
         finder.search(u"a"_s);
         QCOMPARE(finder.foundMatches(), (QList<ZEVRange>{{1, 1}})); // nothing of the search that it ended
+    }
+
+    void aLongSearchLetsOthersHaveTheirTurn()
+    {
+        Pieces client(QStringList(100, u"a"_s));
+        Finder finder(&client);
+        finder.setSliceDuration(1ms);
+        connect(&finder, &ZEVTextFinder::numberOfMatchesChanged, this, [&] {
+            QElapsedTimer slow;
+            slow.start();
+            while (finder.numberOfMatches() == 1 && slow.elapsed() < 3) { }
+        });
+        const QSignalSpy performed(&finder, &ZEVTextFinder::searchPerformed);
+        QVERIFY(finder.search(u"a"_s) < 100);
+        QVERIFY(finder.isSearching() && performed.isEmpty());
+        QTRY_COMPARE(performed.size(), 1);
+        QCOMPARE(finder.numberOfMatches(), 100);
+
+        finder.search(u"a"_s);
+        finder.search(u"b"_s);
+        QTRY_COMPARE(performed.size(), 2);
+        QCOMPARE(finder.numberOfMatches(), 0);
+        finder.search(u"a"_s);
+        finder.finishSearch();
+        QCOMPARE(finder.numberOfMatches(), 100);
+        finder.search(u"a"_s);
+        finder.setClient(nullptr); // as one does that goes
+        QTRY_COMPARE(performed.size(), 4);
+        QCOMPARE(finder.numberOfMatches(), std::nullopt);
     }
 
     void anObserverMayDeleteTheFinderOrItsClient()

@@ -9,7 +9,10 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderActor.h>
 #include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
 
+#include <QElapsedTimer>
+
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -234,6 +237,18 @@ private Q_SLOTS:
             QCOMPARE(round.after({action}), action == 4 ? u"x1-2"_s : u"xa1-a2"_s);
             QCOMPARE(round.after({action}), action == 4 ? u"x1-2"_s : u"x1-a2"_s);
         }
+        Round underWay(QString(u"a\n"_s).repeated(99), {u"a"_s}, {u"b"_s});
+        underWay.finder.setSliceDuration(1ms);
+        connect(&underWay.finder, &ZEVTextFinder::numberOfMatchesChanged, this, [&] {
+            QElapsedTimer slow;
+            slow.start();
+            while (underWay.finder.numberOfMatches() == 1 && slow.elapsed() < 3) { }
+        });
+        underWay.finder.performSearchAgainstExpression(underWay.query.searchExpression());
+        underWay.client.text.prepend(u"xx\n"_s);
+        QVERIFY(underWay.finder.isSearching());
+        QCOMPARE(underWay.after({4}), u"xx\n"_s + QString(u"b\n"_s).repeated(99));
+
         Round later(u"a"_s, {u"a"_s}, {});
         later.client.text = u"aa"_s;
         later.actor.searchAgainSoon();
