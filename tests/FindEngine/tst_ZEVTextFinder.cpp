@@ -9,7 +9,7 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderClient.h>
 #include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
 
-#include <QElapsedTimer>
+#include <QDeadlineTimer>
 #include <QPointer>
 #include <QRegularExpression>
 #include <QSignalSpy>
@@ -112,9 +112,7 @@ private Q_SLOTS:
         Finder finder(&client);
         finder.setSliceDuration(1ms);
         connect(&finder, &ZEVTextFinder::numberOfMatchesChanged, this, [&] {
-            QElapsedTimer slow;
-            slow.start();
-            while (finder.numberOfMatches() == 1 && slow.elapsed() < 3) { }
+            for (QDeadlineTimer slow(3); finder.numberOfMatches() == 1 && !slow.hasExpired();) { }
         });
         const QSignalSpy performed(&finder, &ZEVTextFinder::searchPerformed);
         QVERIFY(finder.search(u"a"_s) < 100);
