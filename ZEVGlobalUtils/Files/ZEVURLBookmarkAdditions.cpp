@@ -57,7 +57,7 @@ QCborMap fields(const QByteArray &bookmark)
 QUrl ZEVURLBookmarkAdditions::URLWithBookmark(const QByteArray &bookmark, ZEVError *error)
 {
     const QUrl reference = decoded(fields(bookmark).value(ReferenceKey));
-    const QUrl url = ZEVFileReference::filePathURL(reference);
+    QUrl url = ZEVFileReference::filePathURL(reference);
     if (url.isLocalFile() && ZEVFileOperations::status(ZEVFileURL::path(url)))
         return url;
     setError(error, reference.isLocalFile() ? ENOENT : EINVAL, url);
@@ -82,7 +82,7 @@ QByteArray ZEVURLBookmarkAdditions::bookmarkWithError(const QUrl &url, ZEVError 
 
 QByteArray ZEVURLBookmarkAdditions::bookmarkAndPersistToDefaults(const QUrl &url, ZEVError *error)
 {
-    const QByteArray bookmark = bookmarkWithError(url, error);
+    QByteArray bookmark = bookmarkWithError(url, error);
     if (bookmark.isNull())
         return {};
     ZEVUserDefaults *defaults = ZEVUserDefaults::standardUserDefaults();

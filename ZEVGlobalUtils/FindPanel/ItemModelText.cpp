@@ -122,7 +122,7 @@ QString ItemModelText::cellAt(qsizetype index, ZEVRange &place, QModelIndex *fou
         const int count = columnCount(m_rows[position.row]);
         while (position.column < count) {
             const QModelIndex current = cell(position.row, position.column++);
-            const QString string = text(current);
+            QString string = text(current);
             place = {position.location, extent(string)};
             position.location = place.end();
             if (index >= place.end())

@@ -30,10 +30,10 @@ public:
     qsizetype length();
 
     /// The text of the cell that holds \a index, and its place; an empty range where there is none.
-    QString cellAt(qsizetype index, ZEVRange &place, QModelIndex *cell = nullptr);
+    QString cellAt(qsizetype index, ZEVRange &place, QModelIndex *found = nullptr);
 
     /// Of length 0 for an empty cell, or one that is not searched.
-    ZEVRange placeOfCell(const QModelIndex &cell);
+    ZEVRange placeOfCell(const QModelIndex &wanted);
 
     QString text(const QModelIndex &cell) const;
 

@@ -89,7 +89,7 @@ void OEXTokenField::setUpText()
 
 void OEXTokenField::setDelegate(ZEVWeakRef<OEXTokenFieldDelegate> delegate)
 {
-    m_delegate = delegate;
+    m_delegate = std::move(delegate);
     rebuildText();
 }
 
@@ -292,9 +292,10 @@ void OEXTokenField::drawTokens(QPainter *painter, const QRect &area)
     const QTextLine line = layout->lineAt(0);
     const QPointF origin = textOrigin();
     const qreal baseline = origin.y() + line.y() + line.ascent();
+    // Of a list, since a pair of references to the two would outlive them.
     const auto [first, last] =
-        std::minmax(line.xToCursor(area.left() - origin.x(), QTextLine::CursorOnCharacter),
-                    line.xToCursor(area.right() - origin.x()));
+        std::minmax({line.xToCursor(area.left() - origin.x(), QTextLine::CursorOnCharacter),
+                     line.xToCursor(area.right() - origin.x())});
     for (int index = first; index <= last; ++index) {
         const qsizetype storageIndex = storageIndexOfLayoutIndex(index);
         const ZEVTextAttachmentPointer attachment = textStorage()->attachmentAtIndex(storageIndex);

@@ -114,6 +114,7 @@ private:
     void insertObjects(const QVariantList &objects);
     bool doCommand(ZEVTextCommand command);
     bool moveByWord(QKeyEvent *event);
+    bool endsToken(const QKeyEvent &event) const;
     bool tokenizeBeforeCaret();
     std::optional<qsizetype> tokenAt(QPoint position) const;
     QPointF textOrigin() const;

@@ -173,7 +173,7 @@ ZEVAttributedString OEXTokenFieldCell::textOfObject(const QVariant &object) cons
         return ZEVAttributedString(
             delegate->displayStringForRepresentedObject(this, object).value_or(object.toString()));
     const auto attachment = std::make_shared<ZEVTextAttachment>(object);
-    const ZEVAttributedString text = ZEVTextAttachments::attributedStringWithAttachment(attachment);
+    ZEVAttributedString text = ZEVTextAttachments::attributedStringWithAttachment(attachment);
     updateTokenAttachment(attachment.get(), text);
     return text;
 }

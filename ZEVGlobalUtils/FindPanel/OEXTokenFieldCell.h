@@ -26,7 +26,7 @@ public:
     Q_DISABLE_COPY_MOVE(OEXTokenFieldCell)
 
     OEXTokenFieldCellDelegate *delegate() const { return m_delegate.get(); }
-    void setDelegate(ZEVWeakRef<OEXTokenFieldCellDelegate> delegate) { m_delegate = delegate; }
+    void setDelegate(ZEVWeakRef<OEXTokenFieldCellDelegate> delegate) { m_delegate = std::move(delegate); }
 
     /// The widget that the cell belongs to; null while it belongs to none.
     QWidget *controlView() const { return m_controlView; }

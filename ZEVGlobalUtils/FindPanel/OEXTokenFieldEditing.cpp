@@ -77,16 +77,18 @@ void OEXTokenField::keyPressEvent(QKeyEvent *event)
 {
     if (const std::optional<ZEVTextCommand> command = commandOfKey(*event)) {
         event->setAccepted(doCommand(*command));
-    } else if (moveByWord(event)) {
-        event->accept();
     } else if (movesBetweenLines(event->key())) {
         event->ignore();
-    } else if (!isReadOnly() && !event->text().isEmpty() && m_tokenizingCharacters.contains(event->text())
-               && tokenizeBeforeCaret()) {
+    } else if (moveByWord(event) || (endsToken(*event) && tokenizeBeforeCaret())) {
         event->accept();
     } else {
         QTextEdit::keyPressEvent(event);
     }
+}
+
+bool OEXTokenField::endsToken(const QKeyEvent &event) const
+{
+    return !isReadOnly() && !event.text().isEmpty() && m_tokenizingCharacters.contains(event.text());
 }
 
 bool OEXTokenField::moveByWord(QKeyEvent *event)
@@ -202,9 +204,13 @@ void OEXTokenField::mouseDoubleClickEvent(QMouseEvent *event)
         clickedOnCellAtIndex(*token);
 }
 
+/// One line scrolls sideways only. The editor's own way would also zoom a read-only text.
 void OEXTokenField::wheelEvent(QWheelEvent *event)
 {
-    QAbstractScrollArea::wheelEvent(event); // the editor's own would zoom a read-only text
+    if (qAbs(event->angleDelta().x()) > qAbs(event->angleDelta().y()))
+        QCoreApplication::sendEvent(horizontalScrollBar(), event);
+    else
+        event->ignore();
 }
 
 bool OEXTokenField::canInsertFromMimeData(const QMimeData *source) const

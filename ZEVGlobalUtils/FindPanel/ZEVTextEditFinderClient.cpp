@@ -11,6 +11,7 @@
 #include <QTextBlock>
 
 #include <algorithm>
+#include <ranges>
 
 namespace {
 
@@ -154,9 +155,9 @@ bool ZEVTextEditFinderClient::replace(const QList<ZEVTextReplacement> &replaceme
     const ZEVRange selection = rangeAfter(selectedRanges().first(), replacements);
     QTextCursor cursor(m_document);
     cursor.beginEditBlock();
-    for (auto replacement = replacements.rbegin(); replacement != replacements.rend(); ++replacement) {
-        selectRange(cursor, replacement->range);
-        cursor.insertText(replacement->after);
+    for (const ZEVTextReplacement &replacement : std::ranges::reverse_view(replacements)) {
+        selectRange(cursor, replacement.range);
+        cursor.insertText(replacement.after);
     }
     cursor.endEditBlock();
     setSelectedRanges({selection});

@@ -153,7 +153,7 @@ void ZEVTextFinderUserInterfaceVC::setUpMatchingTypes()
 
 void ZEVTextFinderUserInterfaceVC::setDelegate(ZEVWeakRef<ZEVTextFinderUserInterfaceDelegate> delegate)
 {
-    m_delegate = delegate;
+    m_delegate = std::move(delegate);
 }
 
 void ZEVTextFinderUserInterfaceVC::setSearchPattern(const std::optional<QVariantList> &pattern)

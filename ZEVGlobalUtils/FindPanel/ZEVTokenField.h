@@ -72,7 +72,10 @@ public:
     void setMenu(QMenu *menu);
 
     ZEVTokenFieldMenuDelegate *menuDelegate() const { return m_menuDelegate.get(); }
-    void setMenuDelegate(ZEVWeakRef<ZEVTokenFieldMenuDelegate> delegate) { m_menuDelegate = delegate; }
+    void setMenuDelegate(ZEVWeakRef<ZEVTokenFieldMenuDelegate> delegate)
+    {
+        m_menuDelegate = std::move(delegate);
+    }
 
     /// Puts the token in place of the selection, and the caret behind it.
     void insertToken(const QVariant &token);

@@ -55,7 +55,7 @@ QUrl ZEVFileReference::filePathURL(const QUrl &url)
     const auto wanted = identity(url);
     if (!wanted)
         return url;
-    const QUrl pathURL = url.adjusted(QUrl::RemoveFragment);
+    QUrl pathURL = url.adjusted(QUrl::RemoveFragment);
     if (isAtItsPath(*wanted, ZEVFileURL::path(pathURL)))
         return pathURL;
     const QUrl folder = ZEVFileURL::byDeletingLastPathComponent(pathURL);

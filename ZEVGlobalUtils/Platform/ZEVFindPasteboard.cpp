@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int LockMilliseconds = 500;
-constexpr qint64 LargestFile = 16 * 1024 * 1024; // what is larger, nobody typed
+constexpr qint64 LargestFile = 16LL * 1024 * 1024; // what is larger, nobody typed
 
 const QString ChangeCountKey = u"changeCount"_s;
 const QString StringKey = u"string"_s;

@@ -105,7 +105,7 @@ QString TagWriter::write(const std::filesystem::path &path, const Texts &texts)
         ZEVFileURL::byAppendingPathComponent(*folder.url(), ZEVFileURL::lastPathComponent(original));
     if (!files.copyItemAtURL(original, copy, &error))
         return error.localizedDescription();
-    if (const QString problem = writeInto(pathOf(copy), texts); !problem.isEmpty())
+    if (QString problem = writeInto(pathOf(copy), texts); !problem.isEmpty())
         return problem;
     if (!files.replaceItemAtURL(original, copy, nullptr, &error))
         return error.localizedDescription();

@@ -391,7 +391,5 @@ private:
     QTemporaryDir m_folder;
 };
 
-Q_DECLARE_METATYPE(ZEVRange)
-
 QTEST_MAIN(tst_TokenFields)
 #include "tst_TokenFields.moc"
