@@ -9,6 +9,7 @@
 #include <ZEVGlobalUtils/Platform/ZEVTextAttachmentCell.h>
 
 #include <QAbstractTextDocumentLayout>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollBar>

@@ -11,7 +11,6 @@
 #include <QTextBlock>
 
 #include <algorithm>
-#include <ranges>
 
 namespace {
 
@@ -155,9 +154,9 @@ bool ZEVTextEditFinderClient::replace(const QList<ZEVTextReplacement> &replaceme
     const ZEVRange selection = rangeAfter(selectedRanges().first(), replacements);
     QTextCursor cursor(m_document);
     cursor.beginEditBlock();
-    for (const ZEVTextReplacement &replacement : std::ranges::reverse_view(replacements)) {
-        selectRange(cursor, replacement.range);
-        cursor.insertText(replacement.after);
+    for (qsizetype n = replacements.size(); n-- > 0;) { // from the end, so that the ranges stay right
+        selectRange(cursor, replacements[n].range);
+        cursor.insertText(replacements[n].after);
     }
     cursor.endEditBlock();
     setSelectedRanges({selection});

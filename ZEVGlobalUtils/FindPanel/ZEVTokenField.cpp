@@ -9,6 +9,7 @@
 #include <ZEVGlobalUtils/Platform/ZEVUserDefaults.h>
 
 #include <QKeyEvent>
+#include <QMenu>
 
 using namespace Qt::StringLiterals;
 
