@@ -15,6 +15,7 @@
 #include <QMenu>
 #include <QProgressBar>
 #include <QTableView>
+#include <QTextDocument>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;

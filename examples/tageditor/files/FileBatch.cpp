@@ -108,13 +108,13 @@ public:
     Result undo(const QList<FileChange> &changes)
     {
         plan(changes);
-        for (auto change = changes.crbegin(); change != changes.crend(); ++change) {
-            begin(*change);
-            takeBack(*change);
+        for (qsizetype n = changes.size(); n-- > 0;) {
+            begin(changes[n]);
+            takeBack(changes[n]);
         }
         m_batch->m_journal.begin();
-        for (auto change = m_left.crbegin(); change != m_left.crend(); ++change)
-            m_batch->m_journal.append(*change);
+        for (qsizetype n = m_left.size(); n-- > 0;)
+            m_batch->m_journal.append(m_left.at(n));
         return m_result;
     }
 
@@ -153,7 +153,7 @@ private:
                              : m_manager.moveItemAtURL(change.source, change.destination, &error);
     }
 
-    void perform(FileChange change)
+    void perform(const FileChange &change)
     {
         ZEVError error;
         if (bring(change, error))
