@@ -3,8 +3,8 @@
 
 #include <tageditor/FindLine.h>
 
+#include <tageditor/FindTokens.h>
 #include <tageditor/MessageLabel.h>
-#include <tageditor/PatternString.h>
 #include <tageditor/TrackSearch.h>
 
 #include <ZEVGlobalUtils/FindPanel/ZEVPatternTokens.h>
@@ -31,7 +31,7 @@ constexpr qint64 CountInterval = 50;
 FindLine::FindLine(TrackSearch *search, QWidget *parent)
     : QWidget(parent)
     , m_search(search)
-    , m_tokens(new ZEVPatternTokens({PatternString::vocabulary()}, this))
+    , m_tokens(new ZEVPatternTokens({findTokens()}, this))
     , m_pattern(new ZEVTokenField(this))
     , m_matchingType(new QComboBox(this))
     , m_caseSensitive(new QCheckBox(tr("Case &Sensitive"), this))

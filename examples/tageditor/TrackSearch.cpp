@@ -5,8 +5,7 @@
 
 #include <tageditor/TrackTableModel.h>
 
-#include <ZEVGlobalUtils/Platform/ZEVError.h>
-#include <ZEVGlobalUtils/Platform/ZEVErrorPresentation.h>
+#include <ZEVGlobalUtils/Platform/ZEVErrorCatcher.h>
 
 #include <QElapsedTimer>
 
@@ -18,21 +17,6 @@ namespace {
 /// the last one took: the larger pause of the two keeps the window free for its user.
 constexpr qint64 ShortestPause = 250;
 constexpr qint64 PauseFactor = 4;
-
-/// While this lives, errors that are meant for the user end up in a text instead of an alert.
-class ErrorCatcher {
-public:
-    explicit ErrorCatcher(QString &text)
-        : m_previous(ZEVErrorPresentation::setPresenter(
-            [&text](const ZEVError &error) { text = error.localizedDescription(); }))
-    {
-    }
-    ~ErrorCatcher() { ZEVErrorPresentation::setPresenter(m_previous); }
-    Q_DISABLE_COPY_MOVE(ErrorCatcher)
-
-private:
-    ZEVErrorPresentation::Presenter m_previous;
-};
 
 } // namespace
 
@@ -141,7 +125,7 @@ void TrackSearch::compileExpression()
 {
     m_queryChanged = false;
     m_error.clear();
-    const ErrorCatcher catcher(m_error);
+    const ZEVErrorCatcher catcher(m_error);
     m_expression = m_query.searchExpression();
 }
 
