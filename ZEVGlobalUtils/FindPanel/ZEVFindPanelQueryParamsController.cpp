@@ -126,7 +126,10 @@ void ZEVFindPanelQueryParamsController::setUpButtons()
         if (tagOf(button) == 0)
             continue;
         m_actionButtons.append(button);
-        connect(button, &QAbstractButton::clicked, this, [this, button] { replaceButtonPressed(button); });
+        const bool replacesAll = tagOf(button) == ZEVTextFinderAction::ReplaceAll;
+        connect(button, &QAbstractButton::clicked, this, [this, button, replacesAll] {
+            replacesAll ? replaceAllButtonPressed(button) : replaceButtonPressed(button);
+        });
     }
 }
 
