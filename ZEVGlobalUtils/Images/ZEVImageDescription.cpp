@@ -9,6 +9,7 @@
 #include <ZEVGlobalUtils/Images/ZEVPboardImageWriter.h>
 #include <ZEVGlobalUtils/Images/ZEVPreviewPanel.h>
 #include <ZEVGlobalUtils/Platform/ZEVErrorPresentation.h>
+#include <ZEVGlobalUtils/Platform/ZEVFileErrors.h>
 #include <ZEVGlobalUtils/Platform/ZEVPasteboard.h>
 #include <ZEVGlobalUtils/Platform/ZEVPrivateFolder_p.h>
 #include <ZEVGlobalUtils/Platform/ZEVUniformType.h>
@@ -71,7 +72,7 @@ std::optional<ZEVError> writePreview(const QByteArray &data, const QString &path
 {
     const QString folder = ZEVImageDescription::quickLookTemporaryDirectoryURL(true).toLocalFile();
     if (!ZEVPrivateFolder::isPrivate(folder))
-        return ZEVImageFile::writeError(ZEVImageFile::WriteNoPermissionError, path, folder);
+        return ZEVImageFile::writeError(ZEVFileErrors::FileWriteNoPermission, path, folder);
     if (QFileInfo(path).isSymLink())
         QFile::remove(path); // written through, it would change a file elsewhere
     if (ZEVImageFile::read(path) == data && QFileInfo::exists(path))
@@ -83,7 +84,7 @@ std::optional<ZEVError> writePreview(const QByteArray &data, const QString &path
 void presentOnMainThread(const ZEVError &error)
 {
     QCoreApplication *const application = QCoreApplication::instance();
-    if (application && error.code() != ZEVImageFile::WriteFileExistsError)
+    if (application && error.code() != ZEVFileErrors::FileWriteFileExists)
         QMetaObject::invokeMethod(
             application, [error] { ZEVErrorPresentation::presentError(error); }, Qt::QueuedConnection);
 }

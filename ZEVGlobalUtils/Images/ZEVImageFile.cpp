@@ -3,6 +3,7 @@
 
 #include <ZEVGlobalUtils/Images/ZEVImageFile_p.h>
 
+#include <ZEVGlobalUtils/Platform/ZEVFileErrors.h>
 #include <ZEVGlobalUtils/Transforms/ZEVGlobalHelper.h>
 
 #include <QFileInfo>
@@ -15,10 +16,10 @@ constexpr qint64 LargestFile = 256LL * 1024 * 1024;
 qint64 codeOf(const QFileDevice &file, const QString &path)
 {
     if (QFileInfo(path).isDir())
-        return ZEVImageFile::WriteFileExistsError;
+        return ZEVFileErrors::FileWriteFileExists;
     const bool isDenied =
         file.error() == QFileDevice::PermissionsError || !QFileInfo(QFileInfo(path).path()).isWritable();
-    return isDenied ? ZEVImageFile::WriteNoPermissionError : ZEVImageFile::WriteUnknownError;
+    return isDenied ? ZEVFileErrors::FileWriteNoPermission : ZEVFileErrors::FileWriteUnknown;
 }
 
 } // namespace
