@@ -10,6 +10,7 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QPointer>
 
 using namespace ZEVTextFinderAction;
 
@@ -33,26 +34,54 @@ QList<Entry> entries()
     };
 }
 
-void followMatches(QAction *item, ZEVTextFinder *finder)
+using FinderSource = std::function<ZEVTextFinder *()>;
+
+QList<QAction *> addItemsFor(QMenu *menu, const FinderSource &finder)
 {
-    const auto update = [item, finder] { item->setEnabled(finder->validateAction(ZEVMenuItem::tag(item))); };
-    QObject::connect(finder, &ZEVTextFinder::searchPerformed, item, update);
-    update();
+    QList<QAction *> items;
+    for (const Entry &entry : entries()) {
+        QAction *item = menu->addAction(ZEVGlobalHelper::localizedStringForKey(entry.title));
+        ZEVMenuItem::setTag(item, entry.action);
+        item->setShortcuts(entry.shortcuts);
+        QObject::connect(item, &QAction::triggered, item, [item, finder] {
+            if (ZEVTextFinder *current = finder())
+                current->tryToPerformTextFinderAction(item);
+        });
+        items.append(item);
+    }
+    return items;
+}
+
+/// Whether a selection can be used depends on the focus: such an item is not greyed, and does nothing.
+bool dependsOnMatches(const QAction *item)
+{
+    const qint64 action = ZEVMenuItem::tag(item);
+    return action == NextMatch || action == PreviousMatch;
+}
+
+void update(QAction *item, ZEVTextFinder *finder)
+{
+    if (dependsOnMatches(item))
+        item->setEnabled(finder && finder->validateAction(ZEVMenuItem::tag(item)));
 }
 
 } // namespace
 
 void ZEVTextFinderMenu::addItems(QMenu *menu, ZEVTextFinder *finder)
 {
-    for (const Entry &entry : entries()) {
-        QAction *item = menu->addAction(ZEVGlobalHelper::localizedStringForKey(entry.title));
-        ZEVMenuItem::setTag(item, entry.action);
-        item->setShortcuts(entry.shortcuts);
-        QObject::connect(item, &QAction::triggered, finder,
-                         [item, finder] { finder->tryToPerformTextFinderAction(item); });
+    for (QAction *item : addItemsFor(menu, [guard = QPointer(finder)] { return guard.data(); })) {
         QObject::connect(finder, &QObject::destroyed, item, &QObject::deleteLater);
-        // Whether a selection can be used depends on the focus: such an item is not greyed, and does nothing.
-        if (entry.action == NextMatch || entry.action == PreviousMatch)
-            followMatches(item, finder);
+        QObject::connect(finder, &ZEVTextFinder::searchPerformed, item,
+                         [item, finder] { update(item, finder); });
+        update(item, finder);
+    }
+}
+
+/// Only an open menu shows what is possible: the shortcuts must reach a finder that nobody has asked yet.
+void ZEVTextFinderMenu::addItems(QMenu *menu, const FinderSource &finder)
+{
+    for (QAction *item : addItemsFor(menu, finder)) {
+        QObject::connect(menu, &QMenu::aboutToShow, item, [item, finder] { update(item, finder()); });
+        QObject::connect(menu, &QMenu::aboutToHide, item, [item] { item->setEnabled(true); });
     }
 }
