@@ -63,7 +63,7 @@ bool ZEVTextFinderActor::isFresh() const
         && m_changeStamp == client()->changeStamp();
 }
 
-/// Whether there is something to act on. Observers of a search may do anything.
+/// Observers of a search may do anything.
 bool ZEVTextFinderActor::searchIfChanged()
 {
     if (!client())

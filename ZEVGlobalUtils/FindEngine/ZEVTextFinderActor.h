@@ -64,6 +64,10 @@ public:
     /// refused.
     bool apply(const ZEVReplacementPreview &preview);
 
+    /// Ends a search that is going on, and searches again if the text has changed since. False when there is
+    /// no text whose matches are known then.
+    bool searchIfChanged();
+
     /// Once the events at hand are done, if the text has changed since the search.
     void searchAgainSoon() { m_timer.start(0); }
 
@@ -76,7 +80,6 @@ private:
     ZEVTextFinderEditableClient *client() const;
     const QList<ZEVRange> &matches() const;
     bool isFresh() const;
-    bool searchIfChanged();
     void searchEnded();
     QVariantList replacePattern() const;
     ZEVReplacementPreview previewOf(const QList<ZEVRange> &matches) const;

@@ -20,6 +20,7 @@ public:
     {
     }
 
+    const QList<int> &columns() const { return m_columns; }
     void setColumns(const QList<int> &columns);
     void setRole(int role);
     int role() const { return m_role; }

@@ -90,6 +90,8 @@ void ZEVItemModelFinderClient::watchModel()
 
 void ZEVItemModelFinderClient::setColumns(const QList<int> &columns)
 {
+    if (columns == m_text->columns())
+        return;
     m_text->setColumns(columns);
     noteChange();
 }
@@ -120,6 +122,7 @@ void ZEVItemModelFinderClient::noteDataChange(const QModelIndex &topLeft, const 
 void ZEVItemModelFinderClient::noteSearch()
 {
     m_searchedStamp = m_changeStamp;
+    followSelection();
     repaint();
 }
 
@@ -158,6 +161,18 @@ bool ZEVItemModelFinderClient::selectionIsOurs() const
     const QItemSelectionModel *model = selectionModel();
     return m_selectionStamp == m_changeStamp
         && (!model || (model->currentIndex() == m_currentCell && model->selection() == m_selection));
+}
+
+/// The selected match stays so wherever its cell is sorted to, as long as that keeps its text.
+void ZEVItemModelFinderClient::followSelection()
+{
+    const QItemSelectionModel *model = selectionModel();
+    if (m_selectionStamp == m_changeStamp || m_selectedRanges.size() != 1 || !model
+        || model->currentIndex() != m_currentCell || model->selection() != m_selection
+        || m_text->text(m_currentCell) != m_selectedText)
+        return;
+    m_selectedRanges.first().location = m_text->placeOfCell(m_currentCell).location + m_locationInCell;
+    m_selectionStamp = m_changeStamp;
 }
 
 QList<ZEVRange> ZEVItemModelFinderClient::selectedRanges() const
@@ -199,6 +214,10 @@ void ZEVItemModelFinderClient::selectCells(QItemSelectionModel &model)
     model.select(runs.selection(), flags);
     m_selection = model.selection();
     m_currentCell = model.currentIndex();
+    m_selectedText = m_text->text(m_currentCell);
+    m_locationInCell = m_selectedRanges.isEmpty()
+        ? 0
+        : m_selectedRanges.first().location - m_text->placeOfCell(m_currentCell).location;
 }
 
 void ZEVItemModelFinderClient::scrollSelectionToVisible()

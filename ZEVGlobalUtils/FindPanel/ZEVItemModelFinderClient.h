@@ -79,6 +79,7 @@ private:
     void noteSearch();
     QItemSelectionModel *selectionModel() const;
     bool selectionIsOurs() const;
+    void followSelection();
     void selectCells(QItemSelectionModel &model);
     QList<CellChange> cellChanges(const QList<ZEVTextReplacement> &replacements) const;
     bool write(const QList<CellChange> &changes, const QString &undoText);
@@ -95,5 +96,7 @@ private:
     QList<ZEVRange> m_selectedRanges; ///< as they were set last, with what that made of the view's selection
     QItemSelection m_selection;
     QPersistentModelIndex m_currentCell;
+    QString m_selectedText; ///< of that cell
+    qsizetype m_locationInCell = 0; ///< of the first range
     quint64 m_selectionStamp = 0;
 };
