@@ -1,17 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include "Samples.h"
-
-#include <tageditor/DarkPalette.h>
-#include <tageditor/MatchHighlightDelegate.h>
-#include <tageditor/TrackSearch.h>
-#include <tageditor/TrackTableModel.h>
-
+#include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
+#include <ZEVGlobalUtils/FindEngine/ZEVTextFinderAction.h>
+#include <ZEVGlobalUtils/FindEngine/ZEVTextFinderActor.h>
+#include <ZEVGlobalUtils/FindPanel/ZEVItemModelFinderClient.h>
 #include <ZEVGlobalUtils/FindPanel/ZEVMatchColors.h>
+#include <ZEVGlobalUtils/FindPanel/ZEVMatchHighlightDelegate.h>
+#include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
 
 #include <QImage>
 #include <QPainter>
+#include <QStandardItemModel>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -25,21 +25,21 @@ class Cell {
 public:
     explicit Cell(const QString &text)
     {
-        m_model.append({Samples::track({text})});
+        m_model.appendRow(new QStandardItem(text));
         m_option.rect = QRect(QPoint(), CellSize);
         m_option.state = QStyle::State_Enabled | QStyle::State_Active;
         m_option.displayAlignment = Qt::AlignLeft | Qt::AlignVCenter;
     }
 
-    TrackSearch &find(const QString &expression)
+    void find(const QString &expression)
     {
         ZEVFindPanelQuery query;
         query.setSearchPattern(QVariantList{expression});
         query.setMatchingType(ZEVFindPanelQuery::RegularExpression);
-        m_search.setQuery(query);
-        m_search.searchIfPending();
-        return m_search;
+        m_finder.performSearchAgainstExpression(query.searchExpression());
     }
+
+    void goToNextMatch() { m_actor.performAction(ZEVTextFinderAction::NextMatch); }
 
     QStyleOptionViewItem &option() { return m_option; }
 
@@ -49,7 +49,7 @@ public:
         QImage image(CellSize, QImage::Format_RGB32);
         image.fill(m_option.palette.color(QPalette::Base));
         QPainter painter(&image);
-        MatchHighlightDelegate(&m_search).paint(&painter, m_option, m_model.index(0, 0));
+        ZEVMatchHighlightDelegate(&m_client).paint(&painter, m_option, m_model.index(0, 0));
         std::pair<int, int> extent(-1, -1);
         for (int x = 0; x < image.width(); ++x) {
             if (image.pixel(x, image.height() / 2 + 6) != color.rgb())
@@ -66,21 +66,22 @@ public:
     }
 
 private:
-    TrackTableModel m_model;
-    TrackSearch m_search{&m_model};
+    QStandardItemModel m_model;
+    ZEVTextFinder m_finder;
+    ZEVItemModelFinderClient m_client{&m_model, nullptr, &m_finder};
+    ZEVTextFinderActor m_actor{&m_finder};
     QStyleOptionViewItem m_option;
 };
 
 } // namespace
 
-class tst_MatchHighlightDelegate : public QObject {
+class tst_MatchHighlight : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
     void oneLineKeepsEveryUnit()
     {
-        const TrackTableModel model;
-        const MatchHighlightDelegate delegate(nullptr);
+        const ZEVHighlightDelegate delegate;
         QCOMPARE(delegate.displayText(u"a\nb\tc\u2028d\r\u0001e"_s, QLocale()), u"a↵b→c↵d  e"_s);
     }
 
@@ -105,7 +106,7 @@ private Q_SLOTS:
         QFETCH(QList<ZEVRange>, matches);
         QFETCH(int, current);
         const ZEVCellMatches visible =
-            MatchHighlightDelegate::visibleMatches({matches, current}, u"Harbour Lights"_s, u"Harbour…"_s);
+            ZEVHighlightDelegate::visibleMatches({matches, current}, u"Harbour Lights"_s, u"Harbour…"_s);
         QTEST(visible.ranges, "visible");
         QTEST(int(visible.current), "visibleCurrent");
     }
@@ -114,10 +115,10 @@ private Q_SLOTS:
     {
         Cell cell(u"mmmm mmmm"_s);
         QCOMPARE(cell.extentOf(cell.matchColor(false)).first, -1);
-        TrackSearch &search = cell.find(u"m{4}"_s);
+        cell.find(u"m{4}"_s);
         const auto both = cell.extentOf(cell.matchColor(false));
         QVERIFY(both.first >= 0 && both.second > both.first);
-        search.step(TrackSearch::Forward);
+        cell.goToNextMatch();
         const auto current = cell.extentOf(cell.matchColor(true));
         const auto other = cell.extentOf(cell.matchColor(false));
         QCOMPARE(current.first, both.first);
@@ -156,7 +157,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QPalette>("palette");
         QTest::newRow("light") << QPalette(QColor(239, 239, 239));
-        QTest::newRow("dark") << darkPalette();
+        QTest::newRow("dark") << QPalette(QColor(53, 53, 53));
     }
     void textsStayReadable()
     {
@@ -177,5 +178,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(tst_MatchHighlightDelegate)
-#include "tst_MatchHighlightDelegate.moc"
+QTEST_MAIN(tst_MatchHighlight)
+#include "tst_MatchHighlight.moc"
