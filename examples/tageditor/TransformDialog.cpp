@@ -3,13 +3,13 @@
 
 #include <tageditor/TransformDialog.h>
 
-#include <ZEVGlobalUtils/FindPanel/ZEVHighlightDelegate.h>
+#include <tageditor/PreviewTable.h>
+
 #include <ZEVGlobalUtils/Platform/ZEVUserDefaults.h>
 
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -41,12 +41,10 @@ TransformDialog::TransformDialog(QList<TextChange> cells, int transform, QWidget
     , m_transform(new QComboBox)
     , m_language(new QComboBox)
     , m_untouched(new QLineEdit)
-    , m_table(new QTableView)
     , m_count(new QLabel)
 {
     setWindowTitle(tr("Transform Text"));
     fillChoices(transform);
-    setUpTable();
     layOut();
     restoreRules();
     connect(&m_model, &TransformPreviewModel::progressed, this, &TransformDialog::showCount);
@@ -71,23 +69,6 @@ void TransformDialog::fillChoices(int transform)
     m_untouched->setToolTip(tr("Spellings that stay as they are, with commas between them"));
 }
 
-void TransformDialog::setUpTable()
-{
-    m_table->setAccessibleName(tr("Preview"));
-    m_table->setModel(&m_model);
-    m_table->setItemDelegate(new ZEVHighlightDelegate(m_table));
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setAlternatingRowColors(true);
-    m_table->setShowGrid(false);
-    m_table->setWordWrap(false);
-    m_table->setTabKeyNavigation(false); // so that Tab leaves the table
-    m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() * 3 / 2);
-    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    m_table->horizontalHeader()->setHighlightSections(false);
-}
-
 void TransformDialog::layOut()
 {
     auto *choices = new QFormLayout;
@@ -101,7 +82,7 @@ void TransformDialog::layOut()
 
     auto *rows = new QVBoxLayout(this);
     rows->addLayout(choices);
-    rows->addWidget(m_table, 1);
+    rows->addWidget(makePreviewTable(&m_model), 1);
     rows->addWidget(m_count);
     rows->addWidget(buttons);
     apply->setDefault(true); // only now, since the dialog takes no note of it before the button is in it

@@ -10,7 +10,6 @@
 class QComboBox;
 class QLabel;
 class QLineEdit;
-class QTableView;
 
 /// Asks which transform to apply to texts, and by which rules, and shows what becomes of them meanwhile.
 /// It changes nothing itself.
@@ -29,7 +28,6 @@ public:
 
 private:
     void fillChoices(int transform);
-    void setUpTable();
     void layOut();
     void restoreRules();
     void rememberRules() const;
@@ -42,6 +40,5 @@ private:
     QComboBox *m_transform;
     QComboBox *m_language;
     QLineEdit *m_untouched;
-    QTableView *m_table;
     QLabel *m_count;
 };

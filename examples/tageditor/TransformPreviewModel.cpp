@@ -19,7 +19,7 @@ constexpr qint64 Slice = 8;
 } // namespace
 
 TransformPreviewModel::TransformPreviewModel(QList<TextChange> cells, QObject *parent)
-    : QAbstractTableModel(parent)
+    : PreviewModel({tr("Before"), tr("After")}, parent)
     , m_cells(std::move(cells))
 {
     connect(&m_timer, &QTimer::timeout, this, [this] { proceed(Slice); });
@@ -88,8 +88,6 @@ int TransformPreviewModel::rowCount(const QModelIndex &parent) const
     return parent.isValid() ? 0 : int(m_rows.size());
 }
 
-int TransformPreviewModel::columnCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : 2; }
-
 QVariant TransformPreviewModel::data(const QModelIndex &index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
@@ -102,15 +100,4 @@ QVariant TransformPreviewModel::data(const QModelIndex &index, int role) const
         return {};
     const TextDifference difference = TextDifference::between(before, row.after);
     return QVariant::fromValue(index.column() == Before ? difference.before : difference.after);
-}
-
-QVariant TransformPreviewModel::headerData(int section, Qt::Orientation orientation, int role) const
-{
-    if (orientation != Qt::Horizontal)
-        return QAbstractTableModel::headerData(section, orientation, role);
-    if (role == Qt::TextAlignmentRole)
-        return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
-    if (role != Qt::DisplayRole)
-        return {};
-    return section == Before ? tr("Before") : tr("After");
 }

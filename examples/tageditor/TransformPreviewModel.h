@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <tageditor/PreviewModel.h>
 #include <tageditor/TextTransform.h>
 #include <tageditor/TrackTableModel.h>
 
@@ -12,7 +13,7 @@
 
 /// What a transform makes of texts: a row for each text that it changes, as it was and as it would be. The
 /// texts are gone through a little at a time, so that a hundred thousand of them stop nobody from typing.
-class TransformPreviewModel : public QAbstractTableModel {
+class TransformPreviewModel : public PreviewModel {
     Q_OBJECT
 
 public:
@@ -34,9 +35,7 @@ public:
     QList<TextChange> changes() const;
 
     int rowCount(const QModelIndex &parent = {}) const override;
-    int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 Q_SIGNALS:
     /// After every little.

@@ -4,11 +4,11 @@
 #include <tageditor/files/RenameDialog.h>
 
 #include <tageditor/files/FileNamePattern.h>
+#include <tageditor/PreviewTable.h>
 
 #include <ZEVGlobalUtils/Platform/ZEVUserDefaults.h>
 
 #include <QDialogButtonBox>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -56,29 +56,11 @@ void RenameDialog::layOut()
 
     auto *rows = new QVBoxLayout(this);
     rows->addLayout(choices);
-    rows->addWidget(makePreview(), 1);
+    rows->addWidget(makePreviewTable(&m_model), 1);
     rows->addWidget(m_count);
     rows->addWidget(buttons);
     m_rename->setDefault(true);
     resize(fontMetrics().averageCharWidth() * 110, fontMetrics().height() * 28);
-}
-
-QWidget *RenameDialog::makePreview()
-{
-    auto *table = new QTableView;
-    table->setAccessibleName(tr("Preview"));
-    table->setModel(&m_model);
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->setAlternatingRowColors(true);
-    table->setShowGrid(false);
-    table->setWordWrap(false);
-    table->setTabKeyNavigation(false); // so that Tab leaves the table
-    table->verticalHeader()->hide();
-    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() * 3 / 2);
-    table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    table->horizontalHeader()->setHighlightSections(false);
-    return table;
 }
 
 /// For those who do not know them by heart.

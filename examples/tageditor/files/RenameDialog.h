@@ -24,7 +24,6 @@ public:
 
 private:
     void layOut();
-    QWidget *makePreview();
     QWidget *makePlaceholderButton();
     void updatePreview();
 

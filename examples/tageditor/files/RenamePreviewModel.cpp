@@ -22,7 +22,7 @@ QUrl urlOf(const std::string &path) { return ZEVFileURL::withPath(QByteArray::fr
 } // namespace
 
 RenamePreviewModel::RenamePreviewModel(const QList<Track> &tracks, QObject *parent)
-    : QAbstractTableModel(parent)
+    : PreviewModel({tr("Before"), tr("After")}, parent)
 {
     for (const Track &track : tracks)
         m_rows.push_back({track, {}});
@@ -75,8 +75,6 @@ int RenamePreviewModel::rowCount(const QModelIndex &parent) const
     return parent.isValid() ? 0 : int(m_rows.size());
 }
 
-int RenamePreviewModel::columnCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : 2; }
-
 QVariant RenamePreviewModel::data(const QModelIndex &index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
@@ -98,15 +96,4 @@ QVariant RenamePreviewModel::data(const QModelIndex &index, int role) const
     default:
         return {};
     }
-}
-
-QVariant RenamePreviewModel::headerData(int section, Qt::Orientation orientation, int role) const
-{
-    if (orientation != Qt::Horizontal)
-        return QAbstractTableModel::headerData(section, orientation, role);
-    if (role == Qt::TextAlignmentRole)
-        return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
-    if (role != Qt::DisplayRole)
-        return {};
-    return section == Before ? tr("Before") : tr("After");
 }

@@ -4,14 +4,13 @@
 #pragma once
 
 #include <tageditor/files/FileJournal.h>
+#include <tageditor/PreviewModel.h>
 #include <tageditor/Track.h>
-
-#include <QAbstractTableModel>
 
 #include <vector>
 
 /// What a pattern makes of files' names: a row for each file.
-class RenamePreviewModel : public QAbstractTableModel {
+class RenamePreviewModel : public PreviewModel {
     Q_OBJECT
 
 public:
@@ -28,9 +27,7 @@ public:
     int numberOfConflicts() const { return m_numberOfConflicts; }
 
     int rowCount(const QModelIndex &parent = {}) const override;
-    int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
     struct Row {
