@@ -3,7 +3,7 @@
 
 #include <tageditor/AutomatedRun.h>
 
-#include <tageditor/FindLine.h>
+#include <tageditor/find/TrackFind.h>
 #include <tageditor/MainWindow.h>
 
 #include <QCoreApplication>
@@ -28,7 +28,7 @@ QString onOneLine(QString text)
         .replace(u'\r', u"\\r"_s);
 }
 
-QString reportLine(const MainWindow &window, const TrackFinderClient::Place &place)
+QString reportLine(const MainWindow &window, const TrackFind::Match &place)
 {
     const Track &track = window.tracks().track(place.row);
     const QString file = QDir(window.folder()).relativeFilePath(displayedPath(track.path));
@@ -100,11 +100,11 @@ void AutomatedRun::perform()
 
 QString AutomatedRun::report(MainWindow &window)
 {
-    const qsizetype count = window.search().numberOfMatches().value_or(0);
+    const QList<TrackFind::Match> matches = window.find().matches();
     QString report;
-    for (qsizetype n = 0; n < count; ++n)
-        report += reportLine(window, window.search().match(n));
-    return report + u"%1 matches\n"_s.arg(count);
+    for (const TrackFind::Match &match : matches)
+        report += reportLine(window, match);
+    return report + u"%1 matches\n"_s.arg(matches.size());
 }
 
 /// The grab comes behind the painting in the order of the connection.

@@ -4,20 +4,22 @@
 #include <tageditor/MainWindow.h>
 
 #include <tageditor/files/FileActions.h>
-#include <tageditor/FindLine.h>
-#include <tageditor/MatchHighlightDelegate.h>
+#include <tageditor/find/TrackFind.h>
+#include <tageditor/inspector/Inspector.h>
 #include <tageditor/MessageLabel.h>
 #include <tageditor/QuickOpen.h>
 #include <tageditor/SizeLabel.h>
 #include <tageditor/TextEditing.h>
 #include <tageditor/TrackSaving.h>
 
+#include <ZEVGlobalUtils/FindPanel/ZEVTextFinderMenu.h>
 #include <ZEVGlobalUtils/Platform/ZEVUserDefaults.h>
 
 #include <QAction>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDir>
+#include <QDockWidget>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
@@ -28,7 +30,6 @@
 #include <QStatusBar>
 #include <QStyle>
 #include <QTableView>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -57,25 +58,19 @@ QString withModifiedMarker(QString title) { return title.replace(u"[*]"_s, u"[*]
 
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
-    , m_search(&m_model)
     , m_mayDiscard([this] { return askToDiscard(); })
-    , m_findLine(new FindLine(&m_search))
     , m_table(new QTableView)
     , m_counts(new QLabel)
     , m_problem(new MessageLabel)
     , m_progress(new QProgressBar)
 {
-    auto *content = new QWidget;
-    auto *rows = new QVBoxLayout(content);
-    rows->setContentsMargins(0, 0, 0, 0);
-    rows->setSpacing(0);
-    rows->addWidget(m_findLine);
-    rows->addWidget(m_table, 1);
-    setCentralWidget(content);
     setUpTable();
     m_editing = new TextEditing(&m_model, m_table);
+    m_find = new TrackFind(&m_model, m_table, m_editing);
+    setCentralWidget(m_find);
     m_files = new FileActions(&m_model, m_table);
     m_quickOpen = new QuickOpen(&m_model, this);
+    addInspector();
     makeMenus();
     setUpStatusBar();
     watchReader();
@@ -107,11 +102,10 @@ void MainWindow::makeMenus()
 
 void MainWindow::addFindActions(QMenu *menu)
 {
-    menu->addAction(tr("&Find"), QKeySequence(u"Ctrl+F"_s), m_findLine, &FindLine::beginEditing);
-    menu->addAction(tr("Find &Next"), this, [this] { m_search.step(TrackSearch::Forward); })
-        ->setShortcuts({QKeySequence(u"F3"_s), QKeySequence(u"Ctrl+G"_s)});
-    menu->addAction(tr("Find &Previous"), this, [this] { m_search.step(TrackSearch::Backward); })
-        ->setShortcuts({QKeySequence(u"Shift+F3"_s), QKeySequence(u"Ctrl+Shift+G"_s)});
+    ZEVTextFinderMenu::addItems(menu, [this] { return currentFinder(); });
+    menu->addAction(tr("Find in &Fields…"), QKeySequence(u"Ctrl+Shift+F"_s), m_find, &TrackFind::showPanel);
+    menu->addAction(tr("Preview Replace&ments…"), QKeySequence(u"Ctrl+Shift+H"_s), m_find,
+                    &TrackFind::reviewReplacements);
     menu->addAction(tr("&Quick Open…"), QKeySequence(u"Ctrl+K"_s), m_quickOpen, &QuickOpen::open);
 }
 
@@ -144,7 +138,7 @@ void MainWindow::setUpTable()
 {
     m_table->setAccessibleName(tr("Tracks"));
     m_table->setModel(&m_model);
-    m_table->setItemDelegate(new MatchHighlightDelegate(&m_search, m_table));
+    m_table->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
     m_table->setSelectionBehavior(QAbstractItemView::SelectItems);
     m_table->setAlternatingRowColors(true);
     m_table->setShowGrid(false);
@@ -164,8 +158,22 @@ void MainWindow::setUpTable()
     for (int column = 0; column < TrackFieldCount; ++column)
         m_table->setColumnWidth(column,
                                 FirstWidths.at(size_t(column)) * m_table->fontMetrics().averageCharWidth());
-    connect(&m_search, &TrackSearch::searched, m_table->viewport(), qOverload<>(&QWidget::update));
-    connect(&m_search, &TrackSearch::currentMatchChanged, this, &MainWindow::showCurrentMatch);
+}
+
+void MainWindow::addInspector()
+{
+    m_inspector = new Inspector(&m_model, m_table->selectionModel(), m_editing);
+    auto *dock = new QDockWidget(tr("Tags"), this);
+    dock->setObjectName(u"TagsDock"_s);
+    dock->setWidget(m_inspector);
+    addDockWidget(Qt::RightDockWidgetArea, dock);
+}
+
+/// The keys for finding belong to the editor of comments while one is in it, and to the table elsewhere.
+ZEVTextFinder *MainWindow::currentFinder()
+{
+    FindPlace &comment = m_inspector->commentFind();
+    return comment.hasFocusWithin() ? &comment.finder() : &m_find->finder();
 }
 
 void MainWindow::setUpStatusBar()
@@ -202,6 +210,7 @@ void MainWindow::watchTexts()
 
 void MainWindow::openFolder(const QString &folder)
 {
+    m_inspector->commit();
     if (m_model.hasChanges() && !m_mayDiscard())
         return;
     m_folder = QDir::cleanPath(QDir(folder).absolutePath());
@@ -232,7 +241,11 @@ bool MainWindow::askToDiscard()
     return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save());
 }
 
-bool MainWindow::save() { return TrackSaving::save(&m_model, this); }
+bool MainWindow::save()
+{
+    m_inspector->commit();
+    return TrackSaving::save(&m_model, this);
+}
 
 /// The whole row, with the cursor in the title.
 void MainWindow::selectTrack(int trackId)
@@ -270,7 +283,7 @@ void MainWindow::finishReading(const QString &failure)
     const QHeaderView *header = m_table->horizontalHeader();
     if (header->sortIndicatorSection() >= 0)
         m_model.sort(header->sortIndicatorSection(), header->sortIndicatorOrder());
-    m_search.searchIfPending();
+    m_find->actor().searchAgainSoon();
     showCounts();
     fitColumns();
     if (!failure.isEmpty())
@@ -278,15 +291,6 @@ void MainWindow::finishReading(const QString &failure)
             tr("The folder “%1” could not be read: %2").arg(QDir::toNativeSeparators(m_folder), failure),
             true);
     Q_EMIT folderRead(failure);
-}
-
-void MainWindow::showCurrentMatch()
-{
-    const auto place = m_search.match(m_search.currentMatch());
-    const QModelIndex index = m_model.index(place.row, int(place.field));
-    m_table->setCurrentIndex(index);
-    m_table->scrollTo(index);
-    m_table->viewport()->update();
 }
 
 void MainWindow::showCounts()
@@ -320,6 +324,7 @@ void MainWindow::restoreGeometryFromDefaults()
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
+    m_inspector->commit();
     if (m_model.hasChanges() && !m_mayDiscard()) {
         event->ignore();
         return;

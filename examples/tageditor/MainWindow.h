@@ -4,7 +4,6 @@
 #pragma once
 
 #include <tageditor/FolderReader.h>
-#include <tageditor/TrackSearch.h>
 #include <tageditor/TrackTableModel.h>
 
 #include <QItemSelectionModel>
@@ -13,15 +12,17 @@
 #include <functional>
 
 class FileActions;
-class FindLine;
+class Inspector;
 class MessageLabel;
 class QLabel;
 class QProgressBar;
 class QTableView;
 class QuickOpen;
 class TextEditing;
+class TrackFind;
+class ZEVTextFinder;
 
-/// The tracks of one folder in a table, with a line to find text in them and menus to change it.
+/// The tracks of one folder in a table, with a bar to find text in them, and what changes them beside it.
 class MainWindow : public QMainWindow {
     Q_OBJECT
 
@@ -40,8 +41,8 @@ public:
 
     const QString &folder() const { return m_folder; }
     const TrackTableModel &tracks() const { return m_model; }
-    TrackSearch &search() { return m_search; }
-    FindLine &findLine() { return *m_findLine; }
+    TrackFind &find() { return *m_find; }
+    Inspector &inspector() { return *m_inspector; }
     QTableView &table() { return *m_table; }
 
 Q_SIGNALS:
@@ -56,6 +57,8 @@ private:
     void addFindActions(QMenu *menu);
     void addSelectActions(QMenu *menu);
     void setUpTable();
+    void addInspector();
+    ZEVTextFinder *currentFinder();
     void setUpStatusBar();
     void watchReader();
     void watchTexts();
@@ -67,7 +70,6 @@ private:
     void showProgress(qsizetype read, qsizetype total);
     void showSkippedFolder(const QString &folder, const QString &reason);
     void finishReading(const QString &failure);
-    void showCurrentMatch();
     void showCounts();
     void fitColumns();
     void restoreGeometryFromDefaults();
@@ -76,12 +78,12 @@ private:
     QString m_firstSkipped; ///< tells of the first folder within that could not be listed
     int m_skippedFolders = 0;
     TrackTableModel m_model;
-    TrackSearch m_search;
     FolderReader m_reader;
     std::function<bool()> m_mayDiscard;
-    FindLine *m_findLine;
     QTableView *m_table;
     TextEditing *m_editing;
+    TrackFind *m_find;
+    Inspector *m_inspector;
     FileActions *m_files;
     QuickOpen *m_quickOpen;
     QLabel *m_counts;

@@ -31,6 +31,20 @@ void setComment(TagLib::File &file, const QString &text)
     file.setProperties(properties);
 }
 
+/// Of "7/12" the 12 stays.
+void setNumber(TagLib::File &file, const QString &text)
+{
+    TagLib::PropertyMap properties = file.properties();
+    const QString before = QString::fromStdString(properties["TRACKNUMBER"].toString().to8Bit(true));
+    const qsizetype total = before.indexOf(u'/');
+    if (total < 0 || text.isEmpty()) {
+        file.tag()->setTrack(text.toUInt());
+        return;
+    }
+    properties.replace("TRACKNUMBER", TagLib::StringList(tagText(text + before.sliced(total))));
+    file.setProperties(properties);
+}
+
 void setText(TagLib::File &file, TrackField field, const QString &text)
 {
     switch (field) {
@@ -44,8 +58,12 @@ void setText(TagLib::File &file, TrackField field, const QString &text)
         return file.tag()->setGenre(tagText(text));
     case TrackField::Comment:
         return setComment(file, text);
-    default:
-        return; // neither names nor numbers are texts of a tag
+    case TrackField::Year:
+        return file.tag()->setYear(text.toUInt());
+    case TrackField::Number:
+        return setNumber(file, text);
+    case TrackField::FileName:
+        return; // no text of a tag
     }
 }
 

@@ -21,6 +21,9 @@ TextEditing::TextEditing(TrackTableModel *model, QTableView *table)
     connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &TextEditing::updateActions);
     connect(model, &TrackTableModel::modelReset, this, &TextEditing::updateActions);
+    connect(model, &TrackTableModel::textEntered, this, [this](const TextChange &entered) {
+        change(tr("Edit %1").arg(TrackTableModel::titleForField(entered.field)), {entered});
+    });
 }
 
 void TextEditing::addUndoActions(QMenu *menu)
@@ -65,9 +68,14 @@ void TextEditing::askForTransform(int transform)
 void TextEditing::perform(const TransformDialog &dialog)
 {
     const QString name = dialog.transform().plainName();
-    const QList<TextChange> changes = dialog.changes();
-    if (changes.isEmpty())
+    if (!change(name, dialog.changes()))
         Q_EMIT nothingDone(tr("%1: nothing to change").arg(name));
-    else
-        m_stack.push(new TextCommand(name, m_model, changes));
+}
+
+bool TextEditing::change(const QString &name, const QList<TextChange> &changes)
+{
+    const QList<TextChange> possible = m_model->possibleChanges(changes);
+    if (!possible.isEmpty())
+        m_stack.push(new TextCommand(name, m_model, possible));
+    return !possible.isEmpty();
 }

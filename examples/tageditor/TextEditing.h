@@ -3,12 +3,13 @@
 
 #pragma once
 
+#include <tageditor/TrackTableModel.h>
+
 #include <QObject>
 #include <QUndoStack>
 
 class QMenu;
 class QTableView;
-class TrackTableModel;
 class TransformDialog;
 
 /// Lets the user re-write the selected texts of the table, and take that back.
@@ -20,6 +21,13 @@ public:
 
     void addUndoActions(QMenu *menu);
     void addTransforms(QMenu *menu);
+
+    /// In one step, which undo calls \a name. Texts that a field cannot take are left out. False when nothing
+    /// was to be changed.
+    bool change(const QString &name, const QList<TextChange> &changes);
+
+    /// What other parts of the window do is undone by the same keys.
+    QUndoStack &undoStack() { return m_stack; }
 
     /// Forgets every step.
     void clear() { m_stack.clear(); }

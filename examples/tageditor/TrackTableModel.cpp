@@ -14,6 +14,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// Years and track numbers are written with four digits at most.
+constexpr uint LargestNumber = 9999;
+
 /// The reason stands where the title would be.
 QString shownText(const Track &track, TrackField field)
 {
@@ -32,6 +35,18 @@ QString toolTip(const Track &track, TrackField field)
 QString plainToolTip(const QString &text)
 {
     return text.isEmpty() ? QString() : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
+}
+
+bool isNumber(TrackField field) { return field == TrackField::Year || field == TrackField::Number; }
+
+/// As it is read from a file again; nil for what is no number that a tag can hold.
+std::optional<QString> number(const QString &text)
+{
+    bool isNumber = false;
+    const uint number = text.trimmed().toUInt(&isNumber);
+    if (isNumber && number > 0 && number <= LargestNumber)
+        return QString::number(number);
+    return text.trimmed().isEmpty() ? std::optional(QString()) : std::nullopt;
 }
 
 QFont boldFont()
@@ -77,14 +92,21 @@ int TrackTableModel::rowOfTrack(int trackId) const
 
 bool TrackTableModel::isEditable(int row, TrackField field) const
 {
-    switch (field) {
-    case TrackField::FileName:
-    case TrackField::Year:
-    case TrackField::Number:
-        return false;
-    default:
-        return track(row).isReadable();
+    return field != TrackField::FileName && track(row).isReadable();
+}
+
+QList<TextChange> TrackTableModel::possibleChanges(const QList<TextChange> &changes) const
+{
+    QList<TextChange> possible;
+    for (const auto &[id, field, wanted] : changes) {
+        const int row = rowOfTrack(id);
+        if (row < 0 || !isEditable(row, field))
+            continue;
+        const std::optional<QString> text = isNumber(field) ? number(wanted) : wanted;
+        if (text && *text != track(row).text(field))
+            possible.append({id, field, *text});
     }
+    return possible;
 }
 
 QList<TextChange> TrackTableModel::setTexts(const QList<TextChange> &changes)
@@ -203,6 +225,8 @@ QVariant TrackTableModel::data(const QModelIndex &index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         return shownText(track, field);
+    case Qt::EditRole:
+        return track.text(field);
     case Qt::ToolTipRole:
         return plainToolTip(toolTip(track, field));
     case Qt::FontRole:
@@ -223,6 +247,21 @@ QVariant TrackTableModel::headerData(int section, Qt::Orientation orientation, i
     if (role == Qt::TextAlignmentRole)
         return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
     return role == Qt::DisplayRole ? titleForField(TrackField(section)) : QVariant();
+}
+
+Qt::ItemFlags TrackTableModel::flags(const QModelIndex &index) const
+{
+    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    const bool isEditable = index.isValid() && this->isEditable(index.row(), TrackField(index.column()));
+    return isEditable ? flags | Qt::ItemIsEditable : flags;
+}
+
+bool TrackTableModel::setData(const QModelIndex &index, const QVariant &value, int role)
+{
+    if (role != Qt::EditRole || !flags(index).testFlag(Qt::ItemIsEditable))
+        return false;
+    Q_EMIT textEntered({track(index.row()).id, TrackField(index.column()), value.toString()});
+    return true;
 }
 
 void TrackTableModel::sort(int column, Qt::SortOrder order)

@@ -35,8 +35,13 @@ public:
     /// -1 for a track that is not there any more.
     int rowOfTrack(int trackId) const;
 
-    /// Texts that may be changed are those of the tags but the numbers, in files that could be read.
+    /// Texts that may be changed are those of the tags, in files that could be read.
     bool isEditable(int row, TrackField field) const;
+
+    /// Those of \a changes that make a difference, each with its text as the field takes it: years and track
+    /// numbers are digits, without zeros before them, or nothing. A change that a field cannot take is left
+    /// out.
+    QList<TextChange> possibleChanges(const QList<TextChange> &changes) const;
 
     /// Changes all of them at once, and returns what changes them back. Rows stay where they are, whatever
     /// the table was sorted by, so that nothing jumps from under its user.
@@ -65,9 +70,17 @@ public:
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+
+    /// Changes nothing itself, so that whatever is changed can be undone: see textEntered().
+    bool setData(const QModelIndex &index, const QVariant &value, int role) override;
 
     /// By a column's text or, for a \a column that is none, by path.
     void sort(int column, Qt::SortOrder order) override;
+
+Q_SIGNALS:
+    /// The user has typed a text into a cell.
+    void textEntered(const TextChange &change);
 
 private:
     using Cell = std::pair<int, int>; ///< a track's id and a column

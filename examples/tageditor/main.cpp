@@ -3,9 +3,12 @@
 
 #include <tageditor/AutomatedRun.h>
 #include <tageditor/DarkPalette.h>
-#include <tageditor/FindLine.h>
+#include <tageditor/find/FindInterfaces.h>
+#include <tageditor/find/TrackFind.h>
 #include <tageditor/gallery/GalleryWindow.h>
 #include <tageditor/MainWindow.h>
+
+#include <ZEVGlobalUtils/FindPanel/ZEVTokenField.h>
 
 #include <QApplication>
 #include <QStyle>
@@ -31,6 +34,17 @@ void goDark(QApplication &application)
     if (application.style()->name() != u"fusion")
         application.setStyle(QStyleFactory::create(u"Fusion"_s));
     application.setPalette(darkPalette());
+}
+
+/// The text is a pattern, as the find field shows it.
+ZEVFindPanelQuery queryOf(const CommandLine &commandLine, FindBar &bar)
+{
+    bar.view();
+    ZEVFindPanelQuery query;
+    query.setSearchPattern(bar.findTokenField()->conversionPatternForPatternString(commandLine.findText));
+    query.setMatchingType(commandLine.matchingType);
+    query.setCaseInsensitiveSearch(!commandLine.isCaseSensitive);
+    return query;
 }
 
 int runGallery(const CommandLine &commandLine)
@@ -64,11 +78,9 @@ int main(int argc, char **argv)
 
     MainWindow window;
     const AutomatedRun run(&window, commandLine);
-    window.findLine().setMatchingType(commandLine.matchingType);
-    window.findLine().setCaseSensitive(commandLine.isCaseSensitive);
-    if (!commandLine.findText.isEmpty())
-        window.findLine().setPatternText(commandLine.findText);
     window.show();
+    if (!commandLine.findText.isEmpty())
+        window.find().find(queryOf(commandLine, window.find().bar()));
     window.openFolder(commandLine.folder);
     return application.exec();
 }

@@ -5,7 +5,8 @@
 
 #include "Samples.h"
 
-#include <tageditor/FindLine.h>
+#include <tageditor/find/FindInterfaces.h>
+#include <tageditor/find/TrackFind.h>
 #include <tageditor/MainWindow.h>
 #include <tageditor/SizeLabel.h>
 
@@ -44,8 +45,30 @@ struct Shown {
         return read.wait();
     }
 
-    QString message() const { return messageLabel()->text(); }
-    QLabel *messageLabel() const { return window.findChild<FindLine *>()->findChild<QLabel *>(); }
+    /// Shows the bar and types into its field, as by keys.
+    void find(const QString &text, qint64 matchingType = ZEVFindPanelQuery::Contains)
+    {
+        QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
+        bar().setMatchingType(matchingType);
+        bar().findTokenField()->clear();
+        QTest::keyClicks(bar().findTokenField(), text);
+    }
+
+    /// Of the bar, which is shown for it.
+    ZEVTokenField *findField()
+    {
+        if (!window.find().isFindBarVisible())
+            QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
+        return bar().findTokenField();
+    }
+
+    FindBar &bar() { return window.find().bar(); }
+    QString count()
+    {
+        return bar().view()->findChild<QLabel *>(QStringLiteral("numberOfMatchesLabel"))->text();
+    }
+    QString message() { return messageLabel()->text(); }
+    QLabel *messageLabel() { return bar().view()->findChild<QLabel *>(QStringLiteral("messageLabel")); }
     QString status() const
     {
         QStringList texts;
@@ -85,7 +108,6 @@ struct Shown {
     }
 
     MainWindow window;
-    ZEVTokenField *line = window.findChild<FindLine *>()->findChild<ZEVTokenField *>();
     bool visible = false;
 };
 

@@ -84,7 +84,7 @@ private Q_SLOTS:
     void returnSelectsTheTrackWhereverItIsSortedTo()
     {
         Opened opened;
-        QVERIFY(opened.openBy(opened.line));
+        QVERIFY(opened.openBy(opened.findField()));
         opened.window.table().sortByColumn(int(TrackField::Year), Qt::DescendingOrder); // meanwhile
         QTest::keyClicks(opened.field, u"fjord"_s);
         QTest::keyClick(opened.field, Qt::Key_Return);
@@ -129,9 +129,9 @@ private Q_SLOTS:
     void escapeGivesTheFocusBack()
     {
         Opened opened;
-        QVERIFY(opened.openBy(opened.line));
+        QVERIFY(opened.openBy(opened.findField()));
         QTest::keyClick(opened.field, Qt::Key_Escape);
-        QVERIFY(!opened.quick->isVisible() && opened.line->hasFocus());
+        QVERIFY(!opened.quick->isVisible() && opened.findField()->hasFocus());
         QCOMPARE(opened.window.table().selectionModel()->hasSelection(), false);
         opened.window.table().setFocus();
         QTest::keyClick(&opened.window.table(), Qt::Key_K, Qt::ControlModifier);
@@ -145,8 +145,8 @@ private Q_SLOTS:
         QVERIFY(opened.openBy(&opened.window.table()));
         QTest::keyClicks(opened.field, u"fjord"_s);
         QTest::keyClick(opened.field, Qt::Key_F, Qt::ControlModifier);
-        QVERIFY(!opened.quick->isVisible() && opened.line->hasFocus());
-        QTest::keyClick(opened.line, Qt::Key_K, Qt::ControlModifier);
+        QVERIFY(!opened.quick->isVisible() && opened.findField()->hasFocus());
+        QTest::keyClick(opened.findField(), Qt::Key_K, Qt::ControlModifier);
         QCOMPARE(opened.field->text(), QString());
         QCOMPARE(opened.count(), 16);
     }

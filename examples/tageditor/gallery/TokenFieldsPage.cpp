@@ -3,7 +3,7 @@
 
 #include <tageditor/gallery/TokenFieldsPage.h>
 
-#include <tageditor/FindTokens.h>
+#include <tageditor/find/TagTokens.h>
 
 #include <ZEVGlobalUtils/FindPanel/OEXTokenFieldCell.h>
 #include <ZEVGlobalUtils/FindPanel/ZEVFilterSearchFieldCell.h>
@@ -136,7 +136,7 @@ QWidget *changed(ZEVTokenField *field, void (*change)(ZEVTokenField *))
 QWidget *tokenFieldsPage(QWidget *parent)
 {
     auto *page = new QWidget(parent);
-    auto *tokens = new ZEVPatternTokens({findTokens()}, page);
+    auto *tokens = new ZEVPatternTokens(TagTokens::findTokens(), page);
     const QString tall = u"Ünï 漢字 🎵 %(\\w+)%"_s;
     auto *rows = new QFormLayout(page);
     rows->addRow(u"Line edit"_s, new QLineEdit(u"Track 1 of this"_s));

@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <tageditor/find/FieldScope.h>
+
+#include <tageditor/TrackTableModel.h>
+
+#include <QCoreApplication>
+
+FieldScope::FieldScope(const QString &title, QList<int> columns)
+    : ZEVFindPanelScope(title)
+    , m_columns(std::move(columns))
+{
+}
+
+const QList<std::shared_ptr<FieldScope>> &FieldScope::all()
+{
+    static const QList<std::shared_ptr<FieldScope>> scopes = [] {
+        const QString everywhere = QCoreApplication::translate("FieldScope", "All Fields");
+        QList<std::shared_ptr<FieldScope>> all{std::make_shared<FieldScope>(everywhere, QList<int>())};
+        for (int field = 0; field < TrackFieldCount; ++field)
+            all.append(std::make_shared<FieldScope>(TrackTableModel::titleForField(TrackField(field)),
+                                                    QList<int>{field}));
+        return all;
+    }();
+    return scopes;
+}
+
+std::shared_ptr<ZEVFindPanelScope> FieldScope::copy() const
+{
+    return std::const_pointer_cast<FieldScope>(shared_from_this());
+}

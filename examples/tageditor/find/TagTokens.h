@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <tageditor/Track.h>
+
+#include <ZEVGlobalUtils/FindPanel/ZEVPatternTokens.h>
+
+#include <optional>
+
+/// The tokens that the window's find interfaces offer.
+namespace TagTokens {
+
+/// Kinds of text to look for.
+ZEVPatternTokens::Groups findTokens();
+
+/// What may be put in a match's place: a tab, what was found by a token, the track's own tags.
+ZEVPatternTokens::Groups replaceTokens();
+
+/// For the fields of a track.
+QList<ZEVPatternItem> fieldTokens();
+
+/// The texts of \a pattern, and for its tokens the texts of the fields.
+QString filledIn(const QVariantList &pattern, const Track &track);
+
+/// Nil for an item that stands for no field.
+std::optional<TrackField> fieldOf(const ZEVPatternItem &item);
+
+} // namespace TagTokens

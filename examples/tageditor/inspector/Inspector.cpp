@@ -1,0 +1,175 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <tageditor/inspector/Inspector.h>
+
+#include <tageditor/find/TagTokens.h>
+#include <tageditor/inspector/CommentEdit.h>
+#include <tageditor/inspector/TagField.h>
+#include <tageditor/TableSelection.h>
+#include <tageditor/TextEditing.h>
+#include <tageditor/TrackTableModel.h>
+
+#include <ZEVGlobalUtils/FindPanel/ZEVTextEditFinderClient.h>
+
+#include <QApplication>
+#include <QFormLayout>
+#include <QItemSelectionModel>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr TrackField LineFields[]{TrackField::Title, TrackField::Artist, TrackField::Album,
+                                  TrackField::Year,  TrackField::Number, TrackField::Genre};
+
+} // namespace
+
+Inspector::Inspector(TrackTableModel *model, const QItemSelectionModel *selection, TextEditing *editing,
+                     QWidget *parent)
+    : QWidget(parent)
+    , m_model(model)
+    , m_selection(selection)
+    , m_editing(editing)
+    , m_tokens(new ZEVPatternTokens({TagTokens::fieldTokens()}, this))
+    , m_comment(new CommentEdit)
+    , m_commentFind(new FindPlace(m_comment))
+{
+    layOut();
+    m_comment->setFinder(&m_commentFind->finder());
+    auto *client = new ZEVTextEditFinderClient(m_comment, &m_commentFind->finder());
+    connect(client, &ZEVTextEditFinderClient::textChanged, &m_commentFind->actor(),
+            &ZEVTextFinderActor::searchAgainSoon);
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget *before, const QWidget *now) {
+        if (now && m_commentFind->isAncestorOf(before) && !m_commentFind->isAncestorOf(now))
+            commitComment();
+    });
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, &Inspector::showTracks);
+    const auto showSoon = [this] { m_timer.start(0); };
+    connect(selection, &QItemSelectionModel::selectionChanged, this, [this, showSoon] {
+        commit(); // for the tracks that were shown
+        showSoon();
+    });
+    connect(model, &QAbstractItemModel::dataChanged, this, showSoon);
+    connect(model, &QAbstractItemModel::modelReset, this, &Inspector::showTracks);
+    showTracks();
+}
+
+Inspector::~Inspector() = default;
+
+void Inspector::layOut()
+{
+    auto *rows = new QVBoxLayout(this);
+    auto *form = new QFormLayout;
+    addFields(form);
+    auto *label = new QLabel(tr("&Comment:"));
+    label->setBuddy(m_comment);
+    m_comment->setAccessibleName(TrackTableModel::titleForField(TrackField::Comment));
+    m_comment->setTabChangesFocus(true);
+    rows->addLayout(form);
+    rows->addWidget(label);
+    rows->addWidget(m_commentFind, 1);
+}
+
+void Inspector::addFields(QFormLayout *form)
+{
+    for (const TrackField field : LineFields) {
+        auto *editor = new TagField(m_tokens);
+        const QString title = TrackTableModel::titleForField(field);
+        editor->setAccessibleName(title);
+        form->addRow(tr("%1:", "a tag's name").arg(title), editor);
+        m_fields.push_back({field, editor, {}});
+        connect(editor, &TagField::editingFinished, this,
+                [this, row = m_fields.size() - 1] { commitField(m_fields.at(row)); });
+    }
+}
+
+/// Unreadable tracks have no tags to show.
+void Inspector::showTracks()
+{
+    m_timer.stop();
+    m_trackIds.clear();
+    for (const int row : TableSelection::rows(*m_selection)) {
+        if (m_model->track(row).isReadable())
+            m_trackIds.append(m_model->track(row).id);
+    }
+    for (Row &row : m_fields)
+        showField(row);
+    showComment();
+    setEnabled(!m_trackIds.isEmpty());
+}
+
+/// Nil where the tracks differ.
+std::optional<QString> Inspector::commonText(TrackField field) const
+{
+    std::optional<QString> common;
+    for (const int id : m_trackIds) {
+        const QString &text = m_model->track(m_model->rowOfTrack(id)).text(field);
+        if (common && *common != text)
+            return std::nullopt;
+        common = text;
+    }
+    return common.value_or(QString());
+}
+
+/// What is being typed stays.
+void Inspector::showField(Row &row)
+{
+    const std::optional<QString> text = commonText(row.field);
+    const QVariantList shown = text && !text->isEmpty() ? QVariantList{*text} : QVariantList();
+    row.editor->setPlaceholderText(text ? QString() : tr("Mixed"));
+    const bool isBeingTyped = row.editor->hasFocus() && row.editor->objectValue() != row.shown;
+    if (!isBeingTyped)
+        row.editor->setObjectValue(shown);
+    row.shown = isBeingTyped ? shown : row.editor->objectValue();
+}
+
+void Inspector::showComment()
+{
+    const std::optional<QString> text = commonText(TrackField::Comment);
+    m_comment->setPlaceholderText(text ? QString() : tr("Mixed"));
+    const bool isBeingTyped = m_commentFind->hasFocusWithin() && m_comment->toPlainText() != m_shownComment;
+    const QString shown = text.value_or(QString());
+    if (!isBeingTyped && m_comment->toPlainText() != shown) // else the editor's own undo is kept
+        m_comment->setPlainText(shown);
+    m_shownComment = isBeingTyped ? shown : m_comment->toPlainText();
+}
+
+void Inspector::commit()
+{
+    for (Row &row : m_fields)
+        commitField(row);
+    commitComment();
+}
+
+void Inspector::commitField(Row &row)
+{
+    const QVariantList typed = row.editor->objectValue();
+    if (typed == row.shown)
+        return;
+    row.shown = typed;
+    change(row.field, typed);
+}
+
+void Inspector::commitComment()
+{
+    const QString typed = m_comment->toPlainText();
+    if (typed == m_shownComment)
+        return;
+    m_shownComment = typed;
+    change(TrackField::Comment, {typed});
+}
+
+void Inspector::change(TrackField field, const QVariantList &pattern)
+{
+    QList<TextChange> changes;
+    for (const int id : std::as_const(m_trackIds)) {
+        const int row = m_model->rowOfTrack(id);
+        if (row < 0)
+            continue;
+        changes.append({id, field, TagTokens::filledIn(pattern, m_model->track(row))});
+    }
+    m_editing->change(tr("Edit %1").arg(TrackTableModel::titleForField(field)), changes);
+    m_timer.start(0); // also where nothing was changed: the field shows what the tracks hold
+}

@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <tageditor/find/FindPlace.h>
+#include <tageditor/Track.h>
+
+#include <QTimer>
+#include <QVariantList>
+
+#include <vector>
+
+class CommentEdit;
+class QFormLayout;
+class QItemSelectionModel;
+class TagField;
+class TextEditing;
+class TrackTableModel;
+class ZEVPatternTokens;
+
+/// The tags of the selected tracks, each to be edited for all of them at once. A tag in which they differ
+/// shows no text and stays as it is unless one is typed.
+class Inspector : public QWidget {
+    Q_OBJECT
+
+public:
+    Inspector(TrackTableModel *model, const QItemSelectionModel *selection, TextEditing *editing,
+              QWidget *parent = nullptr);
+    ~Inspector() override;
+
+    /// Takes over what is still being typed.
+    void commit();
+
+    FindPlace &commentFind() { return *m_commentFind; }
+
+private:
+    struct Row {
+        TrackField field;
+        TagField *editor;
+        QVariantList shown; ///< what the tracks hold
+    };
+
+    void addFields(QFormLayout *form);
+    void layOut();
+    void showTracks();
+    std::optional<QString> commonText(TrackField field) const;
+    void showField(Row &row);
+    void showComment();
+    void commitField(Row &row);
+    void commitComment();
+    void change(TrackField field, const QVariantList &pattern);
+
+    TrackTableModel *m_model;
+    const QItemSelectionModel *m_selection;
+    TextEditing *m_editing;
+    ZEVPatternTokens *m_tokens;
+    std::vector<Row> m_fields;
+    CommentEdit *m_comment;
+    FindPlace *m_commentFind;
+    QString m_shownComment;
+    QList<int> m_trackIds; ///< those that are shown
+    QTimer m_timer; ///< shows the tracks once the events at hand are done
+};

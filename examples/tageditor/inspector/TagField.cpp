@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <tageditor/inspector/TagField.h>
+
+#include <ZEVGlobalUtils/FindPanel/ZEVPatternTokens.h>
+
+#include <QFocusEvent>
+#include <QMenu>
+
+TagField::TagField(ZEVPatternTokens *tokens, QWidget *parent)
+    : ZEVTokenField(parent)
+{
+    setDelegate(tokens);
+    setLossless(true);
+    setSelectsTextWhenFocused(true);
+    auto *menu = new QMenu(this);
+    setMenu(menu);
+    connect(menu, &QMenu::aboutToShow, this,
+            [this, menu, tokens] { ZEVPatternTokens::fillMenu(menu, this, tokens->groups()); });
+    connect(this, &OEXTokenField::actionTriggered, this, &TagField::editingFinished);
+}
+
+/// A menu only borrows the focus.
+void TagField::focusOutEvent(QFocusEvent *event)
+{
+    ZEVTokenField::focusOutEvent(event);
+    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::MenuBarFocusReason)
+        Q_EMIT editingFinished();
+}
