@@ -12,12 +12,19 @@
 
 using namespace ZEVTextFinderAction;
 
+namespace {
+
+/// Between searches that nobody has asked for, in milliseconds.
+constexpr qint64 Pause = 250;
+
+} // namespace
+
 ZEVTextFinderActor::ZEVTextFinderActor(ZEVTextFinder *finder, QObject *parent)
     : QObject(parent)
     , m_finder(finder)
 {
     m_timer.setSingleShot(true);
-    connect(&m_timer, &QTimer::timeout, this, &ZEVTextFinderActor::searchIfChanged);
+    connect(&m_timer, &QTimer::timeout, this, &ZEVTextFinderActor::searchAgain);
     connect(finder, &ZEVTextFinder::searchPerformed, this, &ZEVTextFinderActor::searchEnded);
     connect(finder, &ZEVTextFinder::actionLeftToHost, this, &ZEVTextFinderActor::performAction);
 }
@@ -75,6 +82,22 @@ bool ZEVTextFinderActor::searchIfChanged()
     if (guard && m_finder)
         m_finder->finishSearch();
     return guard && client() && isFresh();
+}
+
+void ZEVTextFinderActor::searchAgainSoon()
+{
+    if (m_timer.isActive())
+        return;
+    const qint64 passed = m_sinceSearch.isValid() ? m_sinceSearch.elapsed() : Pause;
+    m_timer.start(int(std::max<qint64>(Pause - passed, 0)));
+}
+
+/// A search that is going on finds out for itself that the text has changed.
+void ZEVTextFinderActor::searchAgain()
+{
+    m_sinceSearch.start();
+    if (client() && !m_finder->isSearching() && !isFresh())
+        m_finder->performSearchAgainstExpression(std::optional(m_finder->expression()));
 }
 
 /// The user may have gone on typing: the query before is still the one of a text that was searched again.

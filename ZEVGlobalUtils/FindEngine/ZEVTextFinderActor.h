@@ -7,6 +7,7 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVReplacementPreview.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVReplacementTemplate.h>
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
@@ -68,8 +69,9 @@ public:
     /// no text whose matches are known then.
     bool searchIfChanged();
 
-    /// Once the events at hand are done, if the text has changed since the search.
-    void searchAgainSoon() { m_timer.start(0); }
+    /// Once the events at hand are done, if the text has changed since the search; four times a second at
+    /// most, so that a text that keeps growing leaves its user time.
+    void searchAgainSoon();
 
 Q_SIGNALS:
     void wrappedAround();
@@ -80,6 +82,7 @@ private:
     ZEVTextFinderEditableClient *client() const;
     const QList<ZEVRange> &matches() const;
     bool isFresh() const;
+    void searchAgain();
     void searchEnded();
     QVariantList replacePattern() const;
     ZEVReplacementPreview previewOf(const QList<ZEVRange> &matches) const;
@@ -100,5 +103,6 @@ private:
     std::optional<quint64> m_changeStamp; ///< of the text that was searched
     const void *m_searchedClient = nullptr; ///< only compared
     QTimer m_timer;
+    QElapsedTimer m_sinceSearch;
     bool m_wrapsAround = true;
 };

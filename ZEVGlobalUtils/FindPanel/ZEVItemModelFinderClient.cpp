@@ -77,7 +77,7 @@ void ZEVItemModelFinderClient::watchModel()
     using Model = QAbstractItemModel;
     const auto note = &ZEVItemModelFinderClient::noteChange;
     connect(m_model, &Model::dataChanged, this, &ZEVItemModelFinderClient::noteDataChange);
-    connect(m_model, &Model::rowsInserted, this, note);
+    connect(m_model, &Model::rowsInserted, this, &ZEVItemModelFinderClient::noteRows);
     connect(m_model, &Model::rowsRemoved, this, note);
     connect(m_model, &Model::rowsMoved, this, note);
     connect(m_model, &Model::columnsInserted, this, note);
@@ -107,6 +107,16 @@ void ZEVItemModelFinderClient::noteChange()
     m_text->noteStructureChange();
     ++m_changeStamp;
     Q_EMIT textChanged();
+}
+
+/// What was found stays where it is when rows are added behind all others.
+void ZEVItemModelFinderClient::noteRows(const QModelIndex &parent, int, int last)
+{
+    const bool matchesStay =
+        m_searchedStamp == m_changeStamp && !parent.isValid() && last == m_model->rowCount() - 1;
+    noteChange();
+    if (matchesStay)
+        m_searchedStamp = m_changeStamp;
 }
 
 void ZEVItemModelFinderClient::noteDataChange(const QModelIndex &topLeft, const QModelIndex &bottomRight,

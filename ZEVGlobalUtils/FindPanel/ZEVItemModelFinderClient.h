@@ -75,6 +75,7 @@ Q_SIGNALS:
 private:
     void watchModel();
     void noteChange();
+    void noteRows(const QModelIndex &parent, int first, int last);
     void noteDataChange(const QModelIndex &topLeft, const QModelIndex &bottomRight, const QList<int> &roles);
     void noteSearch();
     QItemSelectionModel *selectionModel() const;
@@ -91,7 +92,7 @@ private:
     std::unique_ptr<ItemModelText> m_text;
     Writer m_writer;
     quint64 m_changeStamp = 1;
-    quint64 m_searchedStamp = 0;
+    quint64 m_searchedStamp = 0; ///< of the text that the matches hold for
 
     QList<ZEVRange> m_selectedRanges; ///< as they were set last, with what that made of the view's selection
     QItemSelection m_selection;
