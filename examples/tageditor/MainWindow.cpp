@@ -68,7 +68,7 @@ MainWindow::MainWindow(QWidget *parent)
     m_editing = new TextEditing(&m_model, m_table);
     m_find = new TrackFind(&m_model, m_table, m_editing);
     setCentralWidget(m_find);
-    m_files = new FileActions(&m_model, m_table);
+    m_files = new FileActions(&m_model, m_table, m_editing);
     m_quickOpen = new QuickOpen(&m_model, this);
     addInspector();
     makeMenus();

@@ -28,14 +28,31 @@ TextEditing::TextEditing(TrackTableModel *model, QTableView *table)
 
 void TextEditing::addUndoActions(QMenu *menu)
 {
-    QAction *undo = m_stack.createUndoAction(this);
-    undo->setShortcuts(QKeySequence::Undo);
-    QAction *redo = m_stack.createRedoAction(this);
+    m_undo = menu->addAction(QString(), &m_stack, &QUndoStack::undo);
+    m_undo->setShortcuts(QKeySequence::Undo);
+    m_redo = menu->addAction(QString(), &m_stack, &QUndoStack::redo);
     QList<QKeySequence> keys = QKeySequence::keyBindings(QKeySequence::Redo);
     if (const QKeySequence usual(u"Ctrl+Shift+Z"_s); !keys.contains(usual))
         keys.append(usual);
-    redo->setShortcuts(keys);
-    menu->addActions({undo, redo});
+    m_redo->setShortcuts(keys);
+    connect(&m_stack, &QUndoStack::indexChanged, this, &TextEditing::updateUndoActions);
+    updateUndoActions();
+}
+
+void TextEditing::setUndoBlocked(bool isBlocked)
+{
+    m_isUndoBlocked = isBlocked;
+    updateUndoActions();
+}
+
+void TextEditing::updateUndoActions()
+{
+    if (!m_undo)
+        return;
+    m_undo->setText(tr("&Undo %1").arg(m_stack.undoText()).trimmed());
+    m_undo->setEnabled(m_stack.canUndo() && !m_isUndoBlocked);
+    m_redo->setText(tr("Re&do %1").arg(m_stack.redoText()).trimmed());
+    m_redo->setEnabled(m_stack.canRedo() && !m_isUndoBlocked);
 }
 
 void TextEditing::addTransforms(QMenu *menu)

@@ -8,6 +8,9 @@
 #include <QObject>
 #include <QUndoStack>
 
+#include <memory>
+
+class QAction;
 class QMenu;
 class QTableView;
 class TransformDialog;
@@ -27,7 +30,10 @@ public:
     bool change(const QString &name, const QList<TextChange> &changes);
 
     /// What other parts of the window do is undone by the same keys.
-    QUndoStack &undoStack() { return m_stack; }
+    void push(std::unique_ptr<QUndoCommand> command) { m_stack.push(command.release()); }
+
+    /// While a step is under way that takes its time.
+    void setUndoBlocked(bool isBlocked);
 
     /// Forgets every step.
     void clear() { m_stack.clear(); }
@@ -38,11 +44,15 @@ Q_SIGNALS:
 
 private:
     void updateActions();
+    void updateUndoActions();
     void askForTransform(int transform);
     void perform(const TransformDialog &dialog);
 
     TrackTableModel *m_model;
     QTableView *m_table;
     QUndoStack m_stack;
+    QAction *m_undo = nullptr;
+    QAction *m_redo = nullptr;
+    bool m_isUndoBlocked = false;
     QList<QAction *> m_transforms;
 };

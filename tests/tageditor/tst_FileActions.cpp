@@ -122,10 +122,22 @@ private Q_SLOTS:
         QTest::keyClick(dialog, Qt::Key_Return);
         QTRY_COMPARE(shown.text(0, TrackField::FileName), after);
         QVERIFY(QFile::exists(folder.filePath(after)) && !QFile::exists(folder.filePath(u"x.mp3"_s)));
-        QTRY_VERIFY(shown.action(u"Put Files"_s)->isEnabled());
-        shown.action(u"Put Files"_s)->trigger();
+        QTRY_VERIFY(shown.action(u"Undo Rename Files"_s) && shown.action(u"Undo"_s)->isEnabled());
+        const QByteArray renamed = Trees::names(folder.path().toUtf8()).join('|');
+        shown.action(u"Undo"_s)->trigger();
+        QVERIFY(!shown.action(u"Undo"_s)->isEnabled() && !shown.action(u"Redo"_s)->isEnabled()); // under way
         QTRY_COMPARE(shown.text(0, TrackField::FileName), u"x.mp3"_s);
         QCOMPARE(Trees::names(folder.path().toUtf8()).join('|'), "x.mp3|y.flac");
+        QTRY_VERIFY(shown.action(u"Redo"_s)->isEnabled());
+        shown.action(u"Redo"_s)->trigger();
+        QTRY_COMPARE(shown.text(0, TrackField::FileName), after);
+        QCOMPARE(Trees::names(folder.path().toUtf8()).join('|'), renamed);
+        QTRY_VERIFY(shown.action(u"Undo"_s)->isEnabled());
+        QVERIFY(!shown.action(u"Put Files"_s)->isEnabled());
+        QVERIFY(shown.open(folder.path())); // which forgets the steps
+        QVERIFY(shown.action(u"Put Files"_s)->isEnabled());
+        shown.action(u"Put Files"_s)->trigger();
+        QTRY_COMPARE(Trees::names(folder.path().toUtf8()).join('|'), "x.mp3|y.flac");
         QTRY_VERIFY(!shown.action(u"Put Files"_s)->isEnabled());
         QVERIFY(!shown.window.isWindowModified());
     }

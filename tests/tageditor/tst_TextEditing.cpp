@@ -97,7 +97,7 @@ private Q_SLOTS:
         }
         QVERIFY(after.contains(u"Été À La Plage"_s));
         QCOMPARE(shown.text(0, TrackField::FileName), u"01 Track 12.mp3"_s);
-        QCOMPARE(shown.action(u"Undo"_s)->text(), u"Undo Capitalize Words"_s);
+        QVERIFY(shown.action(u"Undo Capitalize Words"_s));
         QVERIFY(shown.window.isWindowModified());
         shown.window.table().sortByColumn(int(TrackField::Title), Qt::DescendingOrder);
         QVERIFY(shown.activate());

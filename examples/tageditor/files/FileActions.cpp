@@ -5,6 +5,7 @@
 
 #include <tageditor/files/RenameDialog.h>
 #include <tageditor/TableSelection.h>
+#include <tageditor/TextEditing.h>
 #include <tageditor/TrackTableModel.h>
 
 #include <ZEVGlobalUtils/Platform/ZEVFileURL.h>
@@ -39,17 +40,21 @@ QUrl urlOf(const Track &track)
 
 } // namespace
 
-FileActions::FileActions(TrackTableModel *model, QTableView *table)
+FileActions::FileActions(TrackTableModel *model, QTableView *table, TextEditing *editing)
     : QObject(table)
     , m_model(model)
     , m_table(table)
+    , m_editing(editing)
     , m_journal(FileJournal::standardPath())
     , m_batch(m_journal)
     , m_progressView(makeProgressView())
 {
     connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &FileActions::updateActions);
-    connect(model, &TrackTableModel::modelReset, this, &FileActions::updateActions);
+    connect(model, &TrackTableModel::modelReset, this, [this] {
+        m_isOnStack = false;
+        updateActions();
+    });
     connect(&m_batch, &FileBatch::progressed, this, &FileActions::showProgress);
     connect(&m_batch, &FileBatch::finished, this, &FileActions::finish);
 }
@@ -82,11 +87,12 @@ QWidget *FileActions::makeProgressView()
 void FileActions::addActions(QMenu *menu)
 {
     m_forSelection = {
-        menu->addAction(tr("&Rename Files…"), QKeySequence(u"Ctrl+R"_s), this, &FileActions::askForPattern),
+        menu->addAction(tr("&Rename Files…"), QKeySequence(u"Ctrl+Shift+R"_s), this,
+                        &FileActions::askForPattern),
         menu->addAction(tr("&Move to Folder…"), this, [this] { askForFolder(false); }),
         menu->addAction(tr("&Copy to Folder…"), this, [this] { askForFolder(true); }),
     };
-    m_undo = menu->addAction(tr("Put Files &Back"), this, &FileActions::undo);
+    m_putBack = menu->addAction(tr("Put Files &Back"), this, &FileActions::putBack);
     updateActions();
 }
 
@@ -96,15 +102,15 @@ void FileActions::updateActions()
     const bool isPossible = isIdle && m_table->selectionModel()->hasSelection();
     for (QAction *action : std::as_const(m_forSelection))
         action->setEnabled(isPossible);
-    if (m_undo)
-        m_undo->setEnabled(isIdle && !m_journal.isEmpty());
+    if (m_putBack) // for what the steps to undo know nothing of any more
+        m_putBack->setEnabled(isIdle && !m_isOnStack && !m_journal.isEmpty());
 }
 
 void FileActions::askForPattern()
 {
     auto *dialog = new RenameDialog(selectedTracks(*m_table, *m_model), m_table->window());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QDialog::accepted, this, [this, dialog] { run(dialog->changes()); });
+    connect(dialog, &QDialog::accepted, this, [this, dialog] { run(tr("Rename Files"), dialog->changes()); });
     dialog->open();
 }
 
@@ -122,18 +128,49 @@ void FileActions::askForFolder(bool isCopy)
             ZEVFileURL::byAppendingPathComponent(panel.URL, ZEVFileURL::lastPathComponent(source));
         changes.append({source, target, {}, isCopy, track.id});
     }
-    run(changes);
+    run(panel.title, changes);
 }
 
-void FileActions::run(const QList<FileChange> &changes)
+void FileActions::run(const QString &name, const QList<FileChange> &changes)
 {
-    m_batch.run(changes);
-    updateActions();
+    start([this, changes] { m_batch.run(changes); },
+          [this, name](const QList<FileChange> &done) {
+              if (done.isEmpty())
+                  return;
+              m_isOnStack = true;
+              m_editing->push(std::make_unique<FileCommand>(
+                  name, std::make_shared<QList<FileChange>>(done),
+                  [this](const FileCommand::Changes &batch) { takeBack(batch); },
+                  [this](const FileCommand::Changes &batch) { repeat(batch); }));
+          });
 }
 
-void FileActions::undo()
+void FileActions::takeBack(const FileCommand::Changes &changes)
 {
-    m_batch.undo();
+    start([this, changes] { m_batch.undo(*changes); }, {});
+}
+
+/// Names may be taken by now, so what is done can be something else.
+void FileActions::repeat(const FileCommand::Changes &changes)
+{
+    start([this, changes] { m_batch.run(*changes); },
+          [changes](const QList<FileChange> &done) { *changes = done; });
+}
+
+void FileActions::putBack()
+{
+    start([this] { m_batch.undo(); }, {});
+}
+
+/// As long as a batch is under way, nothing else is undone or done again.
+void FileActions::start(const std::function<void()> &batch,
+                        const std::function<void(const QList<FileChange> &)> &then)
+{
+    if (m_batch.isRunning())
+        return;
+    m_then = then;
+    m_editing->setUndoBlocked(true);
+    batch();
     updateActions();
 }
 
@@ -148,6 +185,9 @@ void FileActions::finish(const FileBatch::Result &result)
 {
     m_progressView->hide();
     followFiles(result);
+    m_editing->setUndoBlocked(false);
+    if (const auto then = std::exchange(m_then, {}))
+        then(result.done);
     updateActions();
     QString text = tr("%L1 files done").arg(result.done.size());
     if (result.skipped > 0)

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <tageditor/files/FileBatch.h>
+#include <tageditor/files/FileCommand.h>
 
 #include <QList>
 
@@ -11,6 +12,7 @@ class QAction;
 class QMenu;
 class QProgressBar;
 class QTableView;
+class TextEditing;
 class TrackTableModel;
 
 /// Lets the user rename the selected files, bring them to another folder, and take that back.
@@ -18,7 +20,7 @@ class FileActions : public QObject {
     Q_OBJECT
 
 public:
-    FileActions(TrackTableModel *model, QTableView *table);
+    FileActions(TrackTableModel *model, QTableView *table, TextEditing *editing);
     ~FileActions() override;
 
     void addActions(QMenu *menu);
@@ -38,18 +40,25 @@ private:
     void updateActions();
     void askForPattern();
     void askForFolder(bool isCopy);
-    void run(const QList<FileChange> &changes);
-    void undo();
+    void run(const QString &name, const QList<FileChange> &changes);
+    void takeBack(const FileCommand::Changes &changes);
+    void repeat(const FileCommand::Changes &changes);
+    void putBack();
+    void start(const std::function<void()> &batch,
+               const std::function<void(const QList<FileChange> &)> &then);
     void showProgress(double fraction, const QString &name);
     void finish(const FileBatch::Result &result);
     void followFiles(const FileBatch::Result &result);
 
     TrackTableModel *m_model;
     QTableView *m_table;
+    TextEditing *m_editing;
     FileJournal m_journal;
     FileBatch m_batch;
     QProgressBar *m_progress = nullptr;
     QWidget *m_progressView;
     QList<QAction *> m_forSelection;
-    QAction *m_undo = nullptr;
+    QAction *m_putBack = nullptr;
+    bool m_isOnStack = false; ///< the last batch is among the steps to undo
+    std::function<void(const QList<FileChange> &)> m_then; ///< takes what the batch at hand has done
 };

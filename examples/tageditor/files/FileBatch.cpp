@@ -259,8 +259,9 @@ void FileBatch::run(const QList<FileChange> &changes)
     start([changes = inOrder(changes)](Worker &worker) { return worker.run(changes); });
 }
 
-void FileBatch::undo()
+void FileBatch::undo() { undo(m_journal.changes()); }
+
+void FileBatch::undo(const QList<FileChange> &changes)
 {
-    const QList<FileChange> changes = m_journal.changes();
     start([changes](Worker &worker) { return worker.undo(changes); });
 }

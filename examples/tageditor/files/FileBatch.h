@@ -29,6 +29,9 @@ public:
     /// Takes back what the journal tells of, the last one first.
     void undo();
 
+    /// Takes back \a changes, the last one first. What of them cannot be is in the journal then.
+    void undo(const QList<FileChange> &changes);
+
     /// The file at hand comes back to where it was.
     void cancel() { m_isCancelled = true; }
 
