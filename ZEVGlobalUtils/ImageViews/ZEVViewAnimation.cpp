@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <ZEVGlobalUtils/ImageViews/ZEVViewAnimation_p.h>
+
+#include <ZEVGlobalUtils/Platform/ZEVReducedMotion.h>
+
+#include <QPropertyAnimation>
+#include <QWidget>
+
+namespace {
+
+QEasingCurve bezier(QPointF first, QPointF second)
+{
+    QEasingCurve curve(QEasingCurve::BezierSpline);
+    curve.addCubicBezierSegment(first, second, {1, 1});
+    return curve;
+}
+
+int milliseconds(const QPropertyAnimation &animation, qreal seconds)
+{
+    const auto *const view = qobject_cast<const QWidget *>(animation.targetObject());
+    return view && ZEVReducedMotion::isRequested(view) ? 0 : qRound(seconds * 1000);
+}
+
+} // namespace
+
+QEasingCurve ZEVViewAnimation::defaultCurve() { return bezier({0.25, 0.1}, {0.25, 1}); }
+QEasingCurve ZEVViewAnimation::easeOutCurve() { return bezier({0, 0}, {0.58, 1}); }
+
+void ZEVViewAnimation::animateTo(QPropertyAnimation &animation, const QVariant &end, qreal seconds,
+                                 const QEasingCurve &curve)
+{
+    animation.stop();
+    animation.setStartValue({});
+    animation.setEndValue(end);
+    run(animation, seconds, curve);
+}
+
+void ZEVViewAnimation::run(QPropertyAnimation &animation, qreal seconds, const QEasingCurve &curve)
+{
+    animation.stop();
+    animation.setDuration(milliseconds(animation, seconds));
+    animation.setEasingCurve(curve);
+    animation.start();
+}

@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <ZEVGlobalUtils/Export.h>
+
+class QWidget;
+
+namespace ZEVReducedMotion {
+
+/// Whether the user's desktop asks for no animations: the style says so for all widgets alike.
+ZEV_EXPORT bool isRequested(const QWidget *view);
+
+} // namespace ZEVReducedMotion

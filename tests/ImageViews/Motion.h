@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QProxyStyle>
+#include <QWidget>
+
+/// A desktop that asks for no animations, or does not.
+class MotionStyle : public QProxyStyle {
+public:
+    explicit MotionStyle(bool isReduced)
+        : QProxyStyle(QStringLiteral("fusion"))
+        , m_isReduced(isReduced)
+    {
+    }
+
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *data) const override
+    {
+        const bool isAsked = hint == SH_Widget_Animation_Duration;
+        return isAsked ? (m_isReduced ? 0 : 200) : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+
+private:
+    bool m_isReduced;
+};
+
+inline void setReducedMotion(QWidget *view, bool isReduced)
+{
+    auto *const style = new MotionStyle(isReduced);
+    style->setParent(view);
+    view->setStyle(style);
+}
