@@ -3,21 +3,19 @@
 
 #include <ZEVGlobalUtils/Images/ZEVImageDescription.h>
 
+#include <ZEVGlobalUtils/Images/ZEVCopiedArtwork_p.h>
 #include <ZEVGlobalUtils/Images/ZEVDataBitmapData.h>
 #include <ZEVGlobalUtils/Images/ZEVImageDecoder_p.h>
 #include <ZEVGlobalUtils/Images/ZEVImageFile_p.h>
-#include <ZEVGlobalUtils/Images/ZEVPboardImageWriter.h>
 #include <ZEVGlobalUtils/Images/ZEVPreviewPanel.h>
 #include <ZEVGlobalUtils/Platform/ZEVErrorPresentation.h>
 #include <ZEVGlobalUtils/Platform/ZEVFileErrors.h>
 #include <ZEVGlobalUtils/Platform/ZEVPasteboard.h>
 #include <ZEVGlobalUtils/Platform/ZEVPrivateFolder_p.h>
-#include <ZEVGlobalUtils/Platform/ZEVUniformType.h>
 #include <ZEVGlobalUtils/Transforms/ByteSizeTransformer.h>
 #include <ZEVGlobalUtils/Transforms/ResolutionTransformer.h>
 #include <ZEVGlobalUtils/Transforms/ZEVDataMD5.h>
 
-#include <QBuffer>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -26,37 +24,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The bytes under the general type of images, and the picture as TIFF.
-class CopiedArtwork : public ZEVPboardImageWriter {
-public:
-    CopiedArtwork(const QByteArray &bitmapData, const QImage &image)
-        : m_image(image)
-    {
-        setBitmapData(bitmapData);
-    }
-
-    QStringList writableTypesForPasteboard() const override
-    {
-        QStringList types{ZEVUniformType::Image.toString()};
-        if (!m_image.isNull())
-            types.append(ZEVUniformType::TIFF.toString());
-        return types;
-    }
-
-    QByteArray pasteboardPropertyListForType(QStringView type) const override
-    {
-        if (!ZEVUniformType::isEqual(type, ZEVUniformType::TIFF))
-            return ZEVPboardImageWriter::pasteboardPropertyListForType(type);
-        QByteArray bytes;
-        QBuffer buffer(&bytes);
-        m_image.save(&buffer, "TIFF");
-        return bytes;
-    }
-
-private:
-    QImage m_image;
-};
 
 QString previewFolder() { return ZEVImageDescription::quickLookTemporaryDirectoryURL(false).toLocalFile(); }
 
@@ -107,7 +74,7 @@ QString ZEVImageDescription::imageDescription() const
 
 void ZEVImageDescription::placeOnGeneralPasteboard() const
 {
-    ZEVPasteboard::generalPasteboard().writeObject(std::make_shared<CopiedArtwork>(m_bitmapData, m_image));
+    ZEVPasteboard::generalPasteboard().writeObject(std::make_shared<ZEVCopiedArtwork>(m_bitmapData, m_image));
 }
 
 QUrl ZEVImageDescription::previewItemURL() const

@@ -41,30 +41,27 @@ xcb_window_t dragOwner(xcb_connection_t *server)
     return reply ? reply->owner : xcb_window_t(XCB_WINDOW_NONE);
 }
 
-} // namespace
-
-bool ZEVDirectSave::isAvailable() { return connection() != nullptr; }
-
-void ZEVDirectSave::offer(const QString &fileName)
+void setProperty(const QByteArray &value)
 {
     xcb_connection_t *const server = connection();
     const xcb_window_t owner = server ? dragOwner(server) : xcb_window_t(XCB_WINDOW_NONE);
     if (owner == XCB_WINDOW_NONE)
         return;
-    const QByteArray name = fileName.toUtf8();
     xcb_change_property(server, XCB_PROP_MODE_REPLACE, owner, atom(server, "XdndDirectSave0"),
-                        atom(server, "text/plain"), 8, quint32(name.size()), name.constData());
+                        atom(server, "text/plain"), 8, quint32(value.size()), value.constData());
     xcb_flush(server);
 }
 
-QByteArray ZEVDirectSave::takeAddress()
+enum class Then { Keep, Delete };
+
+QByteArray property(Then then)
 {
     xcb_connection_t *const server = connection();
     const xcb_window_t owner = server ? dragOwner(server) : xcb_window_t(XCB_WINDOW_NONE);
     if (owner == XCB_WINDOW_NONE)
         return {};
     constexpr quint32 Longest = 4096; // in units of four bytes: a path of PATH_MAX, every byte of it escaped
-    const auto cookie = xcb_get_property(server, true, owner, atom(server, "XdndDirectSave0"),
+    const auto cookie = xcb_get_property(server, then == Then::Delete, owner, atom(server, "XdndDirectSave0"),
                                          XCB_GET_PROPERTY_TYPE_ANY, 0, Longest);
     const auto reply = owned(xcb_get_property_reply(server, cookie, nullptr));
     if (!reply)
@@ -72,3 +69,12 @@ QByteArray ZEVDirectSave::takeAddress()
     return {static_cast<const char *>(xcb_get_property_value(reply.get())),
             xcb_get_property_value_length(reply.get())};
 }
+
+} // namespace
+
+bool ZEVDirectSave::isAvailable() { return connection() != nullptr; }
+
+void ZEVDirectSave::offer(const QString &fileName) { setProperty(fileName.toUtf8()); }
+QString ZEVDirectSave::offeredName() { return QString::fromUtf8(property(Then::Keep)); }
+void ZEVDirectSave::setAddress(const QByteArray &address) { setProperty(address); }
+QByteArray ZEVDirectSave::takeAddress() { return property(Then::Delete); }

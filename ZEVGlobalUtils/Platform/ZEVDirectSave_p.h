@@ -18,6 +18,12 @@ bool isAvailable();
 /// on.
 void offer(const QString &fileName);
 
+/// The name that the source of the drag in progress has told; empty without one.
+QString offeredName();
+
+/// Tells that source where its file goes. It looks there when it is asked for the data.
+void setAddress(const QByteArray &address);
+
 /// What the receiver made of it, the address of the file as it stands in the protocol; taken away with it.
 QByteArray takeAddress();
 

@@ -5,4 +5,6 @@
 
 bool ZEVDirectSave::isAvailable() { return false; }
 void ZEVDirectSave::offer(const QString &) { }
+QString ZEVDirectSave::offeredName() { return {}; }
+void ZEVDirectSave::setAddress(const QByteArray &) { }
 QByteArray ZEVDirectSave::takeAddress() { return {}; }

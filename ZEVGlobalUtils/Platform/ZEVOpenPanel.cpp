@@ -29,23 +29,38 @@ void addMessage(QFileDialog &dialog, const QString &message)
     grid->addWidget(label, grid->rowCount(), 0, 1, grid->columnCount());
 }
 
+void configure(QFileDialog &dialog, const ZEVOpenPanel &panel)
+{
+    const bool choosesFile = !panel.nameFilter.isEmpty();
+    dialog.setFileMode(choosesFile ? QFileDialog::ExistingFile : QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly, !choosesFile);
+    if (choosesFile)
+        dialog.setNameFilter(panel.nameFilter);
+    if (!panel.message.isEmpty())
+        addMessage(dialog, panel.message);
+    if (!panel.prompt.isEmpty())
+        dialog.setLabelText(QFileDialog::Accept, panel.prompt);
+    dialog.setDirectoryUrl(panel.directoryURL);
+}
+
 } // namespace
 
+/// The window may go while the dialog is open, and takes it along.
 int ZEVOpenPanel::runModal()
 {
     if (const Runner runner = hostRunner())
         return runner(*this);
-    QFileDialog dialog(QApplication::activeWindow(), title);
-    dialog.setFileMode(QFileDialog::Directory);
-    dialog.setOption(QFileDialog::ShowDirsOnly);
-    if (!message.isEmpty())
-        addMessage(dialog, message);
-    dialog.setLabelText(QFileDialog::Accept, prompt);
-    dialog.setDirectoryUrl(directoryURL);
-    if (dialog.exec() != QDialog::Accepted)
+    const QPointer<QFileDialog> dialog =
+        new QFileDialog(window ? window.data() : QApplication::activeWindow(), title);
+    configure(*dialog, *this);
+    if (window)
+        dialog->setWindowModality(Qt::WindowModal);
+    const int result = dialog->exec();
+    if (!dialog)
         return CancelResponse;
-    URL = dialog.selectedUrls().value(0);
-    return OKResponse;
+    URL = dialog->selectedUrls().value(0);
+    delete dialog;
+    return result == QDialog::Accepted ? OKResponse : CancelResponse;
 }
 
 ZEVOpenPanel::Runner ZEVOpenPanel::setRunner(const Runner &runner)

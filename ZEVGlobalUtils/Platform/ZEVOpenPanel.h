@@ -5,12 +5,14 @@
 
 #include <ZEVGlobalUtils/Export.h>
 
+#include <QPointer>
 #include <QString>
 #include <QUrl>
+#include <QWidget>
 
 #include <functional>
 
-/// Asks the user for a folder. Main thread only.
+/// Asks the user for a folder or, with a filter, for one file. Main thread only.
 class ZEV_EXPORT ZEVOpenPanel {
 public:
     static constexpr int OKResponse = 1;
@@ -19,6 +21,8 @@ public:
     QString title;
     QString prompt; ///< of the button that confirms
     QString message; ///< what stands above the folders
+    QString nameFilter; ///< of a file, as QFileDialog has them: "Images (*.png *.jpg)"; empty for folders
+    QPointer<QWidget> window; ///< that the panel belongs to; null for the active one
     QUrl directoryURL; ///< where it begins
     QUrl URL; ///< what was chosen, once it was
 

@@ -455,5 +455,41 @@
         <source>New item:</source>
         <translation>Neues Objekt:</translation>
     </message>
+    <message>
+        <source>Drop Image Here</source>
+        <translation>Bild hierher bewegen</translation>
+    </message>
+    <message>
+        <source>Artwork</source>
+        <translation>Cover</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einsetzen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Reading the image</source>
+        <translation>Bild wird gelesen</translation>
+    </message>
 </context>
 </TS>

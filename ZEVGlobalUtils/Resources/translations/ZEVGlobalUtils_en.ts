@@ -455,5 +455,41 @@
         <source>New item:</source>
         <translation>New item:</translation>
     </message>
+    <message>
+        <source>Drop Image Here</source>
+        <translation>Drop Image Here</translation>
+    </message>
+    <message>
+        <source>Artwork</source>
+        <translation>Artwork</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Cut</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Paste</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>Reading the image</source>
+        <translation>Reading the image</translation>
+    </message>
 </context>
 </TS>

@@ -1,0 +1,470 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include "../Images/EncodedImages.h"
+#include "../Rows.h"
+#include "Motion.h"
+
+#include <ZEVGlobalUtils/Images/ZEVImageDescription.h>
+#include <ZEVGlobalUtils/Images/ZEVPboardImageWriter.h>
+#include <ZEVGlobalUtils/Images/ZEVPreviewPanel.h>
+#include <ZEVGlobalUtils/ImageViews/ZEVDashView.h>
+#include <ZEVGlobalUtils/ImageViews/ZEVDragImageView.h>
+#include <ZEVGlobalUtils/ImageViews/ZEVInnerImageView.h>
+#include <ZEVGlobalUtils/Platform/ZEVOpenPanel.h>
+#include <ZEVGlobalUtils/Platform/ZEVPasteboard.h>
+
+#include <QAccessible>
+#include <QClipboard>
+#include <QLabel>
+#include <QMenu>
+#include <QMimeData>
+#include <QPropertyAnimation>
+#include <QTemporaryDir>
+#include <QThreadPool>
+
+#include <sys/stat.h>
+#include <thread>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Offers = QList<std::pair<QString, QByteArray>>;
+
+QByteArray png(int width) { return EncodedImages::encoded(width, 8, "PNG"); }
+
+std::unique_ptr<QMimeData> offering(const Offers &offers)
+{
+    auto data = std::make_unique<QMimeData>();
+    for (const auto &[format, bytes] : offers)
+        data->setData(format, bytes);
+    return data;
+}
+
+Offers files(const QStringList &paths)
+{
+    QByteArray list;
+    for (const QString &path : paths)
+        list += QUrl::fromLocalFile(path).toEncoded() + "\r\n";
+    return {{u"text/uri-list"_s, list}};
+}
+
+bool enter(QWidget &view, const QMimeData &data, Qt::DropActions actions = Qt::CopyAction)
+{
+    QDragEnterEvent event({20, 20}, actions, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&view, &event);
+    return event.isAccepted();
+}
+
+/// The whole way of a drop, whose data is gone as soon as it has been handled.
+bool drop(QWidget &view, const Offers &offers, Qt::DropActions actions = Qt::CopyAction)
+{
+    const std::unique_ptr<QMimeData> data = offering(offers);
+    if (!enter(view, *data, actions))
+        return false;
+    QDropEvent event({20, 20}, actions, data.get(), Qt::LeftButton, {});
+    QApplication::sendEvent(&view, &event);
+    return event.isAccepted();
+}
+
+/// Keeps the answers for later.
+struct Vetter : QObject, ZEVDragImageViewDelegate {
+    bool acceptBitmapData(ZEVDragImageView *, const QByteArray &data, const Completion &completion) override
+    {
+        asked.append(data);
+        answers.append(completion);
+        return true;
+    }
+    std::optional<QString> exportNameForBitmapData(ZEVDragImageView *, const QByteArray &) override
+    {
+        return name;
+    }
+    QList<QByteArray> asked;
+    QList<Completion> answers;
+    std::optional<QString> name;
+};
+
+class Well : public ZEVDragImageView {
+public:
+    Well()
+    {
+        resize(100, 100);
+        setReducedMotion(this, true);
+        setReducedMotion(dashView(), true);
+        setReducedMotion(imageView(), true);
+        connect(this, &ZEVDragImageView::didUpdate, this,
+                [this](const QVariantMap &info) { updates += info; });
+    }
+    using ZEVDragImageView::pasteboardWriter;
+    void settle()
+    {
+        filePromiseQueue()->waitForDone();
+        QCoreApplication::processEvents();
+    }
+    QList<QVariantMap> updates;
+};
+
+} // namespace
+
+class tst_ZEVDragImageView : public QObject {
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_folder;
+    QString m_file = m_folder.filePath(u"ä#1.png"_s);
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QFile file(m_file);
+        QVERIFY(file.open(QFile::WriteOnly) && file.write(png(7)) > 0);
+        QFile text(m_folder.filePath(u"notes.txt"_s));
+        QVERIFY(text.open(QFile::WriteOnly) && text.write("text") > 0);
+        QFile empty(m_folder.filePath(u"empty.png"_s));
+        QVERIFY(empty.open(QFile::WriteOnly));
+        mkfifo(QFile::encodeName(m_folder.filePath(u"pipe.png"_s)), 0600);
+    }
+
+    void init() { QGuiApplication::clipboard()->clear(); }
+
+    void whenTheOutlineShows()
+    {
+        const std::tuple<const char *, bool, uint, bool, bool, bool> rows[] = {
+            {"empty", true, 0, false, false, true},
+            {"filled", true, 0, false, true, false},
+            {"filled, under a drag", true, 0, true, true, true},
+            {"never", true, 1, true, false, false},
+            {"always", true, 2, false, true, true},
+            {"beyond is automatic", true, 3, false, true, false},
+            {"not editable", false, 2, true, false, false},
+        };
+        for (const auto &[name, editable, rule, highlighted, filled, draws] : rows) {
+            Well well;
+            bool told = true; // as it begins
+            connect(&well, &ZEVDragImageView::drawDashesChanged, this, [&](bool now) { told = now; });
+            well.setBitmapData(filled ? png(9) : QByteArray());
+            well.setDashDisplayRule(rule);
+            well.dashView()->setHighlighted(highlighted, false);
+            well.setEditable(editable);
+            COMPARE_ROW(name, well.drawDashes(), draws);
+            COMPARE_ROW(name, told, draws);
+            COMPARE_ROW(name, !well.dashView()->drawDashes(), !draws);
+            COMPARE_ROW(name, well.dashView()->drawLabel(), !filled && editable);
+        }
+    }
+
+    void whatCanBeDropped()
+    {
+        const QString image = u"public.image"_s, pngType = u"image/png"_s, links = u"text/uri-list"_s;
+        const auto at = [&](const QString &name) { return files({m_folder.filePath(name)}); };
+        const std::tuple<const char *, Offers, int> rows[] = {
+            {"bytes", {{pngType, png(5)}}, 5},
+            {"the general type first", {{pngType, png(5)}, {image, png(6)}}, 6},
+            {"a file", files({m_file}), 7},
+            {"a file before bytes", files({m_file}) + Offers{{u"image/bmp"_s, png(5)}}, 7},
+            {"a picture with its link", {{links, "https://a.example/"}, {pngType, png(5)}}, 5},
+            {"two files", files({m_file, m_file}), 0},
+            {"a link", {{links, "https://a.example/cover.png"}}, 0},
+            {"a text file", at(u"notes.txt"_s), 0},
+            {"a folder", at({}), 0},
+            {"a pipe", at(u"pipe.png"_s), 0},
+            {"a file that is gone", at(u"gone.png"_s), 0},
+            {"text", {{u"text/plain"_s, "text"}}, 0},
+            {"a drawing", {{u"image/svg+xml"_s, "<svg/>"}}, 0},
+        };
+        for (const auto &[name, offers, width] : rows) {
+            Well well;
+            COMPARE_ROW(name, drop(well, offers), width > 0);
+            COMPARE_ROW(name, well.bitmapData().isNull(), true); // afterwards, not in the drop
+            well.settle();
+            COMPARE_ROW(name, well.imageDescription() ? int(well.imageDescription()->size().width()) : 0,
+                        width);
+            COMPARE_ROW(name, well.updates, QList<QVariantMap>(width > 0 ? 1 : 0));
+        }
+        Well well;
+        drop(well, at(u"empty.png"_s));
+        well.settle();
+        QVERIFY(well.bitmapData().isNull() && well.updates.isEmpty());
+    }
+
+    void aDragOverTheWell()
+    {
+        const auto data = offering({{u"image/png"_s, png(5)}});
+        Well well;
+        QVERIFY(!enter(well, *data, Qt::MoveAction));
+        QVERIFY(enter(well, *data, Qt::CopyAction | Qt::MoveAction));
+        QVERIFY(well.dashView()->isHighlighted());
+        QCOMPARE(well.imageView()->opacity(), 0.55);
+        QDragMoveEvent move({20, 20}, Qt::MoveAction | Qt::LinkAction, data.get(), Qt::LeftButton, {});
+        QApplication::sendEvent(&well, &move);
+        QVERIFY(!move.isAccepted());
+        QDragLeaveEvent leave;
+        QApplication::sendEvent(&well, &leave);
+        QVERIFY(!well.dashView()->isHighlighted());
+        QCOMPARE(well.imageView()->opacity(), 1.0);
+        QVERIFY(drop(well, {{u"image/png"_s, png(5)}}));
+        QVERIFY(!well.dashView()->isHighlighted());
+        QCOMPARE(well.imageView()->opacity(), 1.0);
+        well.setEditable(false);
+        QVERIFY(!enter(well, *data));
+        QVERIFY(!well.dashView()->isHighlighted());
+    }
+
+    void theDelegateAnswersWhenItLikes()
+    {
+        Vetter vetter;
+        Well well;
+        well.setDelegate(&vetter);
+        for (int width : {5, 6, 7}) {
+            QVERIFY(drop(well, {{u"image/png"_s, png(width)}}));
+            well.settle();
+        }
+        QCOMPARE(vetter.asked, QList({png(5), png(6), png(7)}));
+        QVERIFY(well.bitmapData().isNull());
+        vetter.answers[1](png(16)); // the first never comes, the second twice
+        QCOMPARE(well.bitmapData(), png(16));
+        vetter.answers[1](png(26));
+        vetter.answers[0](png(15)); // older than what is shown
+        QCOMPARE(well.bitmapData(), png(16));
+        vetter.answers[2]({}); // refused
+        QCOMPARE(well.bitmapData(), png(16));
+        std::thread([&] { vetter.answers[2](png(17)); }).join();
+        QCOMPARE(well.bitmapData(), png(16)); // not on that thread
+        well.settle();
+        QCOMPARE(well.bitmapData(), png(17));
+        QCOMPARE(well.updates.size(), 2);
+        drop(well, {{u"image/png"_s, png(8)}});
+        well.settle();
+        well.setBitmapData(png(1)); // the host's own
+        vetter.answers[3](png(18));
+        QCOMPARE(well.bitmapData(), png(1));
+        QCOMPARE(well.updates.size(), 2);
+    }
+
+    void whoeverGoesFirst()
+    {
+        auto vetter = std::make_unique<Vetter>();
+        auto well = std::make_unique<Well>();
+        well->setDelegate(vetter.get());
+        drop(*well, {{u"image/png"_s, png(5)}});
+        well->settle();
+        drop(*well, files({m_file}));
+        drop(*well, {{u"image/png"_s, png(6)}});
+        well.reset(); // with a file and a drop on their way
+        vetter->answers[0](png(15));
+        QCoreApplication::processEvents();
+        QCOMPARE(vetter->asked.size(), 1);
+        well = std::make_unique<Well>();
+        well->setDelegate(vetter.get());
+        vetter.reset();
+        drop(*well, {{u"image/png"_s, png(5)}});
+        well->settle();
+        QCOMPARE(well->bitmapData(), png(5));
+        QCOMPARE(well->pasteboardWriter()->fileName(), u"Image.png");
+    }
+
+    void anImportCanBeCancelled()
+    {
+        Well well;
+        QSemaphore mayGoOn;
+        well.filePromiseQueue()->start([&] { mayGoOn.acquire(); });
+        drop(well, files({m_file}));
+        well.show();
+        auto *const bar = well.findChild<QProgressBar *>();
+        QVERIFY(!bar->isVisible()); // most are quick
+        QTRY_VERIFY(bar->isVisible());
+        QTest::keyClick(&well, Qt::Key_Escape);
+        QVERIFY(!bar->isVisible());
+        mayGoOn.release();
+        well.settle();
+        QVERIFY(well.bitmapData().isNull() && well.updates.isEmpty());
+    }
+
+    void theOriginIsThatOfTheArtworkThatGoes()
+    {
+        Well well;
+        well.setBitmapData(png(5));
+        const auto before = well.imageDescription();
+        drop(well, files({m_file}));
+        well.settle();
+        QCOMPARE(before->originURL(), QUrl::fromLocalFile(m_file));
+        QVERIFY(well.imageDescription()->originURL().isEmpty());
+        well.applyImportedImageData("", {});
+        QCOMPARE(well.updates.size(), 1);
+    }
+
+    void copyAndPaste()
+    {
+        Vetter vetter;
+        Well well;
+        well.setDelegate(&vetter);
+        well.copy();
+        QVERIFY(ZEVPasteboard::generalPasteboard().types().isEmpty()); // nothing to copy
+        QGuiApplication::setDesktopFileName(u"org.example.editor"_s);
+        well.setBitmapData(png(5));
+        well.cut();
+        const ZEVPasteboard general = ZEVPasteboard::generalPasteboard();
+        QCOMPARE(general.dataForType(u"public.image"), png(5));
+        QCOMPARE(QImage::fromData(general.dataForType(u"public.tiff"), "TIFF").size(), QSize(5, 8));
+        QCOMPARE(general.dataForType(u"org.nspasteboard.source"), "org.example.editor");
+        QCOMPARE(well.updates, QList<QVariantMap>({{{u"imageCleared"_s, true}}}));
+        well.paste();
+        QCOMPARE(well.bitmapData(), png(5)); // vetted before
+        QCOMPARE(well.updates.size(), 2);
+        QVERIFY(well.updates.last().isEmpty());
+        QGuiApplication::setDesktopFileName(u"org.example.other"_s);
+        well.paste();
+        QCOMPARE(vetter.asked.size(), 1);
+        vetter.answers[0](png(15));
+        QCOMPARE(well.bitmapData(), png(15));
+        QCOMPARE(well.updates.size(), 3);
+        QGuiApplication::setDesktopFileName({}); // nothing is one's own without a name
+        QGuiApplication::clipboard()->setMimeData(
+            offering({{u"image/png"_s, png(6)}, {u"org.nspasteboard.source"_s, ""}}).release());
+        well.paste();
+        QCOMPARE(vetter.asked.size(), 2);
+        QGuiApplication::clipboard()->setText(u"text"_s);
+        well.paste();
+        QCOMPARE(vetter.asked.size(), 2);
+    }
+
+    void whatCanBeDone()
+    {
+        Well well;
+        QStringList titles;
+        for (const QAction *item : well.menu()->actions())
+            titles.append(item->isSeparator() ? u"-"_s : item->text());
+        QCOMPARE(titles.join(u' '), u"Cut Copy Paste - Remove");
+        const auto possible = [&] {
+            QStringList names;
+            for (const char *action : {"copy", "cut", "clearImage", "paste", "browse", "close", "fly"}) {
+                if (well.validateUserInterfaceItem(action))
+                    names.append(QString::fromLatin1(action));
+            }
+            return names.join(u' ');
+        };
+        QCOMPARE(possible(), u"browse close");
+        QGuiApplication::clipboard()->setMimeData(offering({{u"image/png"_s, png(6)}}).release());
+        QCOMPARE(possible(), u"paste browse close");
+        well.setBitmapData(png(5));
+        QCOMPARE(possible(), u"copy cut clearImage paste browse close");
+        well.setEditable(false);
+        QCOMPARE(possible(), u"copy close");
+        Q_EMIT well.menu()->aboutToShow();
+        QCOMPARE(well.menu()->actions().at(0)->isEnabled(), false);
+        QTest::keyClick(&well, Qt::Key_Delete);
+        QTest::keyClick(&well, Qt::Key_X, Qt::ControlModifier);
+        QCOMPARE(well.bitmapData(), png(5));
+        well.setEditable(true);
+        QTest::keyClick(&well, Qt::Key_X, Qt::ControlModifier);
+        QVERIFY(well.bitmapData().isNull());
+        QTest::keyClick(&well, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(well.bitmapData(), png(5));
+        Q_EMIT well.menu()->aboutToShow();
+        well.menu()->actions().at(4)->trigger();
+        QVERIFY(well.bitmapData().isNull());
+        QKeyEvent key(QEvent::ShortcutOverride, Qt::Key_C, Qt::ControlModifier);
+        key.ignore();
+        QApplication::sendEvent(&well, &key);
+        QVERIFY(key.isAccepted()); // before any menu of the window
+    }
+
+    void theKeyboardFindsItsWay()
+    {
+        Well well;
+        well.setBitmapData(png(5));
+        well.show();
+        well.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&well));
+        well.clearFocus();
+        const QImage without = well.grab().toImage();
+        well.setFocus();
+        QVERIFY(well.grab().toImage() != without);
+        const QAccessibleInterface *const told = QAccessible::queryAccessibleInterface(&well);
+        QCOMPARE(told->role(), QAccessible::Graphic);
+        QCOMPARE(told->text(QAccessible::Name), u"Artwork");
+        QCOMPARE(told->text(QAccessible::Description), well.imageDescription()->imageDescription());
+        QTest::keyClick(&well, Qt::Key_Space);
+        ZEVPreviewPanel *const panel = ZEVPreviewPanel::sharedPreviewPanel();
+        QVERIFY(panel->isVisible());
+        well.setBitmapData(png(6));
+        QCOMPARE(panel->findChild<QLabel *>()->text(), well.imageDescription()->imageDescription());
+        panel->hide();
+    }
+
+    void whatIsDraggedOut()
+    {
+        Vetter vetter;
+        const std::tuple<std::optional<QString>, QByteArray, QString> rows[] = {
+            {std::nullopt, EncodedImages::encoded(5, 5, "JPG"), u"Image.jpg"_s},
+            {u""_s, EncodedImages::encoded(5, 5, "PNG"), u"Image.png"_s},
+            {u"AC/DC 1.5"_s, EncodedImages::encoded(5, 5, "BMP"), u"AC:DC 1.5.bmp"_s},
+            {std::nullopt, "\x01", u"Image.tiff"_s},
+        };
+        for (const auto &[name, bytes, file] : rows) {
+            Well well;
+            well.setDelegate(&vetter);
+            vetter.name = name;
+            well.setBitmapData(bytes);
+            COMPARE_ROW(file, well.pasteboardWriter()->promisedFileName(), file);
+            COMPARE_ROW(file, well.pasteboardWriter()->bitmapData(), bytes);
+        }
+    }
+
+    void thePictureFitsTheWell()
+    {
+        Well well;
+        well.setBitmapData(EncodedImages::encoded(30, 20, "PNG"));
+        QCOMPARE(well.drawingImageRectInBounds(), QRect(0, 16, 100, 68));
+        QCOMPARE(well.imageView()->image().deviceIndependentSize(), QSizeF(100, 100));
+        well.show();
+        well.resize(200, 180);
+        QCOMPARE(well.imageView()->imageScaling(), ZEVImageView::ScaleProportionallyUpOrDown);
+        QTRY_COMPARE(well.imageView()->image().deviceIndependentSize(), QSizeF(200, 180));
+        QCOMPARE(well.imageView()->imageScaling(), ZEVImageView::ScaleProportionallyDown);
+        well.setBitmapData("no picture");
+        QCOMPARE(well.drawingImageRectInBounds(), QRect());
+        well.setBitmapData({});
+        QVERIFY(!well.imageDescription());
+    }
+
+    void newArtworkFadesInAndGrows()
+    {
+        Well well;
+        setReducedMotion(well.imageView(), false);
+        well.setBitmapData(png(5), true, true);
+        QCOMPARE(well.imageView()->opacity(), 0.55);
+        QCOMPARE(well.imageView()->scale(), 0.9);
+        QCOMPARE(well.alphaAnimation()->duration(), 250);
+        well.scaleAnimation()->setCurrentTime(125);
+        QVERIFY(qAbs((well.imageView()->scale() - 0.9) / 0.1 - 0.6846) < 0.01);
+        const auto data = offering({{u"image/png"_s, png(5)}});
+        enter(well, *data);
+        QCoreApplication::processEvents();
+        QCOMPARE(well.imageView()->opacity(), 0.55); // the drag has the last word
+    }
+
+    void browsing()
+    {
+        Well well;
+        well.setBrowseURL(QUrl::fromLocalFile(m_folder.path()));
+        int response = ZEVOpenPanel::CancelResponse;
+        const auto before = ZEVOpenPanel::setRunner([&](ZEVOpenPanel &panel) {
+            panel.URL = QUrl::fromLocalFile(m_file);
+            return panel.directoryURL == well.browseURL() && panel.nameFilter.contains(u"*.png") ? response
+                                                                                                 : 2;
+        });
+        well.browse();
+        well.settle();
+        QVERIFY(well.bitmapData().isNull());
+        response = ZEVOpenPanel::OKResponse;
+        well.browse();
+        well.settle();
+        QCOMPARE(well.bitmapData(), png(7));
+        ZEVOpenPanel::setRunner(before);
+    }
+};
+
+QTEST_MAIN(tst_ZEVDragImageView)
+#include "tst_ZEVDragImageView.moc"
