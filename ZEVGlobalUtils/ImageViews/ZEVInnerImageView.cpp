@@ -4,7 +4,6 @@
 #include <ZEVGlobalUtils/ImageViews/ZEVInnerImageView.h>
 
 #include <QContextMenuEvent>
-#include <QMenu>
 #include <QPainter>
 
 ZEVInnerImageView::ZEVInnerImageView(QWidget *parent)

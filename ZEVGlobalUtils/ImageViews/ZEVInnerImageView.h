@@ -5,9 +5,8 @@
 
 #include <ZEVGlobalUtils/ImageViews/ZEVImageView.h>
 
+#include <QMenu>
 #include <QPointer>
-
-class QMenu;
 
 /// The picture inside an artwork well. Drops and clicks go to the well around it, whose window a drag of the
 /// picture never moves.

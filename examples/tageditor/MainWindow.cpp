@@ -3,6 +3,7 @@
 
 #include <tageditor/MainWindow.h>
 
+#include <tageditor/artwork/ArtworkDock.h>
 #include <tageditor/files/FileActions.h>
 #include <tageditor/find/TrackFind.h>
 #include <tageditor/inspector/Inspector.h>
@@ -71,6 +72,7 @@ MainWindow::MainWindow(QWidget *parent)
     m_files = new FileActions(&m_model, m_table, m_editing);
     m_quickOpen = new QuickOpen(&m_model, this);
     addInspector();
+    addDockWidget(Qt::RightDockWidgetArea, new ArtworkDock(&m_model, m_table, m_editing->undoStack()));
     makeMenus();
     setUpStatusBar();
     watchReader();

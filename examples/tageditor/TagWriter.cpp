@@ -3,6 +3,7 @@
 
 #include <tageditor/TagWriter.h>
 
+#include <tageditor/artwork/ArtworkTag.h>
 #include <tageditor/TagReader.h>
 
 #include <ZEVGlobalUtils/Platform/ZEVError.h>
@@ -107,7 +108,7 @@ std::filesystem::path pathOf(const QUrl &url) { return ZEVFileURL::path(url).toS
 
 } // namespace
 
-QString TagWriter::write(const std::filesystem::path &path, const Texts &texts)
+QString TagWriter::write(const std::filesystem::path &path, const Texts &texts, const Artwork &artwork)
 {
     std::error_code failure;
     const std::filesystem::path target = std::filesystem::canonical(path, failure);
@@ -123,14 +124,14 @@ QString TagWriter::write(const std::filesystem::path &path, const Texts &texts)
         ZEVFileURL::byAppendingPathComponent(*folder.url(), ZEVFileURL::lastPathComponent(original));
     if (!files.copyItemAtURL(original, copy, &error))
         return error.localizedDescription();
-    if (QString problem = writeInto(pathOf(copy), texts); !problem.isEmpty())
+    if (QString problem = writeInto(pathOf(copy), texts, artwork); !problem.isEmpty())
         return problem;
     if (!files.replaceItemAtURL(original, copy, nullptr, &error))
         return error.localizedDescription();
     return {};
 }
 
-QString TagWriter::writeInto(const std::filesystem::path &path, const Texts &texts)
+QString TagWriter::writeInto(const std::filesystem::path &path, const Texts &texts, const Artwork &artwork)
 {
     {
         const TagLib::FileRef reference(path.c_str(), true, TagLib::AudioProperties::Fast);
@@ -139,14 +140,16 @@ QString TagWriter::writeInto(const std::filesystem::path &path, const Texts &tex
             return tr("No audio found: damaged or cut off");
         for (auto text = texts.cbegin(); text != texts.cend(); ++text)
             setText(*file, text.key(), text.value());
+        if (artwork && !ArtworkTag::setArtwork(*file, *artwork))
+            return tr("The tags of this file cannot hold artwork");
         if (!save(*file))
             return tr("The tags could not be written");
     }
-    return readBack(path, texts);
+    return readBack(path, texts, artwork);
 }
 
 /// A full disk, or a kind of tag that cannot hold a text, shows here at the latest.
-QString TagWriter::readBack(const std::filesystem::path &path, const Texts &texts)
+QString TagWriter::readBack(const std::filesystem::path &path, const Texts &texts, const Artwork &artwork)
 {
     const Track written = TagReader::read(path);
     if (!written.isReadable())
@@ -155,5 +158,7 @@ QString TagWriter::readBack(const std::filesystem::path &path, const Texts &text
         if (written.text(text.key()) != text.value())
             return tr("The tags of this file cannot hold “%1”").arg(text.value());
     }
+    if (artwork && ArtworkTag::read(path) != *artwork)
+        return tr("The tags of this file cannot hold the artwork");
     return {};
 }

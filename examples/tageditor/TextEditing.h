@@ -8,8 +8,6 @@
 #include <QObject>
 #include <QUndoStack>
 
-#include <memory>
-
 class QAction;
 class QMenu;
 class QTableView;
@@ -29,8 +27,8 @@ public:
     /// was to be changed.
     bool change(const QString &name, const QList<TextChange> &changes);
 
-    /// What other parts of the window do is undone by the same keys.
-    void push(std::unique_ptr<QUndoCommand> command) { m_stack.push(command.release()); }
+    /// For steps of other kinds.
+    QUndoStack *undoStack() { return &m_stack; }
 
     /// While a step is under way that takes its time.
     void setUndoBlocked(bool isBlocked);

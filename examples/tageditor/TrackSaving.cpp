@@ -36,7 +36,8 @@ QStringList TrackSaving::saveTracks(TrackTableModel *model, QWidget *window)
         if (progress.wasCanceled())
             break;
         const Track &track = model->track(model->rowOfTrack(id));
-        const QString problem = TagWriter::write(track.path, model->changedTexts(id));
+        const QString problem =
+            TagWriter::write(track.path, model->changedTexts(id), model->changedArtwork(id));
         if (problem.isEmpty())
             model->setSaved(id);
         else

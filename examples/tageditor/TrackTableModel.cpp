@@ -79,6 +79,7 @@ void TrackTableModel::clear()
     m_firstId += rowCount();
     m_rows.clear();
     m_savedTexts.clear();
+    m_artwork.clear();
     m_tracks.clear();
     m_numberOfUnreadable = 0;
     endResetModel();
@@ -160,6 +161,7 @@ QList<int> TrackTableModel::changedTracks() const
     QList<int> ids;
     for (auto cell = m_savedTexts.keyBegin(); cell != m_savedTexts.keyEnd(); ++cell)
         ids.append(cell->first);
+    ids += m_artwork.keys();
     std::ranges::sort(ids, {}, [this](int id) { return rowOfTrack(id); });
     ids.erase(std::unique(ids.begin(), ids.end()), ids.end());
     return ids;
@@ -179,8 +181,31 @@ void TrackTableModel::setSaved(int trackId)
 {
     const int row = rowOfTrack(trackId);
     m_savedTexts.removeIf([trackId](const auto &cell) { return cell.key().first == trackId; });
+    m_artwork.remove(trackId);
     if (row >= 0)
         Q_EMIT dataChanged(index(row, 0), index(row, TrackFieldCount - 1), {Qt::FontRole});
+}
+
+void TrackTableModel::setArtwork(const QList<ArtworkChange> &changes)
+{
+    for (const ArtworkChange &change : changes) {
+        if (rowOfTrack(change.trackId) < 0)
+            continue;
+        const QByteArray inFile = m_artwork.value(change.trackId, change).before;
+        if (inFile == change.after)
+            m_artwork.remove(change.trackId);
+        else
+            m_artwork.insert(change.trackId, {change.trackId, inFile, change.after});
+    }
+    if (rowCount() > 0)
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, 0), {Qt::FontRole});
+    Q_EMIT artworkChanged();
+}
+
+std::optional<QByteArray> TrackTableModel::changedArtwork(int trackId) const
+{
+    const auto found = m_artwork.constFind(trackId);
+    return found == m_artwork.cend() ? std::nullopt : std::optional(found->after);
 }
 
 QString TrackTableModel::titleForField(TrackField field)

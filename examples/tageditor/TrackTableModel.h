@@ -17,6 +17,13 @@ struct TextChange {
     QString text;
 };
 
+/// The artwork of a track, encoded; empty bytes for none.
+struct ArtworkChange {
+    int trackId = -1;
+    QByteArray before;
+    QByteArray after;
+};
+
 /// The tracks as a table: a row a track, a column a field. Rows are only ever added behind the others,
 /// whatever the table was sorted by; sort() puts them in their places.
 class TrackTableModel : public QAbstractTableModel {
@@ -50,15 +57,20 @@ public:
     /// Where the file of a track is now, and what it is called.
     void setPath(int trackId, const std::filesystem::path &path);
 
-    /// Whether a text differs from what the file holds.
-    bool hasChanges() const { return !m_savedTexts.isEmpty(); }
+    /// Changes all of them at once.
+    void setArtwork(const QList<ArtworkChange> &changes);
+    /// What is to be written into the file, empty bytes to remove it; nil where it stays as it is.
+    std::optional<QByteArray> changedArtwork(int trackId) const;
+
+    /// Whether a text or the artwork differs from what the file holds.
+    bool hasChanges() const { return !m_savedTexts.isEmpty() || !m_artwork.isEmpty(); }
     bool isChanged(int row, TrackField field) const;
 
-    /// The ids of the tracks with changed texts, in the order of the rows; and those texts.
+    /// The ids of the tracks with changed texts or artwork, in the order of the rows; and those texts.
     QList<int> changedTracks() const;
     QHash<TrackField, QString> changedTexts(int trackId) const;
 
-    /// The file holds the texts of the track now.
+    /// The file holds the texts and the artwork of the track now.
     void setSaved(int trackId);
 
     void append(const QList<Track> &tracks);
@@ -81,6 +93,7 @@ public:
 Q_SIGNALS:
     /// The user has typed a text into a cell.
     void textEntered(const TextChange &change);
+    void artworkChanged();
 
 private:
     using Cell = std::pair<int, int>; ///< a track's id and a column
@@ -92,5 +105,6 @@ private:
     std::vector<int> m_rows; ///< of each track, by its id less m_firstId
     int m_firstId = 0; ///< ids are not used again for other tracks
     QHash<Cell, QString> m_savedTexts; ///< of the cells that differ from them
+    QHash<int, ArtworkChange> m_artwork; ///< of the tracks whose files hold another one, by their ids
     int m_numberOfUnreadable = 0;
 };

@@ -26,6 +26,7 @@ void describe(QApplication &application)
     application.setApplicationName(u"tageditor"_s);
     application.setApplicationDisplayName(QCoreApplication::translate("main", "Tag Editor"));
     application.setApplicationVersion(u"1.0"_s);
+    application.setDesktopFileName(u"tageditor"_s);
 }
 
 /// Styles that draw in the desktop's own colours would ignore the palette.

@@ -138,7 +138,7 @@ void FileActions::run(const QString &name, const QList<FileChange> &changes)
               if (done.isEmpty())
                   return;
               m_isOnStack = true;
-              m_editing->push(std::make_unique<FileCommand>(
+              m_editing->undoStack()->push(new FileCommand(
                   name, std::make_shared<QList<FileChange>>(done),
                   [this](const FileCommand::Changes &batch) { takeBack(batch); },
                   [this](const FileCommand::Changes &batch) { repeat(batch); }));

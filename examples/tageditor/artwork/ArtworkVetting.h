@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <tageditor/artwork/ArtworkLimit.h>
+
+#include <ZEVGlobalUtils/ImageViews/ZEVDragImageViewDelegate.h>
+
+#include <QObject>
+
+/// Takes pictures only, and makes those smaller that are larger than the user wants them, on a thread of
+/// their own.
+class ArtworkVetting : public QObject, public ZEVDragImageViewDelegate {
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+    void setLimit(const ArtworkLimit &limit) { m_limit = limit; }
+    /// The name of a file that is dragged out, without an extension.
+    void setExportName(const QString &name) { m_exportName = name; }
+
+    bool acceptBitmapData(ZEVDragImageView *imageView, const QByteArray &data,
+                          const Completion &completion) override;
+    std::optional<QString> exportNameForBitmapData(ZEVDragImageView *imageView,
+                                                   const QByteArray &data) override;
+
+private:
+    ArtworkLimit m_limit;
+    QString m_exportName;
+};

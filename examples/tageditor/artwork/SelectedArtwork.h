@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <tageditor/Track.h>
+
+#include <QObject>
+
+#include <atomic>
+#include <memory>
+
+class QTableView;
+class TrackTableModel;
+
+/// The artwork that the selected tracks have in common. It is read on another thread, anew whenever the
+/// selection or the artwork of a track has changed.
+class SelectedArtwork : public QObject {
+    Q_OBJECT
+
+public:
+    SelectedArtwork(TrackTableModel *model, QTableView *table);
+    ~SelectedArtwork() override;
+
+    enum State {
+        NoTracks, ///< none selected that could be read
+        Reading,
+        None, ///< no track has any
+        Same, ///< all have the same
+        Mixed,
+    };
+    State state() const { return m_state; }
+    /// Empty unless the state is Same.
+    const QByteArray &bytes() const { return m_bytes; }
+
+    /// The readable ones among the selected, in the order of the rows.
+    QList<Track> tracks() const;
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void readLater();
+    void read();
+    void finish(State state, const QByteArray &bytes);
+    void stop();
+
+    TrackTableModel *m_model;
+    QTableView *m_table;
+    bool m_isPending = false;
+    State m_state = NoTracks;
+    QByteArray m_bytes;
+    std::shared_ptr<std::atomic_bool> m_isStopped;
+};
