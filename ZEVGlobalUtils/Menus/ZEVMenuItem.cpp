@@ -4,6 +4,7 @@
 #include <ZEVGlobalUtils/Menus/ZEVMenuItem.h>
 
 #include <ZEVGlobalUtils/Menus/ZEVMenuTitleDrawing_p.h>
+#include <ZEVGlobalUtils/Menus/ZEVMenuTitles_p.h>
 
 #include <QAction>
 #include <QWidget>
@@ -15,6 +16,8 @@ namespace {
 constexpr char TitlesKey[] = "zevTitles";
 constexpr char TagKey[] = "tag"; // as interface files call it
 constexpr int LastIndentationLevel = 15;
+
+quint64 titlesVersion = 0;
 
 struct Titles {
     QString title;
@@ -59,6 +62,7 @@ void setTitles(QAction *item, Titles titles)
 {
     const QString shown = titles.attributedTitle ? titles.attributedTitle->string() : titles.title;
     titles.text = indentation(titles) + onOneLine(shown).replace(u'&', u"&&"_s);
+    ++titlesVersion;
     item->setProperty(TitlesKey, QVariant::fromValue(titles));
     item->setText(titles.text);
     for (QObject *object : item->associatedObjects()) {
@@ -70,6 +74,8 @@ void setTitles(QAction *item, Titles titles)
 } // namespace
 
 Q_DECLARE_METATYPE(Titles)
+
+quint64 ZEVMenuTitles::version() { return titlesVersion; }
 
 std::optional<ZEVMenuTitleDrawing::ShownTitle> ZEVMenuTitleDrawing::shownTitle(const QAction *item)
 {

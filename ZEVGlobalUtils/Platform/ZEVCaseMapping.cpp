@@ -52,6 +52,8 @@ int32_t mapped(QStringView text, Form form, const char *locale, char16_t *target
         return icu::CaseMap::toLower(locale, 0, text.utf16(), length, target, capacity, nullptr, code);
     case Form::Upper:
         return icu::CaseMap::toUpper(locale, 0, text.utf16(), length, target, capacity, nullptr, code);
+    case Form::Folded:
+        return icu::CaseMap::fold(0, text.utf16(), length, target, capacity, nullptr, code);
     case Form::Capitalized:
         break;
     }
@@ -101,5 +103,12 @@ QString ZEVCaseMapping::upperCased(QStringView text, const QByteArray &localeIde
 {
     Buffer result;
     append(result, text, Form::Upper, localeIdentifier);
+    return view(result).toString();
+}
+
+QString ZEVCaseMapping::caseFolded(QStringView text)
+{
+    Buffer result;
+    append(result, text, Form::Folded);
     return view(result).toString();
 }

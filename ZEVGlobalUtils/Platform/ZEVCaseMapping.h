@@ -21,12 +21,14 @@ inline QStringView view(const Buffer &buffer) { return {buffer.data(), buffer.si
 inline void append(Buffer &result, QStringView text) { result.append(text.utf16(), text.size()); }
 
 /// How the units of a text that is appended are mapped. Capitalized takes the text for one word: its first
-/// letter, digit or symbol in title case ("1ST" gives "1st"), all after it in lower case.
-enum class Form { Lower, Upper, Capitalized };
+/// letter, digit or symbol in title case ("1ST" gives "1st"), all after it in lower case. Folded texts are
+/// the same when they differ in case alone, in no language: both "ß" and "SS" give "ss".
+enum class Form { Lower, Upper, Capitalized, Folded };
 
 ZEV_EXPORT void append(Buffer &result, QStringView text, Form form, const QByteArray &localeIdentifier = {});
 
 ZEV_EXPORT QString lowerCased(QStringView text, const QByteArray &localeIdentifier = {});
 ZEV_EXPORT QString upperCased(QStringView text, const QByteArray &localeIdentifier = {});
+ZEV_EXPORT QString caseFolded(QStringView text);
 
 } // namespace ZEVCaseMapping

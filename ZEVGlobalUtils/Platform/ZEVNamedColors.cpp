@@ -28,6 +28,7 @@ const QHash<QStringView, Variants> &table()
         {u"filterBorderColor", {white(0.0F, 0.17F), white(1.0F, 0.17F)}},
         {u"filterBorderColorSelected", {white(0.0F, 0.35F), white(1.0F, 0.40F)}},
         {u"artBarColor", {white(0.96F, 0.85F), white(0.16F, 0.85F)}},
+        {u"reversingBlackColor", {white(0.0F), white(1.0F)}},
     };
     return colors;
 }

@@ -490,6 +490,8 @@
     <message>
         <source>Reading the image</source>
         <translation>Bild wird gelesen</translation>
+        <source>Show more</source>
+        <translation>Mehr zeigen</translation>
     </message>
 </context>
 </TS>

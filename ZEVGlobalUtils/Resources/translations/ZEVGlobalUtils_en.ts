@@ -490,6 +490,8 @@
     <message>
         <source>Reading the image</source>
         <translation>Reading the image</translation>
+        <source>Show more</source>
+        <translation>Show more</translation>
     </message>
 </context>
 </TS>

@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QList>
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+class QAction;
+
+/// Finds the items of a menu by their titles, over and over as the user types. Titles are read and folded
+/// once, and again only when they have changed.
+class MenuTitleFilter {
+public:
+    /// Whether the words of \a string lie in one line themselves.
+    static bool isOneLine(const QString &string);
+
+    /// The titles that have the words between the spaces of \a string, in their order and within one line,
+    /// whatever the case. \a string is one line.
+    QList<QAction *> itemsWithWords(const QList<QAction *> &items, const QString &string);
+
+    using Test = std::function<bool(const QString &title)>;
+    static QList<QAction *> itemsPassing(const QList<QAction *> &items, const Test &test);
+
+private:
+    struct Title {
+        QString text; ///< the item's, to see whether it has another one now
+        QString folded;
+    };
+    const QString &folded(qsizetype index, const QAction *item);
+
+    std::vector<Title> m_titles; ///< by the place of the item in the list
+    quint64 m_version = 0;
+};
