@@ -31,6 +31,7 @@ ZEV_EXPORT QByteArray bookmarkAndPersistToDefaults(const QUrl &url, ZEVError *er
 
 /// What a bookmark tells without being resolved.
 struct ResourceValues {
+    QUrl reference; ///< the item's, with the place that it had
     QString localizedName;
     QString effectiveIconName; ///< of the desktop's icon theme
     QUrl volumeURLForRemounting;

@@ -12,15 +12,14 @@
 #include <ZEVGlobalUtils/ImageViews/ZEVInnerImageView.h>
 #include <ZEVGlobalUtils/Platform/ZEVOpenPanel.h>
 #include <ZEVGlobalUtils/Platform/ZEVPasteboard.h>
+#include <ZEVGlobalUtils/Platform/ZEVUniformType.h>
 #include <ZEVGlobalUtils/Transforms/ZEVGlobalHelper.h>
 
 #include <QAction>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
-#include <QImageReader>
 #include <QKeyEvent>
 #include <QMenu>
-#include <QMimeDatabase>
 
 using namespace Qt::StringLiterals;
 
@@ -33,15 +32,6 @@ bool isFromThisApplication(const ZEVPasteboard &pasteboard)
 {
     const QString source = QString::fromUtf8(pasteboard.dataForType(ZEVCopiedArtwork::SourceType));
     return !source.isEmpty() && source == applicationIdentifier();
-}
-
-QString imageFilter()
-{
-    QStringList patterns;
-    for (const QByteArray &type : QImageReader::supportedMimeTypes())
-        patterns += QMimeDatabase().mimeTypeForName(QString::fromLatin1(type)).globPatterns();
-    patterns.removeDuplicates();
-    return ZEVGlobalHelper::localizedStringForKey(u"Images") + u" ("_s + patterns.join(u' ') + u')';
 }
 
 } // namespace
@@ -176,7 +166,9 @@ void ZEVDragImageView::clearImage()
 void ZEVDragImageView::browse()
 {
     ZEVOpenPanel panel;
-    panel.nameFilter = imageFilter();
+    panel.canChooseFiles = true;
+    panel.allowedContentTypes = {ZEVUniformType::Image.toString()};
+    panel.allowedFilesName = ZEVGlobalHelper::localizedStringForKey(u"Images");
     panel.directoryURL = m_browseURL;
     panel.window = window();
     const QPointer<ZEVDragImageView> view = this;

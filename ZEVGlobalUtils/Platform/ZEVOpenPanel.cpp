@@ -3,10 +3,17 @@
 
 #include <ZEVGlobalUtils/Platform/ZEVOpenPanel.h>
 
+#include <ZEVGlobalUtils/Platform/ZEVUniformType.h>
+
 #include <QApplication>
 #include <QFileDialog>
+#include <QFileSystemModel>
 #include <QGridLayout>
 #include <QLabel>
+#include <QMimeDatabase>
+#include <QSortFilterProxyModel>
+
+#include <algorithm>
 
 namespace {
 
@@ -29,13 +36,58 @@ void addMessage(QFileDialog &dialog, const QString &message)
     grid->addWidget(label, grid->rowCount(), 0, 1, grid->columnCount());
 }
 
+QStringList patternsOfTypes(const QStringList &types)
+{
+    QStringList patterns;
+    for (const QMimeType &type : QMimeDatabase().allMimeTypes()) {
+        const auto isAllowed = [&](const QString &allowed) {
+            return ZEVUniformType::conformsTo(type.name(), allowed);
+        };
+        if (std::ranges::any_of(types, isAllowed))
+            patterns += type.globPatterns();
+    }
+    patterns.removeDuplicates();
+    return patterns;
+}
+
+/// Folders stay, to go on into.
+class ExecutablesModel : public QSortFilterProxyModel {
+public:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+
+protected:
+    bool filterAcceptsRow(int row, const QModelIndex &parent) const override
+    {
+        const auto *files = static_cast<const QFileSystemModel *>(sourceModel());
+        const QFileInfo info = files->fileInfo(files->index(row, 0, parent));
+        return info.isDir() || info.isExecutable();
+    }
+};
+
+void setUpForFolders(QFileDialog &dialog)
+{
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+}
+
+void setUpForFiles(QFileDialog &dialog, const ZEVOpenPanel &panel)
+{
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    const QStringList patterns = patternsOfTypes(panel.allowedContentTypes);
+    if (!patterns.isEmpty())
+        dialog.setNameFilter(panel.allowedFilesName + u'(' + patterns.join(u' ') + u')');
+    if (!panel.onlyExecutables)
+        return;
+    dialog.setOption(QFileDialog::DontUseNativeDialog); // which has no such filter
+    dialog.setProxyModel(new ExecutablesModel(&dialog));
+}
+
 void configure(QFileDialog &dialog, const ZEVOpenPanel &panel)
 {
-    const bool choosesFile = !panel.nameFilter.isEmpty();
-    dialog.setFileMode(choosesFile ? QFileDialog::ExistingFile : QFileDialog::Directory);
-    dialog.setOption(QFileDialog::ShowDirsOnly, !choosesFile);
-    if (choosesFile)
-        dialog.setNameFilter(panel.nameFilter);
+    if (panel.canChooseFiles)
+        setUpForFiles(dialog, panel);
+    else
+        setUpForFolders(dialog);
     if (!panel.message.isEmpty())
         addMessage(dialog, panel.message);
     if (!panel.prompt.isEmpty())

@@ -6,13 +6,13 @@
 #include <ZEVGlobalUtils/Export.h>
 
 #include <QPointer>
-#include <QString>
+#include <QStringList>
 #include <QUrl>
 #include <QWidget>
 
 #include <functional>
 
-/// Asks the user for a folder or, with a filter, for one file. Main thread only.
+/// Asks the user for a folder or a file. Main thread only.
 class ZEV_EXPORT ZEVOpenPanel {
 public:
     static constexpr int OKResponse = 1;
@@ -21,9 +21,12 @@ public:
     QString title;
     QString prompt; ///< of the button that confirms
     QString message; ///< what stands above the folders
-    QString nameFilter; ///< of a file, as QFileDialog has them: "Images (*.png *.jpg)"; empty for folders
     QPointer<QWidget> window; ///< that the panel belongs to; null for the active one
     QUrl directoryURL; ///< where it begins
+    bool canChooseFiles = false; ///< for a file, in place of a folder
+    bool onlyExecutables = false; ///< of the files, those that can be run
+    QStringList allowedContentTypes; ///< of files, see ZEVUniformType; empty allows all
+    QString allowedFilesName; ///< what the user is told of them, such as "Images"; may be empty
     QUrl URL; ///< what was chosen, once it was
 
     int runModal();

@@ -26,6 +26,7 @@ const QList<Names> &table()
         {ZEVUniformType::AVIF, {u"image/avif"_s}},
         {ZEVUniformType::URL, {u"text/uri-list"_s}},
         {ZEVUniformType::FileURL, {u"text/uri-list"_s}},
+        {ZEVUniformType::Folder, {u"inode/directory"_s}},
     };
     return names;
 }
@@ -49,6 +50,8 @@ bool ZEVUniformType::conformsTo(QStringView identifier, QStringView general)
         return true;
     if (isEqual(general, Image))
         return mimeTypes(identifier).first().startsWith(u"image/");
+    if (isEqual(general, Audio))
+        return mimeTypes(identifier).first().startsWith(u"audio/");
     const QMimeType type = QMimeDatabase().mimeTypeForName(mimeTypes(identifier).first());
     return type.isValid() && type.inherits(canonicalMimeType(mimeTypes(general).first()));
 }

@@ -22,12 +22,14 @@ inline constexpr QStringView WebP = u"org.webmproject.webp";
 inline constexpr QStringView AVIF = u"public.avif";
 inline constexpr QStringView URL = u"public.url";
 inline constexpr QStringView FileURL = u"public.file-url";
+inline constexpr QStringView Audio = u"public.audio";
+inline constexpr QStringView Folder = u"public.folder";
 
 /// Identifiers are compared without regard to case.
 ZEV_EXPORT bool isEqual(QStringView one, QStringView other);
 
 /// Whether data of \a identifier may stand where \a general is asked for: every type conforms to itself,
-/// every kind of picture to Image.
+/// every kind of picture to Image, every kind of sound to Audio.
 ZEV_EXPORT bool conformsTo(QStringView identifier, QStringView general);
 
 /// The names under which other programs offer the type, the usual one first.

@@ -452,8 +452,10 @@ private Q_SLOTS:
         int response = ZEVOpenPanel::CancelResponse;
         const auto before = ZEVOpenPanel::setRunner([&](ZEVOpenPanel &panel) {
             panel.URL = QUrl::fromLocalFile(m_file);
-            return panel.directoryURL == well.browseURL() && panel.nameFilter.contains(u"*.png") ? response
-                                                                                                 : 2;
+            return panel.directoryURL == well.browseURL()
+                    && panel.allowedContentTypes == QStringList{u"public.image"_s}
+                ? response
+                : 2;
         });
         well.browse();
         well.settle();

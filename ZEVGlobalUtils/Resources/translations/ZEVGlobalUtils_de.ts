@@ -493,5 +493,21 @@
         <source>Show more</source>
         <translation>Mehr zeigen</translation>
     </message>
+    <message>
+        <source>Last Used</source>
+        <translation>Zuletzt benutzt</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Auswählen …</translation>
+    </message>
+    <message>
+        <source>Choose</source>
+        <translation>Auswählen</translation>
+    </message>
+    <message>
+        <source>Clear Recents</source>
+        <translation>Benutzte löschen</translation>
+    </message>
 </context>
 </TS>

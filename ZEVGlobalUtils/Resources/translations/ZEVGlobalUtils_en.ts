@@ -493,5 +493,21 @@
         <source>Show more</source>
         <translation>Show more</translation>
     </message>
+    <message>
+        <source>Last Used</source>
+        <translation>Last Used</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Choose…</translation>
+    </message>
+    <message>
+        <source>Choose</source>
+        <translation>Choose</translation>
+    </message>
+    <message>
+        <source>Clear Recents</source>
+        <translation>Clear Recents</translation>
+    </message>
 </context>
 </TS>
