@@ -78,6 +78,7 @@ void AutomatedRun::performWhenReady()
     if (!m_isRead || !m_isExposed)
         return;
     QTimer::singleShot(0, this, [this] {
+        m_window->find().actor().searchIfChanged(); // at once, so that its matches are painted
         QWidget *viewport = m_window->table().viewport();
         viewport->installEventFilter(this);
         viewport->update();

@@ -16,13 +16,6 @@ namespace {
 
 QString text(const char *wording) { return QCoreApplication::translate("CommandLine", wording); }
 
-/// Beside the installed binary, else where the sources are.
-QString sampleFolder()
-{
-    const QDir installed(QCoreApplication::applicationDirPath() + u"/../share/tageditor/sample"_s);
-    return installed.exists() ? installed.canonicalPath() : QStringLiteral(TAGEDITOR_SAMPLE);
-}
-
 /// For those who work on the library, so the help keeps silent about it.
 void describeGallery(QCommandLineParser &parser)
 {
@@ -37,7 +30,8 @@ void describe(QCommandLineParser &parser)
 {
     parser.setApplicationDescription(text("Shows the tags of the audio files in a folder."));
     parser.addHelpOption();
-    parser.addPositionalArgument(text("FOLDER"), text("The folder to open; else the sample."), u"[FOLDER]"_s);
+    parser.addPositionalArgument(
+        text("FOLDER"), text("The folder to open; else the last one, or the sample."), u"[FOLDER]"_s);
     parser.addOptions({
         {u"find"_s, text("Find PATTERN."), text("PATTERN")},
         {u"matching-type"_s, text("How to match, from 0 (contains) to 5."), u"N"_s, u"0"_s},
@@ -68,7 +62,7 @@ CommandLine CommandLine::parsed(const QCoreApplication &application)
     describe(parser);
     parser.process(application);
     return {
-        .folder = parser.positionalArguments().value(0, sampleFolder()),
+        .folder = parser.positionalArguments().value(0),
         .findText = parser.value(u"find"_s),
         .matchingType = ::matchingType(parser),
         .isCaseSensitive = parser.isSet(u"case-sensitive"_s),
@@ -79,4 +73,10 @@ CommandLine CommandLine::parsed(const QCoreApplication &application)
         .showsGallery = parser.isSet(u"gallery"_s),
         .isInactive = parser.isSet(u"inactive"_s),
     };
+}
+
+QString CommandLine::sampleFolder()
+{
+    const QDir installed(QCoreApplication::applicationDirPath() + u"/../share/tageditor/sample"_s);
+    return installed.exists() ? installed.canonicalPath() : QStringLiteral(TAGEDITOR_SAMPLE);
 }

@@ -9,7 +9,7 @@ class QCoreApplication;
 
 /// What the application is asked for when it is started.
 struct CommandLine {
-    QString folder;
+    QString folder; ///< empty when none was named
     QString findText;
     qint64 matchingType = 0;
     bool isCaseSensitive = false;
@@ -19,6 +19,9 @@ struct CommandLine {
     QString screenshotFile; ///< with the gallery, the folder of its pages' pictures
     bool showsGallery = false;
     bool isInactive = false; ///< another window has the focus while the gallery is pictured
+
+    /// Beside the installed binary, else where the sources are.
+    static QString sampleFolder();
 
     /// Leaves the process with a message where the arguments cannot be understood or ask for help.
     static CommandLine parsed(const QCoreApplication &application);

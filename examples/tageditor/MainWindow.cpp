@@ -5,11 +5,13 @@
 
 #include <tageditor/artwork/ArtworkDock.h>
 #include <tageditor/files/FileActions.h>
+#include <tageditor/files/FileWatch.h>
 #include <tageditor/find/TrackFind.h>
 #include <tageditor/inspector/Inspector.h>
 #include <tageditor/MessageLabel.h>
 #include <tageditor/QuickOpen.h>
 #include <tageditor/SizeLabel.h>
+#include <tageditor/TableColumns.h>
 #include <tageditor/TextEditing.h>
 #include <tageditor/TrackSaving.h>
 
@@ -28,6 +30,7 @@
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QScreen>
+#include <QScrollArea>
 #include <QStatusBar>
 #include <QStyle>
 #include <QTableView>
@@ -39,6 +42,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString GeometryKey = u"MainWindowGeometry"_s;
+const QString StateKey = u"MainWindowState"_s;
+const QString FolderKey = u"LastFolder"_s;
 
 /// The widths of columns in average characters: what one begins with, and what its contents may make of it.
 constexpr std::array<int, TrackFieldCount> FirstWidths{24, 24, 22, 20, 8, 8, 14, 30};
@@ -70,6 +75,7 @@ MainWindow::MainWindow(QWidget *parent)
     m_find = new TrackFind(&m_model, m_table, m_editing);
     setCentralWidget(m_find);
     m_files = new FileActions(&m_model, m_table, m_editing);
+    m_watch = new FileWatch(&m_model, this);
     m_quickOpen = new QuickOpen(&m_model, this);
     addInspector();
     addDockWidget(Qt::RightDockWidgetArea, new ArtworkDock(&m_model, m_table, m_editing->undoStack()));
@@ -77,7 +83,7 @@ MainWindow::MainWindow(QWidget *parent)
     setUpStatusBar();
     watchReader();
     watchTexts();
-    restoreGeometryFromDefaults();
+    restoreFromDefaults();
     m_table->setFocus();
 }
 
@@ -87,6 +93,7 @@ void MainWindow::makeMenus()
 {
     QMenu *file = menuBar()->addMenu(tr("&File"));
     file->addAction(tr("&Open Folder…"), QKeySequence(u"Ctrl+O"_s), this, &MainWindow::chooseFolder);
+    file->addAction(tr("&Reload Folder"), QKeySequence(u"F5"_s), this, [this] { openFolder(m_folder); });
     file->addAction(tr("&Save"), QKeySequence(u"Ctrl+S"_s), this, &MainWindow::save);
     file->addSeparator();
     m_files->addActions(file);
@@ -157,6 +164,7 @@ void MainWindow::setUpTable()
     m_table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     m_table->horizontalHeader()->setSortIndicatorClearable(true);
     m_table->setSortingEnabled(true);
+    TableColumns::addMenu(m_table);
     for (int column = 0; column < TrackFieldCount; ++column)
         m_table->setColumnWidth(column,
                                 FirstWidths.at(size_t(column)) * m_table->fontMetrics().averageCharWidth());
@@ -167,7 +175,11 @@ void MainWindow::addInspector()
     m_inspector = new Inspector(&m_model, m_table->selectionModel(), m_editing);
     auto *dock = new QDockWidget(tr("Tags"), this);
     dock->setObjectName(u"TagsDock"_s);
-    dock->setWidget(m_inspector);
+    auto *scrolled = new QScrollArea; // the window may be low
+    scrolled->setWidget(m_inspector);
+    scrolled->setWidgetResizable(true);
+    scrolled->setFrameShape(QFrame::NoFrame);
+    dock->setWidget(scrolled);
     addDockWidget(Qt::RightDockWidgetArea, dock);
 }
 
@@ -207,6 +219,7 @@ void MainWindow::watchTexts()
     connect(m_editing, &TextEditing::nothingDone, this,
             [this](const QString &message) { statusBar()->showMessage(message, MessageDuration); });
     connect(m_files, &FileActions::reported, m_problem, &MessageLabel::showMessage);
+    connect(m_watch, &FileWatch::noticed, this, &MainWindow::showNoticed);
     connect(m_quickOpen, &QuickOpen::trackChosen, this, &MainWindow::selectTrack);
 }
 
@@ -287,12 +300,24 @@ void MainWindow::finishReading(const QString &failure)
         m_model.sort(header->sortIndicatorSection(), header->sortIndicatorOrder());
     m_find->actor().searchAgainSoon();
     showCounts();
-    fitColumns();
+    if (!m_hasOwnColumns)
+        fitColumns();
     if (!failure.isEmpty())
         m_problem->showMessage(
             tr("The folder “%1” could not be read: %2").arg(QDir::toNativeSeparators(m_folder), failure),
             true);
     Q_EMIT folderRead(failure);
+}
+
+void MainWindow::showNoticed(int changed, int gone)
+{
+    QStringList texts;
+    if (changed > 0)
+        texts.append(tr("%L1 files were changed by another program and read again").arg(changed));
+    if (gone > 0)
+        texts.append(tr("%L1 files are not there any more").arg(gone));
+    m_problem->showMessage(texts.join(u"; "_s), gone > 0);
+    showCounts();
 }
 
 void MainWindow::showCounts()
@@ -315,13 +340,30 @@ void MainWindow::fitColumns()
     }
 }
 
-void MainWindow::restoreGeometryFromDefaults()
+void MainWindow::restoreFromDefaults()
 {
-    const QVariant geometry = ZEVUserDefaults::standardUserDefaults()->objectForKey(GeometryKey);
-    if (restoreGeometry(geometry.toByteArray()))
+    const ZEVUserDefaults *defaults = ZEVUserDefaults::standardUserDefaults();
+    m_hasOwnColumns = TableColumns::restore(m_table);
+    restoreState(defaults->objectForKey(StateKey).toByteArray());
+    if (restoreGeometry(defaults->objectForKey(GeometryKey).toByteArray()))
         return;
-    const QSize wanted(fontMetrics().averageCharWidth() * 170, fontMetrics().height() * 32);
+    const QSize wanted(fontMetrics().averageCharWidth() * 200, fontMetrics().height() * 36);
     resize(wanted.boundedTo(screen()->availableSize() * 9 / 10));
+}
+
+void MainWindow::remember() const
+{
+    ZEVUserDefaults *defaults = ZEVUserDefaults::standardUserDefaults();
+    defaults->setObject(saveGeometry(), GeometryKey);
+    defaults->setObject(saveState(), StateKey);
+    defaults->setObject(m_folder, FolderKey);
+    TableColumns::remember(m_table);
+}
+
+QString MainWindow::lastFolder()
+{
+    const QString folder = ZEVUserDefaults::standardUserDefaults()->objectForKey(FolderKey).toString();
+    return QDir(folder).exists() ? folder : QString();
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
@@ -333,6 +375,6 @@ void MainWindow::closeEvent(QCloseEvent *event)
     }
     m_files->cancelAndWait();
     m_reader.cancel();
-    ZEVUserDefaults::standardUserDefaults()->setObject(saveGeometry(), GeometryKey);
+    remember();
     QMainWindow::closeEvent(event);
 }

@@ -12,6 +12,7 @@
 #include <functional>
 
 class FileActions;
+class FileWatch;
 class Inspector;
 class MessageLabel;
 class QLabel;
@@ -32,6 +33,9 @@ public:
 
     /// Asks first where changed texts would be lost; the folder stays if the user wants to keep them.
     void openFolder(const QString &folder);
+
+    /// The folder that was open last; empty when none was, or when it is not there any more.
+    static QString lastFolder();
 
     /// Writes the changed texts into their files; false when some are left.
     bool save();
@@ -72,9 +76,12 @@ private:
     void finishReading(const QString &failure);
     void showCounts();
     void fitColumns();
-    void restoreGeometryFromDefaults();
+    void restoreFromDefaults();
+    void remember() const;
+    void showNoticed(int changed, int gone);
 
     QString m_folder;
+    bool m_hasOwnColumns = false; ///< as the user left them
     QString m_firstSkipped; ///< tells of the first folder within that could not be listed
     int m_skippedFolders = 0;
     TrackTableModel m_model;
@@ -85,6 +92,7 @@ private:
     TrackFind *m_find;
     Inspector *m_inspector;
     FileActions *m_files;
+    FileWatch *m_watch;
     QuickOpen *m_quickOpen;
     QLabel *m_counts;
     MessageLabel *m_problem;

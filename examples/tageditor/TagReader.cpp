@@ -49,6 +49,7 @@ Track TagReader::read(const std::filesystem::path &path)
     Track track;
     track.path = path;
     track.text(TrackField::FileName) = displayedPath(path.filename());
+    track.stamp = FileStamp::of(path); // first, so that a change while it is read is noticed later
     track.error = lookAtFile(track);
     if (track.isReadable())
         track.error = readTags(track);

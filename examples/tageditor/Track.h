@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <tageditor/FileStamp.h>
+
 #include <QHash>
 #include <QList>
 #include <QString>
@@ -22,6 +24,7 @@ struct Track {
     std::filesystem::path path; ///< the file system's own bytes, which need not be UTF-8
     std::array<QString, TrackFieldCount> fields; ///< empty where the file says nothing
     qint64 fileSize = 0; ///< bytes
+    std::optional<FileStamp> stamp; ///< of the file as it was read; nil where there was none
     QString error; ///< why the tags could not be read; empty when they were
 
     const QString &text(TrackField field) const { return fields.at(size_t(field)); }

@@ -134,8 +134,28 @@ void TrackTableModel::setPath(int trackId, const std::filesystem::path &path)
     if (row < 0)
         return;
     m_tracks[row].path = path;
+    const std::optional<FileStamp> before = m_tracks.at(row).stamp;
+    const std::optional<FileStamp> now = FileStamp::of(path);
+    if (before && now && before->size == now->size && before->modified == now->modified)
+        m_tracks[row].stamp = now; // another volume has another inode
     m_tracks[row].text(TrackField::FileName) = displayedPath(path.filename());
     Q_EMIT dataChanged(index(row, int(TrackField::FileName)), index(row, int(TrackField::FileName)));
+}
+
+void TrackTableModel::replaceTrack(int row, const Track &track)
+{
+    m_numberOfUnreadable += int(!track.isReadable()) - int(!m_tracks.at(row).isReadable());
+    const int id = std::exchange(m_tracks[row], track).id;
+    m_tracks[row].id = id;
+    Q_EMIT dataChanged(index(row, 0), index(row, TrackFieldCount - 1));
+    Q_EMIT artworkChanged();
+}
+
+void TrackTableModel::setReverted(int trackId, const Track &track)
+{
+    forgetChanges(trackId);
+    if (const int row = rowOfTrack(trackId); row >= 0)
+        replaceTrack(row, track);
 }
 
 /// The text that stood there before.
@@ -154,6 +174,21 @@ QString TrackTableModel::setText(Track &track, TrackField field, const QString &
 bool TrackTableModel::isChanged(int row, TrackField field) const
 {
     return m_savedTexts.contains({track(row).id, int(field)});
+}
+
+void TrackTableModel::forgetChanges(int trackId)
+{
+    m_savedTexts.removeIf([trackId](const auto &cell) { return cell.key().first == trackId; });
+    m_artwork.remove(trackId);
+}
+
+bool TrackTableModel::hasChanges(int trackId) const
+{
+    for (int field = 0; field < TrackFieldCount; ++field) {
+        if (m_savedTexts.contains({trackId, field}))
+            return true;
+    }
+    return m_artwork.contains(trackId);
 }
 
 QList<int> TrackTableModel::changedTracks() const
@@ -180,10 +215,12 @@ QHash<TrackField, QString> TrackTableModel::changedTexts(int trackId) const
 void TrackTableModel::setSaved(int trackId)
 {
     const int row = rowOfTrack(trackId);
-    m_savedTexts.removeIf([trackId](const auto &cell) { return cell.key().first == trackId; });
-    m_artwork.remove(trackId);
-    if (row >= 0)
-        Q_EMIT dataChanged(index(row, 0), index(row, TrackFieldCount - 1), {Qt::FontRole});
+    forgetChanges(trackId);
+    if (row < 0)
+        return;
+    m_tracks[row].stamp = FileStamp::of(m_tracks.at(row).path);
+    m_tracks[row].fileSize = m_tracks.at(row).stamp.value_or(FileStamp()).size;
+    Q_EMIT dataChanged(index(row, 0), index(row, TrackFieldCount - 1), {Qt::FontRole});
 }
 
 void TrackTableModel::setArtwork(const QList<ArtworkChange> &changes)

@@ -57,6 +57,9 @@ public:
     /// Where the file of a track is now, and what it is called.
     void setPath(int trackId, const std::filesystem::path &path);
 
+    /// Shows what was read again from the track's file.
+    void replaceTrack(int row, const Track &track);
+
     /// Changes all of them at once.
     void setArtwork(const QList<ArtworkChange> &changes);
     /// What is to be written into the file, empty bytes to remove it; nil where it stays as it is.
@@ -64,14 +67,18 @@ public:
 
     /// Whether a text or the artwork differs from what the file holds.
     bool hasChanges() const { return !m_savedTexts.isEmpty() || !m_artwork.isEmpty(); }
+    bool hasChanges(int trackId) const;
     bool isChanged(int row, TrackField field) const;
 
     /// The ids of the tracks with changed texts or artwork, in the order of the rows; and those texts.
     QList<int> changedTracks() const;
     QHash<TrackField, QString> changedTexts(int trackId) const;
 
-    /// The file holds the texts and the artwork of the track now.
+    /// The file holds the texts and the artwork of the track now, and has another stamp.
     void setSaved(int trackId);
+
+    /// What was changed is forgotten: the track is as its file, which \a track was read from.
+    void setReverted(int trackId, const Track &track);
 
     void append(const QList<Track> &tracks);
     void clear();
@@ -99,6 +106,7 @@ private:
     using Cell = std::pair<int, int>; ///< a track's id and a column
 
     QString setText(Track &track, TrackField field, const QString &text);
+    void forgetChanges(int trackId);
     void rearrange(const std::vector<int> &oldRows);
 
     QList<Track> m_tracks;

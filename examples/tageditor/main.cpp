@@ -48,6 +48,14 @@ ZEVFindPanelQuery queryOf(const CommandLine &commandLine, FindBar &bar)
     return query;
 }
 
+QString folderToOpen(const CommandLine &commandLine)
+{
+    if (!commandLine.folder.isEmpty())
+        return commandLine.folder;
+    const QString last = MainWindow::lastFolder();
+    return last.isEmpty() || commandLine.quits ? CommandLine::sampleFolder() : last;
+}
+
 int runGallery(const CommandLine &commandLine)
 {
     GalleryWindow window(galleryPages());
@@ -82,6 +90,6 @@ int main(int argc, char **argv)
     window.show();
     if (!commandLine.findText.isEmpty())
         window.find().find(queryOf(commandLine, window.find().bar()));
-    window.openFolder(commandLine.folder);
+    window.openFolder(folderToOpen(commandLine));
     return application.exec();
 }

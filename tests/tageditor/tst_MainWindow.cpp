@@ -26,7 +26,7 @@ private Q_SLOTS:
     {
         Shown shown;
         QVERIFY(shown.visible);
-        auto *progress = shown.window.findChild<QProgressBar *>();
+        auto *progress = shown.window.statusBar()->findChild<QProgressBar *>();
         QVERIFY(!progress->isVisible());
         shown.window.openFolder(Samples::folder());
         QVERIFY(progress->isVisible()); // the window is there before the first track is

@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <tageditor/files/FileWatch.h>
+
+#include <tageditor/TagReader.h>
+#include <tageditor/TrackTableModel.h>
+
+#include <QGuiApplication>
+#include <QPointer>
+#include <QSet>
+#include <QThreadPool>
+
+namespace {
+
+/// Programs write a file in many steps; so many milliseconds after the last of them it is looked at.
+constexpr int Patience = 400;
+
+/// A system lets its user watch some thousands of folders; the rest is looked at when the user returns.
+constexpr qsizetype MostFolders = 500;
+
+} // namespace
+
+FileWatch::FileWatch(TrackTableModel *model, QObject *parent)
+    : QObject(parent)
+    , m_model(model)
+{
+    m_timer.setSingleShot(true);
+    m_timer.setInterval(Patience);
+    connect(&m_timer, &QTimer::timeout, this, &FileWatch::lookNow);
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &FileWatch::lookSoon);
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+        if (state == Qt::ApplicationActive)
+            lookSoon();
+    });
+    connect(model, &TrackTableModel::rowsInserted, this,
+            [this](const QModelIndex &, int first, int last) { watchFolders(first, last); });
+    connect(model, &TrackTableModel::modelReset, this, [this] {
+        if (const QStringList folders = m_watcher.directories(); !folders.isEmpty())
+            m_watcher.removePaths(folders);
+    });
+}
+
+FileWatch::~FileWatch()
+{
+    if (m_isStopped)
+        *m_isStopped = true;
+}
+
+/// A folder whose name is no UTF-8 cannot be named to the watcher.
+void FileWatch::watchFolders(int first, int last)
+{
+    QSet<QString> folders;
+    for (int row = first; row <= last; ++row)
+        folders.insert(QString::fromStdString(m_model->track(row).path.parent_path().native()));
+    const QStringList watched = m_watcher.directories();
+    folders.subtract(QSet<QString>(watched.begin(), watched.end()));
+    folders.remove({});
+    if (!folders.isEmpty() && watched.size() + folders.size() <= MostFolders)
+        m_watcher.addPaths(folders.values());
+}
+
+void FileWatch::lookNow()
+{
+    if (m_isLooking)
+        return m_timer.start();
+    QList<Known> files;
+    for (int row = 0; row < m_model->rowCount(); ++row)
+        files.append({m_model->track(row).id, m_model->track(row).path, m_model->track(row).stamp});
+    if (files.isEmpty())
+        return;
+    m_isLooking = true;
+    const auto isStopped = m_isStopped = std::make_shared<std::atomic_bool>(false);
+    QThreadPool::globalInstance()->start([files, isStopped, watch = QPointer(this)] {
+        const QList<Found> found = look(files, *isStopped);
+        QMetaObject::invokeMethod(qApp, [watch, found] {
+            if (watch)
+                watch->show(found);
+        });
+    });
+}
+
+QList<FileWatch::Found> FileWatch::look(const QList<Known> &files, const std::atomic_bool &isStopped)
+{
+    QList<Found> found;
+    for (const Known &known : files) {
+        if (isStopped)
+            break;
+        if (FileStamp::of(known.path) != known.stamp)
+            found.append({known, TagReader::read(known.path)});
+    }
+    return found;
+}
+
+/// Meanwhile a track may have been saved, renamed or changed here.
+void FileWatch::show(const QList<Found> &found)
+{
+    m_isLooking = false;
+    int changed = 0;
+    int gone = 0;
+    for (const auto &[known, track] : found) {
+        const int row = m_model->rowOfTrack(known.trackId);
+        if (row < 0 || m_model->track(row).path != known.path || m_model->track(row).stamp != known.stamp
+            || m_model->hasChanges(known.trackId))
+            continue;
+        m_model->replaceTrack(row, track);
+        ++(track.stamp ? changed : gone);
+    }
+    if (changed > 0 || gone > 0)
+        Q_EMIT noticed(changed, gone);
+}

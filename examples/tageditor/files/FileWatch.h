@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <tageditor/Track.h>
+
+#include <QFileSystemWatcher>
+#include <QObject>
+#include <QTimer>
+
+#include <atomic>
+#include <memory>
+
+class TrackTableModel;
+
+/// Notices what other programs do to the files of the table, and shows it there: as it comes for files that
+/// come, go or are replaced, and for all when the user returns to the window. Texts that were changed here
+/// stay; saving asks about them.
+class FileWatch : public QObject {
+    Q_OBJECT
+
+public:
+    explicit FileWatch(TrackTableModel *model, QObject *parent = nullptr);
+    ~FileWatch() override;
+
+    /// Looks at all files on another thread, once the events at hand are done.
+    void lookSoon() { m_timer.start(); }
+
+Q_SIGNALS:
+    /// Of how many tracks the table shows something else now.
+    void noticed(int changed, int gone);
+
+private:
+    /// A file as the table knows it.
+    struct Known {
+        int trackId = -1;
+        std::filesystem::path path;
+        std::optional<FileStamp> stamp;
+    };
+    /// What became of it: a track that was read again, or that has an error.
+    struct Found {
+        Known known;
+        Track track;
+    };
+
+    static QList<Found> look(const QList<Known> &files, const std::atomic_bool &isStopped);
+    void watchFolders(int first, int last);
+    void lookNow();
+    void show(const QList<Found> &found);
+
+    TrackTableModel *m_model;
+    QFileSystemWatcher m_watcher;
+    QTimer m_timer;
+    std::shared_ptr<std::atomic_bool> m_isStopped;
+    bool m_isLooking = false;
+};
