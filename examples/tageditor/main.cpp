@@ -11,6 +11,7 @@
 #include <ZEVGlobalUtils/FindPanel/ZEVTokenField.h>
 
 #include <QApplication>
+#include <QIcon>
 #include <QStyle>
 #include <QStyleFactory>
 
@@ -26,6 +27,12 @@ void describe(QApplication &application)
     application.setApplicationName(u"tageditor"_s);
     application.setApplicationDisplayName(QCoreApplication::translate("main", "Tag Editor"));
     application.setApplicationVersion(u"1.0"_s);
+    const QString id = u"org.zevglobalutils.TagEditor"_s;
+    application.setDesktopFileName(id);
+    QIcon icon;
+    for (const QString &size : {u"48"_s, u"128"_s})
+        icon.addFile(u":/tageditor/"_s + id + u'-' + size + u".png"_s);
+    application.setWindowIcon(QIcon::fromTheme(id, icon));
     application.setDesktopFileName(u"tageditor"_s);
 }
 
