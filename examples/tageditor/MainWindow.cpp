@@ -347,7 +347,7 @@ void MainWindow::restoreFromDefaults()
     restoreState(defaults->objectForKey(StateKey).toByteArray());
     if (restoreGeometry(defaults->objectForKey(GeometryKey).toByteArray()))
         return;
-    const QSize wanted(fontMetrics().averageCharWidth() * 200, fontMetrics().height() * 36);
+    const QSize wanted(fontMetrics().averageCharWidth() * 200, fontMetrics().height() * 40);
     resize(wanted.boundedTo(screen()->availableSize() * 9 / 10));
 }
 

@@ -11,6 +11,8 @@
 #include <tageditor/TrackTableModel.h>
 
 #include <ZEVGlobalUtils/FindPanel/ZEVTextEditFinderClient.h>
+#include <ZEVGlobalUtils/Transforms/FileSizeTransformer.h>
+#include <ZEVGlobalUtils/Transforms/ZEVShortDateFormatter.h>
 
 #include <QApplication>
 #include <QFormLayout>
@@ -23,6 +25,8 @@ namespace {
 constexpr TrackField LineFields[]{TrackField::Title, TrackField::Artist, TrackField::Album,
                                   TrackField::Year,  TrackField::Number, TrackField::Genre};
 
+constexpr qint64 NanosecondsPerMillisecond = 1'000'000;
+
 } // namespace
 
 Inspector::Inspector(TrackTableModel *model, const QItemSelectionModel *selection, TextEditing *editing,
@@ -34,6 +38,7 @@ Inspector::Inspector(TrackTableModel *model, const QItemSelectionModel *selectio
     , m_tokens(new ZEVPatternTokens({TagTokens::fieldTokens()}, this))
     , m_comment(new CommentEdit)
     , m_commentFind(new FindPlace(m_comment))
+    , m_files(new QLabel)
 {
     layOut();
     m_comment->setFinder(&m_commentFind->finder());
@@ -70,6 +75,9 @@ void Inspector::layOut()
     rows->addLayout(form);
     rows->addWidget(label);
     rows->addWidget(m_commentFind, 1);
+    m_files->setTextFormat(Qt::PlainText);
+    m_files->setWordWrap(true);
+    rows->addWidget(m_files);
 }
 
 void Inspector::addFields(QFormLayout *form)
@@ -97,6 +105,7 @@ void Inspector::showTracks()
     for (Row &row : m_fields)
         showField(row);
     showComment();
+    showFiles();
     setEnabled(!m_trackIds.isEmpty());
 }
 
@@ -134,6 +143,23 @@ void Inspector::showComment()
     if (!isBeingTyped && m_comment->toPlainText() != shown) // else the editor's own undo is kept
         m_comment->setPlainText(shown);
     m_shownComment = isBeingTyped ? shown : m_comment->toPlainText();
+}
+
+void Inspector::showFiles()
+{
+    QVariantList sizes;
+    qint64 modified = 0;
+    for (const int id : std::as_const(m_trackIds)) {
+        const Track &track = m_model->track(m_model->rowOfTrack(id));
+        sizes.append(track.fileSize);
+        modified = std::max(modified, track.stamp.value_or(FileStamp()).modified);
+    }
+    if (sizes.isEmpty())
+        return m_files->clear();
+    const QString size = FileSizeTransformer().transformedValue(sizes).toString();
+    const QDateTime date = QDateTime::fromMSecsSinceEpoch(modified / NanosecondsPerMillisecond);
+    m_files->setText(
+        tr("%1, changed %2").arg(size, ZEVShortDateFormatter::sharedInstance().stringFromDate(date)));
 }
 
 void Inspector::commit()

@@ -13,6 +13,7 @@
 
 class CommentEdit;
 class QFormLayout;
+class QLabel;
 class QItemSelectionModel;
 class TagField;
 class TextEditing;
@@ -47,6 +48,7 @@ private:
     std::optional<QString> commonText(TrackField field) const;
     void showField(Row &row);
     void showComment();
+    void showFiles();
     void commitField(Row &row);
     void commitComment();
     void change(TrackField field, const QVariantList &pattern);
@@ -59,6 +61,7 @@ private:
     CommentEdit *m_comment;
     FindPlace *m_commentFind;
     QString m_shownComment;
+    QLabel *m_files; ///< their sizes, and when the last one was changed
     QList<int> m_trackIds; ///< those that are shown
     QTimer m_timer; ///< shows the tracks once the events at hand are done
 };
