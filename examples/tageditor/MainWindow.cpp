@@ -78,9 +78,9 @@ MainWindow::MainWindow(QWidget *parent)
     m_watch = new FileWatch(&m_model, this);
     m_quickOpen = new QuickOpen(&m_model, this);
     addInspector();
-    addDockWidget(Qt::RightDockWidgetArea, new ArtworkDock(&m_model, m_table, m_editing->undoStack()));
     makeMenus();
     setUpStatusBar();
+    addDockWidget(Qt::RightDockWidgetArea, new ArtworkDock(&m_model, m_table, m_editing->undoStack()));
     watchReader();
     watchTexts();
     restoreFromDefaults();

@@ -5,6 +5,7 @@
 
 #include <tageditor/gallery/FindInterfacesPage.h>
 #include <tageditor/gallery/ImagePages.h>
+#include <tageditor/gallery/ImageViewPages.h>
 #include <tageditor/gallery/LayoutPage.h>
 #include <tageditor/gallery/MenuItemsPage.h>
 #include <tageditor/gallery/TextTransformsPage.h>
@@ -21,6 +22,8 @@ QList<GalleryPage> galleryPages()
         {u"Layout"_s, &layoutPage},
         {u"Stencils"_s, &stencilsPage},
         {u"Picture fitting"_s, &pictureFittingPage},
+        {u"Artwork well"_s, &artworkWellPage},
+        {u"Artwork views"_s, &artworkViewsPage},
         {u"Text transforms"_s, &textTransformsPage},
     };
 }
