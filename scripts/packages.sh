@@ -11,7 +11,8 @@ build_packages=(
 # Without a display of its own, a machine also lacks the server and the fonts.
 display_packages=(xvfb xauth fonts-dejavu-core fonts-ipafont-gothic fonts-noto-color-emoji)
 # A small desktop for the tests in tests/desktop, and what looks at the files that an installation brings.
-test_packages=(openbox xdotool thunar dbus-daemon desktop-file-utils appstream)
+test_packages=(openbox xdotool thunar dbus-daemon weston qt6-wayland
+    desktop-file-utils appstream)
 check_packages=(git clang-format clang-tidy)
 
 install_packages() {

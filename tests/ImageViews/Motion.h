@@ -3,7 +3,9 @@
 
 #pragma once
 
+#include <QGuiApplication>
 #include <QProxyStyle>
+#include <QTest>
 #include <QWidget>
 
 /// A desktop that asks for no animations, or does not.
@@ -32,3 +34,8 @@ inline void setReducedMotion(QWidget *view, bool isReduced)
     style->setParent(view);
     view->setStyle(style);
 }
+
+/// A compositor without a seat gives no window the keyboard or the mouse, and none the clipboard.
+#define NEEDS_A_SEAT                                                                                         \
+    if (QGuiApplication::platformName() == u"wayland")                                                       \
+    QSKIP("The headless compositor has no seat.")

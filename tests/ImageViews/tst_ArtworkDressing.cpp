@@ -166,6 +166,7 @@ private Q_SLOTS:
 
     void theToolbarShowsWhileTheMouseIsInside()
     {
+        NEEDS_A_SEAT;
         QWidget window;
         window.resize(300, 200);
         auto *const view = new ZEVArtFocusView(&window);

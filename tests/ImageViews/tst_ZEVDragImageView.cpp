@@ -296,6 +296,7 @@ private Q_SLOTS:
 
     void copyAndPaste()
     {
+        NEEDS_A_SEAT;
         Vetter vetter;
         Well well;
         well.setDelegate(&vetter);
@@ -331,6 +332,7 @@ private Q_SLOTS:
 
     void whatCanBeDone()
     {
+        NEEDS_A_SEAT;
         Well well;
         QStringList titles;
         for (const QAction *item : well.menu()->actions())
@@ -372,6 +374,7 @@ private Q_SLOTS:
 
     void theKeyboardFindsItsWay()
     {
+        NEEDS_A_SEAT;
         Well well;
         well.setBitmapData(png(5));
         well.show();
