@@ -40,12 +40,7 @@ public:
         m_environment.insert(QStringLiteral("NO_AT_BRIDGE"), QStringLiteral("1"));
         m_environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
         m_server.reset(xcb_connect(display.toLatin1().constData(), nullptr));
-        QProcess *const bus = start(
-            QStringLiteral("dbus-daemon"),
-            {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address")});
-        bus->waitForReadyRead(10000);
-        m_environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
-                             QString::fromLatin1(bus->readLine()).trimmed());
+        startBus();
         start(QStringLiteral("openbox"), {});
     }
 
@@ -163,6 +158,24 @@ public:
     }
 
 private:
+    /// A bus that starts no services: they would outlive the test.
+    void startBus()
+    {
+        QFile configuration(m_home.filePath(QStringLiteral("bus.conf")));
+        if (configuration.open(QFile::WriteOnly))
+            configuration.write("<busconfig><type>session</type><listen>unix:tmpdir=" + m_home.path().toUtf8()
+                                + "</listen><policy context='default'>"
+                                  "<allow send_destination='*' eavesdrop='true'/>"
+                                  "<allow eavesdrop='true'/><allow own='*'/></policy></busconfig>");
+        configuration.close();
+        QProcess *const bus = start(QStringLiteral("dbus-daemon"),
+                                    {QStringLiteral("--config-file"), configuration.fileName(),
+                                     QStringLiteral("--nofork"), QStringLiteral("--print-address")});
+        bus->waitForReadyRead(10000);
+        m_environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
+                             QString::fromLatin1(bus->readLine()).trimmed());
+    }
+
     bool isDragged() const
     {
         static const QByteArray name("XdndSelection");
