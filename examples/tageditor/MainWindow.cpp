@@ -9,6 +9,7 @@
 #include <tageditor/find/TrackFind.h>
 #include <tageditor/inspector/Inspector.h>
 #include <tageditor/MessageLabel.h>
+#include <tageditor/ProgressView.h>
 #include <tageditor/QuickOpen.h>
 #include <tageditor/SizeLabel.h>
 #include <tageditor/TableColumns.h>
@@ -68,7 +69,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_table(new QTableView)
     , m_counts(new QLabel)
     , m_problem(new MessageLabel)
-    , m_progress(new QProgressBar)
+    , m_progress(new ProgressView(tr("Reading progress")))
 {
     setUpTable();
     m_editing = new TextEditing(&m_model, m_table);
@@ -192,9 +193,6 @@ ZEVTextFinder *MainWindow::currentFinder()
 
 void MainWindow::setUpStatusBar()
 {
-    m_progress->setAccessibleName(tr("Reading progress"));
-    m_progress->setMaximumWidth(m_progress->fontMetrics().averageCharWidth() * 30);
-    m_progress->hide();
     m_counts->setContentsMargins(style()->pixelMetric(QStyle::PM_LayoutLeftMargin), 0, 0, 0);
     statusBar()->addWidget(m_counts);
     statusBar()->addWidget(m_problem, 1);
@@ -207,6 +205,7 @@ void MainWindow::watchReader()
 {
     connect(&m_reader, &FolderReader::tracksRead, &m_model, &TrackTableModel::append);
     connect(&m_reader, &FolderReader::progressed, this, &MainWindow::showProgress);
+    connect(m_progress, &ProgressView::cancelled, this, &MainWindow::stopReading);
     connect(&m_reader, &FolderReader::finished, this, &MainWindow::finishReading);
     connect(&m_reader, &FolderReader::folderSkipped, this, &MainWindow::showSkippedFolder);
 }
@@ -277,8 +276,8 @@ void MainWindow::selectTrack(int trackId)
 
 void MainWindow::showProgress(qsizetype read, qsizetype total)
 {
-    m_progress->setRange(0, int(total)); // the bar of an empty range tells that it is not known yet
-    m_progress->setValue(int(read));
+    m_progress->bar()->setRange(0, int(total)); // the bar of an empty range tells that it is not known yet
+    m_progress->bar()->setValue(int(read));
     showCounts();
 }
 
@@ -307,6 +306,14 @@ void MainWindow::finishReading(const QString &failure)
             tr("The folder “%1” could not be read: %2").arg(QDir::toNativeSeparators(m_folder), failure),
             true);
     Q_EMIT folderRead(failure);
+}
+
+/// What was read so far stays.
+void MainWindow::stopReading()
+{
+    m_reader.cancel();
+    finishReading({});
+    m_problem->showMessage(tr("Reading was stopped: tracks are missing"), true);
 }
 
 void MainWindow::showNoticed(int changed, int gone)

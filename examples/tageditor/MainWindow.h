@@ -15,8 +15,8 @@ class FileActions;
 class FileWatch;
 class Inspector;
 class MessageLabel;
+class ProgressView;
 class QLabel;
-class QProgressBar;
 class QTableView;
 class QuickOpen;
 class TextEditing;
@@ -74,6 +74,7 @@ private:
     void showProgress(qsizetype read, qsizetype total);
     void showSkippedFolder(const QString &folder, const QString &reason);
     void finishReading(const QString &failure);
+    void stopReading();
     void showCounts();
     void fitColumns();
     void restoreFromDefaults();
@@ -96,5 +97,5 @@ private:
     QuickOpen *m_quickOpen;
     QLabel *m_counts;
     MessageLabel *m_problem;
-    QProgressBar *m_progress;
+    ProgressView *m_progress;
 };

@@ -4,6 +4,7 @@
 #include "Shown.h"
 
 #include <tageditor/inspector/Inspector.h>
+#include <tageditor/ProgressView.h>
 
 #include <ZEVGlobalUtils/Transforms/FileSizeTransformer.h>
 
@@ -35,6 +36,17 @@ private Q_SLOTS:
         QVERIFY(read.wait());
         QVERIFY(!progress->isVisible());
         QCOMPARE(shown.status(), u"16 tracks|"_s);
+    }
+
+    void readingCanBeStopped()
+    {
+        Shown shown;
+        QVERIFY(shown.visible);
+        shown.window.openFolder(Samples::folder());
+        auto *cancel = shown.window.findChild<ProgressView *>()->findChild<QAbstractButton *>();
+        QTest::mouseClick(cancel, Qt::LeftButton);
+        QTest::qWait(100); // nothing comes any more
+        QCOMPARE(shown.status(), u"0 tracks|Reading was stopped: tracks are missing"_s);
     }
 
     void aClickOnAHeaderSorts()

@@ -4,6 +4,7 @@
 #include <tageditor/files/FileActions.h>
 
 #include <tageditor/files/RenameDialog.h>
+#include <tageditor/ProgressView.h>
 #include <tageditor/TableSelection.h>
 #include <tageditor/TextEditing.h>
 #include <tageditor/TrackTableModel.h>
@@ -12,12 +13,10 @@
 #include <ZEVGlobalUtils/Platform/ZEVOpenPanel.h>
 
 #include <QAction>
-#include <QHBoxLayout>
 #include <QMenu>
 #include <QProgressBar>
 #include <QTableView>
 #include <QTextDocument>
-#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
@@ -47,8 +46,10 @@ FileActions::FileActions(TrackTableModel *model, QTableView *table, TextEditing 
     , m_editing(editing)
     , m_journal(FileJournal::standardPath())
     , m_batch(m_journal)
-    , m_progressView(makeProgressView())
+    , m_progress(new ProgressView(tr("Progress of files")))
 {
+    m_progress->bar()->setRange(0, Steps);
+    connect(m_progress, &ProgressView::cancelled, &m_batch, &FileBatch::cancel);
     connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &FileActions::updateActions);
     connect(model, &TrackTableModel::modelReset, this, [this] {
@@ -66,23 +67,7 @@ FileActions::~FileActions()
     m_batch.cancelAndWait();
 }
 
-QWidget *FileActions::makeProgressView()
-{
-    auto *view = new QWidget;
-    auto *row = new QHBoxLayout(view);
-    row->setContentsMargins(0, 0, 0, 0);
-    m_progress = new QProgressBar;
-    m_progress->setAccessibleName(tr("Progress of files"));
-    m_progress->setRange(0, Steps);
-    m_progress->setMaximumWidth(m_progress->fontMetrics().averageCharWidth() * 30);
-    auto *cancel = new QToolButton;
-    cancel->setText(tr("Cancel"));
-    connect(cancel, &QToolButton::clicked, &m_batch, &FileBatch::cancel);
-    row->addWidget(m_progress);
-    row->addWidget(cancel);
-    view->hide();
-    return view;
-}
+QWidget *FileActions::progressView() const { return m_progress; }
 
 void FileActions::addActions(QMenu *menu)
 {
@@ -176,14 +161,14 @@ void FileActions::start(const std::function<void()> &batch,
 
 void FileActions::showProgress(double fraction, const QString &name)
 {
-    m_progressView->show();
-    m_progress->setValue(qRound(fraction * Steps));
+    m_progress->show();
+    m_progress->bar()->setValue(qRound(fraction * Steps));
     m_progress->setToolTip(Qt::convertFromPlainText(name));
 }
 
 void FileActions::finish(const FileBatch::Result &result)
 {
-    m_progressView->hide();
+    m_progress->hide();
     followFiles(result);
     m_editing->setUndoBlocked(false);
     if (const auto then = std::exchange(m_then, {}))

@@ -8,9 +8,9 @@
 
 #include <QList>
 
+class ProgressView;
 class QAction;
 class QMenu;
-class QProgressBar;
 class QTableView;
 class TextEditing;
 class TrackTableModel;
@@ -26,7 +26,7 @@ public:
     void addActions(QMenu *menu);
 
     /// How far the batch is, with a way to cancel it; hidden while there is none.
-    QWidget *progressView() const { return m_progressView; }
+    QWidget *progressView() const;
 
     /// The file at hand is finished or brought back.
     void cancelAndWait() { m_batch.cancelAndWait(); }
@@ -36,7 +36,6 @@ Q_SIGNALS:
     void reported(const QString &message, bool isProblem);
 
 private:
-    QWidget *makeProgressView();
     void updateActions();
     void askForPattern();
     void askForFolder(bool isCopy);
@@ -55,8 +54,7 @@ private:
     TextEditing *m_editing;
     FileJournal m_journal;
     FileBatch m_batch;
-    QProgressBar *m_progress = nullptr;
-    QWidget *m_progressView;
+    ProgressView *m_progress;
     QList<QAction *> m_forSelection;
     QAction *m_putBack = nullptr;
     bool m_isOnStack = false; ///< the last batch is among the steps to undo
