@@ -19,13 +19,23 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A source of drags as far as the protocol of promised files goes: the window that owns the selection, with
-/// the name of the file in a property.
-class DragWindow {
+template <typename Reply>
+std::unique_ptr<Reply, decltype(&std::free)> owned(Reply *reply)
+{
+    return {reply, &std::free};
+}
+
+/// A source of drags as far as the protocol goes: a window owns the selection and has the file's name in a
+/// property. When asked, it writes what it likes where it was told to, and answers what it likes.
+class PromisingData : public QMimeData {
 public:
-    explicit DragWindow(const QByteArray &fileName)
+    using Writer = std::function<void(const QString &path)>;
+
+    PromisingData(const QByteArray &fileName, Writer writer, QByteArray answer)
         : m_server(qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection())
         , m_window(xcb_generate_id(m_server))
+        , m_writer(std::move(writer))
+        , m_answer(std::move(answer))
     {
         const xcb_screen_t *const screen = xcb_setup_roots_iterator(xcb_get_setup(m_server)).data;
         xcb_create_window(m_server, XCB_COPY_FROM_PARENT, m_window, screen->root, 0, 0, 1, 1, 0,
@@ -33,64 +43,38 @@ public:
         xcb_set_selection_owner(m_server, m_window, atom("XdndSelection"), XCB_CURRENT_TIME);
         xcb_change_property(m_server, XCB_PROP_MODE_REPLACE, m_window, atom("XdndDirectSave0"),
                             atom("text/plain"), 8, quint32(fileName.size()), fileName.constData());
-    }
-    ~DragWindow() { xcb_destroy_window(m_server, m_window); }
-    Q_DISABLE_COPY_MOVE(DragWindow)
-
-    /// Where the receiver wants the file.
-    QString wanted() const
-    {
-        const auto cookie = xcb_get_property(m_server, false, m_window, atom("XdndDirectSave0"),
-                                             XCB_GET_PROPERTY_TYPE_ANY, 0, 4096);
-        const std::unique_ptr<xcb_get_property_reply_t, decltype(&std::free)> reply(
-            xcb_get_property_reply(m_server, cookie, nullptr), &std::free);
-        const QByteArray value(static_cast<const char *>(xcb_get_property_value(reply.get())),
-                               xcb_get_property_value_length(reply.get()));
-        return QUrl::fromEncoded(value).toLocalFile();
-    }
-
-private:
-    xcb_atom_t atom(QByteArrayView name) const
-    {
-        const auto cookie = xcb_intern_atom(m_server, false, quint16(name.size()), name.data());
-        const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> reply(
-            xcb_intern_atom_reply(m_server, cookie, nullptr), &std::free);
-        return reply->atom;
-    }
-
-    xcb_connection_t *m_server;
-    xcb_window_t m_window;
-};
-
-/// Writes what it likes where it was told to, and answers what it likes.
-class PromisingData : public QMimeData {
-public:
-    using Writer = std::function<void(const QString &path)>;
-
-    PromisingData(const DragWindow &window, Writer writer, QByteArray answer)
-        : m_window(window)
-        , m_writer(std::move(writer))
-        , m_answer(std::move(answer))
-    {
         setData(u"application/octet-stream"_s, "bytes");
     }
+    ~PromisingData() override { xcb_destroy_window(m_server, m_window); }
     QStringList formats() const override { return {u"XdndDirectSave0"_s, u"application/octet-stream"_s}; }
     bool hasFormat(const QString &type) const override { return formats().contains(type); }
 
-    mutable QString path;
+    mutable QString path; ///< where the receiver wanted the file
 
 protected:
     QVariant retrieveData(const QString &mimeType, QMetaType type) const override
     {
         if (mimeType != u"XdndDirectSave0")
             return QMimeData::retrieveData(mimeType, type);
-        path = m_window.wanted();
+        const auto cookie = xcb_get_property(m_server, false, m_window, atom("XdndDirectSave0"),
+                                             XCB_GET_PROPERTY_TYPE_ANY, 0, 4096);
+        const auto reply = owned(xcb_get_property_reply(m_server, cookie, nullptr));
+        const QByteArray value(static_cast<const char *>(xcb_get_property_value(reply.get())),
+                               xcb_get_property_value_length(reply.get()));
+        path = QUrl::fromEncoded(value).toLocalFile();
         m_writer(path);
         return m_answer;
     }
 
 private:
-    const DragWindow &m_window;
+    xcb_atom_t atom(QByteArrayView name) const
+    {
+        const auto cookie = xcb_intern_atom(m_server, false, quint16(name.size()), name.data());
+        return owned(xcb_intern_atom_reply(m_server, cookie, nullptr))->atom;
+    }
+
+    xcb_connection_t *m_server;
+    xcb_window_t m_window;
     Writer m_writer;
     QByteArray m_answer;
 };
@@ -144,24 +128,20 @@ private Q_SLOTS:
             {"a failure", file, "E", {}},  {"no answer", file, {}, {}},
         };
         for (const auto &[name, writer, answer, expected] : rows) {
-            const DragWindow window("Cover.jpg");
-            PromisingData data(window, writer, answer);
+            PromisingData data("Cover.jpg", writer, answer);
             QThreadPool queue;
             const auto promises = ZEVFilePromiseReceiver::receiversFromPasteboard(ZEVPasteboard(&data));
             COMPARE_ROW(name, promises.size(), 1);
             QByteArray contents;
             bool hasFailed = false;
-            QThread *thread = nullptr;
             promises.first().receivePromisedFiles(&queue,
                                                   [&](const QByteArray &bytes, const ZEVError *error) {
                                                       contents = bytes;
                                                       hasFailed = error;
-                                                      thread = QThread::currentThread();
                                                   });
             queue.waitForDone();
             COMPARE_ROW(name, contents, expected);
             COMPARE_ROW(name, hasFailed, expected.isNull());
-            COMPARE_ROW(name, thread == this->thread(), false);
             COMPARE_ROW(name, privateFolders(), QStringList());
         }
         QCOMPARE(QDir(elsewhere.path()).entryList(QDir::Files), QStringList(u"secret"_s));
@@ -169,29 +149,21 @@ private Q_SLOTS:
 
     void whereTheFileGoes()
     {
-        const std::tuple<QByteArray, QString> rows[] = {
-            {"Cover.jpg", u"Cover.jpg"_s},
-            {"../../.bashrc", u".bashrc"_s},
-            {"/etc/pass wd%", u"pass wd%"_s},
-            {"ä#?.png", u"ä#?.png"_s},
-            {"..", {}},
-            {"a/", {}},
-            {"", {}},
-        };
+        const std::pair<QByteArray, QString> rows[] = {
+            {"../../.bashrc", u".bashrc"_s}, {"/etc/ä#% ?", u"ä#% ?"_s}, {"..", {}}, {"a/", {}}, {"", {}}};
         for (const auto &[offered, name] : rows) {
-            const DragWindow window(offered);
             PromisingData data(
-                window, [](const QString &) {}, "E");
+                offered, [](const QString &) {}, "E");
             const auto promises = ZEVFilePromiseReceiver::receiversFromPasteboard(ZEVPasteboard(&data));
             COMPARE_ROW(name, promises.isEmpty(), name.isEmpty());
             if (name.isEmpty())
                 continue;
             QThreadPool queue;
             promises.first().receivePromisedFiles(&queue, [](const QByteArray &, const ZEVError *) {});
-            queue.waitForDone();
-            COMPARE_ROW(name, QFileInfo(data.path).fileName(), name);
-            const QString folder = QFileInfo(QFileInfo(data.path).path()).path();
-            COMPARE_ROW(name, folder, QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
+            const QFileInfo file(data.path);
+            COMPARE_ROW(name, file.fileName(), name);
+            COMPARE_ROW(name, QFileInfo(file.path()).path(),
+                        QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
         }
     }
 
@@ -200,9 +172,8 @@ private Q_SLOTS:
         const QByteArray picture = EncodedImages::encoded(5, 5, "PNG");
         for (const QByteArray name : {"Cover.png", "Cover.txt"}) {
             ZEVDragImageView well;
-            const DragWindow window(name);
             PromisingData data(
-                window, [&](const QString &path) { write(path, picture); }, "S");
+                name, [&](const QString &path) { write(path, picture); }, "S");
             QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
             QApplication::sendEvent(&well, &enter);
             COMPARE_ROW(name.constData(), enter.isAccepted(), name.endsWith("png"));

@@ -11,7 +11,6 @@
 #include <ZEVGlobalUtils/ImageViews/ZEVDashView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDragImageView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVInnerImageView.h>
-#include <ZEVGlobalUtils/Platform/ZEVOpenPanel.h>
 #include <ZEVGlobalUtils/Platform/ZEVPasteboard.h>
 
 #include <QAccessible>
@@ -119,10 +118,6 @@ private Q_SLOTS:
     {
         QFile file(m_file);
         QVERIFY(file.open(QFile::WriteOnly) && file.write(png(7)) > 0);
-        QFile text(m_folder.filePath(u"notes.txt"_s));
-        QVERIFY(text.open(QFile::WriteOnly) && text.write("text") > 0);
-        QFile empty(m_folder.filePath(u"empty.png"_s));
-        QVERIFY(empty.open(QFile::WriteOnly));
         mkfifo(QFile::encodeName(m_folder.filePath(u"pipe.png"_s)), 0600);
     }
 
@@ -149,7 +144,6 @@ private Q_SLOTS:
             well.setEditable(editable);
             COMPARE_ROW(name, well.drawDashes(), draws);
             COMPARE_ROW(name, told, draws);
-            COMPARE_ROW(name, !well.dashView()->drawDashes(), !draws);
             COMPARE_ROW(name, well.dashView()->drawLabel(), !filled && editable);
         }
     }
@@ -159,18 +153,13 @@ private Q_SLOTS:
         const QString image = u"public.image"_s, pngType = u"image/png"_s, links = u"text/uri-list"_s;
         const auto at = [&](const QString &name) { return files({m_folder.filePath(name)}); };
         const std::tuple<const char *, Offers, int> rows[] = {
-            {"bytes", {{pngType, png(5)}}, 5},
             {"the general type first", {{pngType, png(5)}, {image, png(6)}}, 6},
             {"a file", files({m_file}), 7},
             {"a file before bytes", files({m_file}) + Offers{{u"image/bmp"_s, png(5)}}, 7},
             {"a picture with its link", {{links, "https://a.example/"}, {pngType, png(5)}}, 5},
             {"two files", files({m_file, m_file}), 0},
             {"a link", {{links, "https://a.example/cover.png"}}, 0},
-            {"a text file", at(u"notes.txt"_s), 0},
-            {"a folder", at({}), 0},
             {"a pipe", at(u"pipe.png"_s), 0},
-            {"a file that is gone", at(u"gone.png"_s), 0},
-            {"text", {{u"text/plain"_s, "text"}}, 0},
             {"a drawing", {{u"image/svg+xml"_s, "<svg/>"}}, 0},
         };
         for (const auto &[name, offers, width] : rows) {
@@ -182,10 +171,6 @@ private Q_SLOTS:
                         width);
             COMPARE_ROW(name, well.updates, QList<QVariantMap>(width > 0 ? 1 : 0));
         }
-        Well well;
-        drop(well, at(u"empty.png"_s));
-        well.settle();
-        QVERIFY(well.bitmapData().isNull() && well.updates.isEmpty());
     }
 
     void aDragOverTheWell()
@@ -201,14 +186,11 @@ private Q_SLOTS:
         QVERIFY(!move.isAccepted());
         QDragLeaveEvent leave;
         QApplication::sendEvent(&well, &leave);
-        QVERIFY(!well.dashView()->isHighlighted());
-        QCOMPARE(well.imageView()->opacity(), 1.0);
+        QVERIFY(!well.dashView()->isHighlighted() && well.imageView()->opacity() == 1.0);
         QVERIFY(drop(well, {{u"image/png"_s, png(5)}}));
-        QVERIFY(!well.dashView()->isHighlighted());
-        QCOMPARE(well.imageView()->opacity(), 1.0);
+        QVERIFY(!well.dashView()->isHighlighted() && well.imageView()->opacity() == 1.0);
         well.setEditable(false);
-        QVERIFY(!enter(well, *data));
-        QVERIFY(!well.dashView()->isHighlighted());
+        QVERIFY(!enter(well, *data) && !well.dashView()->isHighlighted());
     }
 
     void theDelegateAnswersWhenItLikes()
@@ -226,9 +208,7 @@ private Q_SLOTS:
         QCOMPARE(well.bitmapData(), png(16));
         vetter.answers[1](png(26));
         vetter.answers[0](png(15)); // older than what is shown
-        QCOMPARE(well.bitmapData(), png(16));
         vetter.answers[2]({}); // refused
-        QCOMPARE(well.bitmapData(), png(16));
         std::thread([&] { vetter.answers[2](png(17)); }).join();
         QCOMPARE(well.bitmapData(), png(16)); // not on that thread
         well.settle();
@@ -255,13 +235,12 @@ private Q_SLOTS:
         vetter->answers[0](png(15));
         QCoreApplication::processEvents();
         QCOMPARE(vetter->asked.size(), 1);
-        well = std::make_unique<Well>();
-        well->setDelegate(vetter.get());
+        Well other;
+        other.setDelegate(vetter.get());
         vetter.reset();
-        drop(*well, {{u"image/png"_s, png(5)}});
-        well->settle();
-        QCOMPARE(well->bitmapData(), png(5));
-        QCOMPARE(well->pasteboardWriter()->fileName(), u"Image.png");
+        drop(other, {{u"image/png"_s, png(5)}});
+        other.settle();
+        QCOMPARE(other.bitmapData(), png(5));
     }
 
     void anImportCanBeCancelled()
@@ -286,12 +265,10 @@ private Q_SLOTS:
         Well well;
         well.setBitmapData(png(5));
         const auto before = well.imageDescription();
-        drop(well, files({m_file}));
-        well.settle();
-        QCOMPARE(before->originURL(), QUrl::fromLocalFile(m_file));
-        QVERIFY(well.imageDescription()->originURL().isEmpty());
+        well.applyImportedImageData(png(6), QUrl(u"https://a.example/b"_s));
         well.applyImportedImageData("", {});
-        QCOMPARE(well.updates.size(), 1);
+        QCOMPARE(before->originURL(), QUrl(u"https://a.example/b"_s));
+        QVERIFY(well.imageDescription()->originURL().isEmpty() && well.updates.size() == 1);
     }
 
     void copyAndPaste()
@@ -309,23 +286,17 @@ private Q_SLOTS:
         QCOMPARE(general.dataForType(u"public.image"), png(5));
         QCOMPARE(QImage::fromData(general.dataForType(u"public.tiff"), "TIFF").size(), QSize(5, 8));
         QCOMPARE(general.dataForType(u"org.nspasteboard.source"), "org.example.editor");
-        QCOMPARE(well.updates, QList<QVariantMap>({{{u"imageCleared"_s, true}}}));
         well.paste();
         QCOMPARE(well.bitmapData(), png(5)); // vetted before
-        QCOMPARE(well.updates.size(), 2);
-        QVERIFY(well.updates.last().isEmpty());
+        QCOMPARE(well.updates, QList<QVariantMap>({{{u"imageCleared"_s, true}}, {}}));
         QGuiApplication::setDesktopFileName(u"org.example.other"_s);
         well.paste();
         QCOMPARE(vetter.asked.size(), 1);
         vetter.answers[0](png(15));
         QCOMPARE(well.bitmapData(), png(15));
-        QCOMPARE(well.updates.size(), 3);
         QGuiApplication::setDesktopFileName({}); // nothing is one's own without a name
         QGuiApplication::clipboard()->setMimeData(
             offering({{u"image/png"_s, png(6)}, {u"org.nspasteboard.source"_s, ""}}).release());
-        well.paste();
-        QCOMPARE(vetter.asked.size(), 2);
-        QGuiApplication::clipboard()->setText(u"text"_s);
         well.paste();
         QCOMPARE(vetter.asked.size(), 2);
     }
@@ -353,10 +324,7 @@ private Q_SLOTS:
         QCOMPARE(possible(), u"copy cut clearImage paste browse close");
         well.setEditable(false);
         QCOMPARE(possible(), u"copy close");
-        Q_EMIT well.menu()->aboutToShow();
-        QCOMPARE(well.menu()->actions().at(0)->isEnabled(), false);
         QTest::keyClick(&well, Qt::Key_Delete);
-        QTest::keyClick(&well, Qt::Key_X, Qt::ControlModifier);
         QCOMPARE(well.bitmapData(), png(5));
         well.setEditable(true);
         QTest::keyClick(&well, Qt::Key_X, Qt::ControlModifier);
@@ -383,7 +351,7 @@ private Q_SLOTS:
         well.clearFocus();
         const QImage without = well.grab().toImage();
         well.setFocus();
-        QVERIFY(well.grab().toImage() != without);
+        QVERIFY(well.grab().toImage() != without); // a frame
         const QAccessibleInterface *const told = QAccessible::queryAccessibleInterface(&well);
         QCOMPARE(told->role(), QAccessible::Graphic);
         QCOMPARE(told->text(QAccessible::Name), u"Artwork");
@@ -400,9 +368,8 @@ private Q_SLOTS:
     {
         Vetter vetter;
         const std::tuple<std::optional<QString>, QByteArray, QString> rows[] = {
-            {std::nullopt, EncodedImages::encoded(5, 5, "JPG"), u"Image.jpg"_s},
-            {u""_s, EncodedImages::encoded(5, 5, "PNG"), u"Image.png"_s},
-            {u"AC/DC 1.5"_s, EncodedImages::encoded(5, 5, "BMP"), u"AC:DC 1.5.bmp"_s},
+            {u""_s, EncodedImages::encoded(5, 5, "JPG"), u"Image.jpg"_s},
+            {u"AC/DC 1.5"_s, png(5), u"AC:DC 1.5.png"_s},
             {std::nullopt, "\x01", u"Image.tiff"_s},
         };
         for (const auto &[name, bytes, file] : rows) {
@@ -426,10 +393,6 @@ private Q_SLOTS:
         QCOMPARE(well.imageView()->imageScaling(), ZEVImageView::ScaleProportionallyUpOrDown);
         QTRY_COMPARE(well.imageView()->image().deviceIndependentSize(), QSizeF(200, 180));
         QCOMPARE(well.imageView()->imageScaling(), ZEVImageView::ScaleProportionallyDown);
-        well.setBitmapData("no picture");
-        QCOMPARE(well.drawingImageRectInBounds(), QRect());
-        well.setBitmapData({});
-        QVERIFY(!well.imageDescription());
     }
 
     void newArtworkFadesInAndGrows()
@@ -437,11 +400,7 @@ private Q_SLOTS:
         Well well;
         setReducedMotion(well.imageView(), false);
         well.setBitmapData(png(5), true, true);
-        QCOMPARE(well.imageView()->opacity(), 0.55);
-        QCOMPARE(well.imageView()->scale(), 0.9);
-        QCOMPARE(well.alphaAnimation()->duration(), 250);
-        well.scaleAnimation()->setCurrentTime(125);
-        QVERIFY(qAbs((well.imageView()->scale() - 0.9) / 0.1 - 0.6846) < 0.01);
+        QCOMPARE(std::pair(well.imageView()->opacity(), well.imageView()->scale()), std::pair(0.55, 0.9));
         const auto data = offering({{u"image/png"_s, png(5)}});
         enter(well, *data);
         QCoreApplication::processEvents();

@@ -17,31 +17,30 @@
 #include <sys/prctl.h>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 /// An X server with a window manager and a message bus, for programs that are driven from outside: by what
 /// XTEST sends, as if there was a mouse and a keyboard.
 class Desktop {
 public:
-    static bool isPossible() { return !QStandardPaths::findExecutable(QStringLiteral("Xvfb")).isEmpty(); }
+    static bool isPossible() { return !QStandardPaths::findExecutable(u"Xvfb"_s).isEmpty(); }
 
     Desktop()
     {
         QProcess *const server =
-            start(QStringLiteral("Xvfb"),
-                  {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                   QStringLiteral("0"), QStringLiteral("1600x1000x24"), QStringLiteral("-nolisten"),
-                   QStringLiteral("tcp")});
+            start(u"Xvfb"_s, u"-displayfd 1 -screen 0 1600x1000x24 -nolisten tcp"_s.split(u' '));
         server->waitForReadyRead(10000);
         const QString display = u':' + QString::fromLatin1(server->readLine()).trimmed();
-        m_environment.insert(QStringLiteral("DISPLAY"), display);
-        m_environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+        m_environment.insert(u"DISPLAY"_s, display);
+        m_environment.insert(u"QT_QPA_PLATFORM"_s, u"xcb"_s);
         for (const char *name :
              {"HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"})
             m_environment.insert(QLatin1StringView(name), m_home.path());
-        m_environment.insert(QStringLiteral("NO_AT_BRIDGE"), QStringLiteral("1"));
-        m_environment.remove(QStringLiteral("WAYLAND_DISPLAY"));
+        m_environment.insert(u"NO_AT_BRIDGE"_s, u"1"_s);
+        m_environment.remove(u"WAYLAND_DISPLAY"_s);
         m_server.reset(xcb_connect(display.toLatin1().constData(), nullptr));
         startBus();
-        start(QStringLiteral("openbox"), {});
+        start(u"openbox"_s, {});
     }
 
     ~Desktop()
@@ -70,11 +69,11 @@ public:
     }
 
     /// What xdotool says.
-    QString tool(const QStringList &arguments) const
+    QString tool(const QString &command) const
     {
         QProcess process;
         process.setProcessEnvironment(m_environment);
-        process.start(QStringLiteral("xdotool"), arguments);
+        process.start(u"xdotool"_s, command.split(u' '));
         process.waitForFinished();
         return QString::fromLocal8Bit(process.readAllStandardOutput()).trimmed();
     }
@@ -93,46 +92,33 @@ public:
     /// The visible window whose title matches, when it has come where it is wanted; empty if it never does.
     QString placedWindow(const QString &title, const QRect &place) const
     {
+        const QString size = u"%1 %2"_s.arg(place.width()).arg(place.height());
         QString window;
         const auto isPlaced = [&] {
-            window = tool({QStringLiteral("search"), QStringLiteral("--onlyvisible"),
-                           QStringLiteral("--name"), title})
-                         .section(u'\n', 0, 0);
+            window = tool(u"search --onlyvisible --name "_s + title).section(u'\n', 0, 0);
             if (window.isEmpty())
                 return false;
-            tool({QStringLiteral("windowsize"), window, QString::number(place.width()),
-                  QString::number(place.height()), QStringLiteral("windowmove"), window,
-                  QString::number(place.x()), QString::number(place.y())});
-            const QString now =
-                tool({QStringLiteral("getwindowgeometry"), QStringLiteral("--shell"), window});
-            return now.contains(
-                QStringLiteral("WIDTH=%1\nHEIGHT=%2\n").arg(place.width()).arg(place.height()));
+            tool(u"windowsize %1 %2 windowmove %1 %3 %4"_s.arg(window, size).arg(place.x()).arg(place.y()));
+            return tool(u"getwindowgeometry "_s + window).endsWith(QString(size).replace(u' ', u'x'));
         };
         return waitFor(isPlaced) ? window : QString();
     }
 
-    void moveTo(QPoint point) const
-    {
-        tool({QStringLiteral("mousemove"), QStringLiteral("--sync"), QString::number(point.x()),
-              QString::number(point.y())});
-    }
-    void click(QPoint point) const
-    {
-        moveTo(point);
-        tool({QStringLiteral("click"), QStringLiteral("1")});
-    }
-    void key(const QString &keys) const { tool({QStringLiteral("key"), keys}); }
+    void activate(const QString &window) const { tool(u"windowactivate --sync "_s + window); }
+    void moveTo(QPoint point) const { tool(u"mousemove %1 %2"_s.arg(point.x()).arg(point.y())); }
+    void click(QPoint point) const { tool(u"mousemove %1 %2 click 1"_s.arg(point.x()).arg(point.y())); }
+    void key(const QString &keys) const { tool(u"key "_s + keys); }
 
     /// Whether a drag from there begins; it goes on until drop().
     bool beginDrag(QPoint from) const
     {
         moveTo(from);
-        tool({QStringLiteral("mousedown"), QStringLiteral("1")});
+        tool(u"mousedown 1"_s);
         for (int step = 1; step <= 4; ++step)
             moveTo(from + QPoint(8, 8) * step);
         const bool isDragging = waitFor([this] { return isDragged(); }, 1500);
         if (!isDragging)
-            tool({QStringLiteral("mouseup"), QStringLiteral("1")});
+            tool(u"mouseup 1"_s);
         return isDragging;
     }
 
@@ -141,7 +127,7 @@ public:
         moveTo(at - QPoint(20, 20));
         for (int step = 9; step >= 0; --step)
             moveTo(at - QPoint(2, 2) * step);
-        tool({QStringLiteral("mouseup"), QStringLiteral("1")});
+        tool(u"mouseup 1"_s);
     }
 
     /// A receiver that was not ready lets the drop fall, so it is tried again.
@@ -161,34 +147,34 @@ private:
     /// A bus that starts no services: they would outlive the test.
     void startBus()
     {
-        QFile configuration(m_home.filePath(QStringLiteral("bus.conf")));
+        QFile configuration(m_home.filePath(u"bus.conf"_s));
         if (configuration.open(QFile::WriteOnly))
             configuration.write("<busconfig><type>session</type><listen>unix:tmpdir=" + m_home.path().toUtf8()
                                 + "</listen><policy context='default'>"
                                   "<allow send_destination='*' eavesdrop='true'/>"
                                   "<allow eavesdrop='true'/><allow own='*'/></policy></busconfig>");
         configuration.close();
-        QProcess *const bus = start(QStringLiteral("dbus-daemon"),
-                                    {QStringLiteral("--config-file"), configuration.fileName(),
-                                     QStringLiteral("--nofork"), QStringLiteral("--print-address")});
+        QProcess *const bus =
+            start(u"dbus-daemon"_s,
+                  {u"--config-file"_s, configuration.fileName(), u"--nofork"_s, u"--print-address"_s});
         bus->waitForReadyRead(10000);
-        m_environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
-                             QString::fromLatin1(bus->readLine()).trimmed());
+        m_environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, QString::fromLatin1(bus->readLine()).trimmed());
+    }
+
+    template <typename Reply>
+    static std::unique_ptr<Reply, decltype(&std::free)> owned(Reply *reply)
+    {
+        return {reply, &std::free};
     }
 
     bool isDragged() const
     {
         static const QByteArray name("XdndSelection");
-        const auto atomCookie =
-            xcb_intern_atom(m_server.get(), false, quint16(name.size()), name.constData());
-        const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> atom(
-            xcb_intern_atom_reply(m_server.get(), atomCookie, nullptr), &std::free);
-        if (!atom)
-            return false;
-        const std::unique_ptr<xcb_get_selection_owner_reply_t, decltype(&std::free)> owner(
-            xcb_get_selection_owner_reply(m_server.get(), xcb_get_selection_owner(m_server.get(), atom->atom),
-                                          nullptr),
-            &std::free);
+        xcb_connection_t *const server = m_server.get();
+        const auto atom = owned(xcb_intern_atom_reply(
+            server, xcb_intern_atom(server, false, quint16(name.size()), name.constData()), nullptr));
+        const auto owner = owned(xcb_get_selection_owner_reply(
+            server, xcb_get_selection_owner(server, atom ? atom->atom : 0), nullptr));
         return owner && owner->owner != XCB_WINDOW_NONE;
     }
 

@@ -50,7 +50,7 @@ private:
     /// What the editor shows is what it saves.
     bool saves(int editor, const std::function<bool(const QByteArray &)> &isExpected) const
     {
-        m_desktop->tool({u"windowactivate"_s, u"--sync"_s, m_editors.at(editor)});
+        m_desktop->activate(m_editors.at(editor));
         m_desktop->key(u"ctrl+s"_s);
         return Desktop::waitFor([&] { return isExpected(inFile(editor)); }, 3000);
     }
@@ -65,7 +65,7 @@ private:
         m_desktop->start(QStringLiteral(TAGEDITOR_PROGRAM), {QFileInfo(track(editor)).path()});
         m_editors.append(m_desktop->placedWindow(u"tracks%1"_s.arg(editor), place(0, editor)));
         QVERIFY(!m_editors.last().isEmpty());
-        m_desktop->tool({u"windowactivate"_s, u"--sync"_s, m_editors.last()});
+        m_desktop->activate(m_editors.last());
         m_desktop->click(place(0, editor).topLeft() + QPoint(60, 350)); // below the rows of the table
         m_desktop->key(u"ctrl+a"_s);
     }
@@ -135,7 +135,7 @@ private Q_SLOTS:
     void copiedInOneAndPastedInTheOther()
     {
         for (int editor : {0, 1}) {
-            m_desktop->tool({u"windowactivate"_s, u"--sync"_s, m_editors.at(editor)});
+            m_desktop->activate(m_editors.at(editor));
             m_desktop->click(well(editor));
             m_desktop->key(editor == 0 ? u"ctrl+c"_s : u"ctrl+v"_s);
         }
