@@ -509,5 +509,25 @@
         <source>Clear Recents</source>
         <translation>Benutzte löschen</translation>
     </message>
+    <message>
+        <source>Default</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Choose an Application</source>
+        <translation>Programm auswählen</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>Programme</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Other…</source>
+        <translation>Anderes …</translation>
+    </message>
 </context>
 </TS>

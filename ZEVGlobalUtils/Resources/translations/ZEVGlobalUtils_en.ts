@@ -509,5 +509,25 @@
         <source>Clear Recents</source>
         <translation>Clear Recents</translation>
     </message>
+    <message>
+        <source>Default</source>
+        <translation>Default</translation>
+    </message>
+    <message>
+        <source>Choose an Application</source>
+        <translation>Choose an Application</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>Applications</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Other…</source>
+        <translation>Other…</translation>
+    </message>
 </context>
 </TS>
