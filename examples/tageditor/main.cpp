@@ -33,7 +33,6 @@ void describe(QApplication &application)
     for (const QString &size : {u"48"_s, u"128"_s})
         icon.addFile(u":/tageditor/"_s + id + u'-' + size + u".png"_s);
     application.setWindowIcon(QIcon::fromTheme(id, icon));
-    application.setDesktopFileName(u"tageditor"_s);
 }
 
 /// Styles that draw in the desktop's own colours would ignore the palette.
