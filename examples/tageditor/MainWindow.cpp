@@ -3,11 +3,12 @@
 
 #include <tageditor/MainWindow.h>
 
-#include <tageditor/artwork/ArtworkDock.h>
 #include <tageditor/files/FileActions.h>
 #include <tageditor/files/FileWatch.h>
 #include <tageditor/find/TrackFind.h>
 #include <tageditor/inspector/Inspector.h>
+#include <tageditor/menus/FolderMenus.h>
+#include <tageditor/menus/TrackMenus.h>
 #include <tageditor/MessageLabel.h>
 #include <tageditor/ProgressView.h>
 #include <tageditor/QuickOpen.h>
@@ -16,22 +17,17 @@
 #include <tageditor/TextEditing.h>
 #include <tageditor/TrackSaving.h>
 
-#include <ZEVGlobalUtils/FindPanel/ZEVTextFinderMenu.h>
 #include <ZEVGlobalUtils/Platform/ZEVUserDefaults.h>
 
-#include <QAction>
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDir>
-#include <QDockWidget>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
-#include <QMenuBar>
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QScreen>
-#include <QScrollArea>
 #include <QStatusBar>
 #include <QStyle>
 #include <QTableView>
@@ -77,11 +73,13 @@ MainWindow::MainWindow(QWidget *parent)
     setCentralWidget(m_find);
     m_files = new FileActions(&m_model, m_table, m_editing);
     m_watch = new FileWatch(&m_model, this);
+    m_folders = new FolderMenus(this);
+    m_trackMenus = new TrackMenus(&m_model, m_table, m_editing);
     m_quickOpen = new QuickOpen(&m_model, this);
-    addInspector();
-    makeMenus();
+    addFolderBar();
     setUpStatusBar();
-    addDockWidget(Qt::RightDockWidgetArea, new ArtworkDock(&m_model, m_table, m_editing->undoStack()));
+    addDocks();
+    makeMenus();
     watchReader();
     watchTexts();
     restoreFromDefaults();
@@ -89,60 +87,6 @@ MainWindow::MainWindow(QWidget *parent)
 }
 
 MainWindow::~MainWindow() = default;
-
-void MainWindow::makeMenus()
-{
-    QMenu *file = menuBar()->addMenu(tr("&File"));
-    file->addAction(tr("&Open Folder…"), QKeySequence(u"Ctrl+O"_s), this, &MainWindow::chooseFolder);
-    file->addAction(tr("&Reload Folder"), QKeySequence(u"F5"_s), this, [this] { openFolder(m_folder); });
-    file->addAction(tr("&Save"), QKeySequence(u"Ctrl+S"_s), this, &MainWindow::save);
-    file->addSeparator();
-    m_files->addActions(file);
-    file->addSeparator();
-    file->addAction(tr("&Quit"), QKeySequence(u"Ctrl+Q"_s), this, &QWidget::close);
-
-    QMenu *edit = menuBar()->addMenu(tr("&Edit"));
-    m_editing->addUndoActions(edit);
-    edit->addSeparator();
-    addSelectActions(edit);
-    edit->addSeparator();
-    addFindActions(edit);
-    m_editing->addTransforms(menuBar()->addMenu(tr("Te&xt")));
-}
-
-void MainWindow::addFindActions(QMenu *menu)
-{
-    ZEVTextFinderMenu::addItems(menu, [this] { return currentFinder(); });
-    menu->addAction(tr("Find in &Fields…"), QKeySequence(u"Ctrl+Shift+F"_s), m_find, &TrackFind::showPanel);
-    menu->addAction(tr("Preview Replace&ments…"), QKeySequence(u"Ctrl+Shift+H"_s), m_find,
-                    &TrackFind::reviewReplacements);
-    menu->addAction(tr("&Quick Open…"), QKeySequence(u"Ctrl+K"_s), m_quickOpen, &QuickOpen::open);
-}
-
-/// A click on a header sorts, so rows and columns are selected from the cell that has the cursor, by the keys
-/// that spreadsheets have for it. Elsewhere than in the table these keys keep their meaning.
-void MainWindow::addSelectActions(QMenu *menu)
-{
-    QAction *all = menu->addAction(tr("Select &All"), m_table, &QTableView::selectAll);
-    all->setShortcuts(QKeySequence::SelectAll);
-    QAction *row = menu->addAction(tr("Select Ro&w"), QKeySequence(u"Shift+Space"_s), this,
-                                   [this] { selectAroundCurrent(QItemSelectionModel::Rows); });
-    QAction *column = menu->addAction(tr("Select &Column"), QKeySequence(u"Ctrl+Space"_s), this,
-                                      [this] { selectAroundCurrent(QItemSelectionModel::Columns); });
-    for (QAction *action : {all, row, column}) {
-        action->setShortcutContext(Qt::WidgetShortcut);
-        m_table->addAction(action);
-    }
-}
-
-void MainWindow::selectAroundCurrent(QItemSelectionModel::SelectionFlag extent)
-{
-    QItemSelectionModel *selection = m_table->selectionModel();
-    QItemSelection around = selection->selection();
-    if (!selection->isSelected(m_table->currentIndex()))
-        around.select(m_table->currentIndex(), m_table->currentIndex());
-    selection->select(around, QItemSelectionModel::ClearAndSelect | extent);
-}
 
 void MainWindow::setUpTable()
 {
@@ -169,26 +113,6 @@ void MainWindow::setUpTable()
     for (int column = 0; column < TrackFieldCount; ++column)
         m_table->setColumnWidth(column,
                                 FirstWidths.at(size_t(column)) * m_table->fontMetrics().averageCharWidth());
-}
-
-void MainWindow::addInspector()
-{
-    m_inspector = new Inspector(&m_model, m_table->selectionModel(), m_editing);
-    auto *dock = new QDockWidget(tr("Tags"), this);
-    dock->setObjectName(u"TagsDock"_s);
-    auto *scrolled = new QScrollArea; // the window may be low
-    scrolled->setWidget(m_inspector);
-    scrolled->setWidgetResizable(true);
-    scrolled->setFrameShape(QFrame::NoFrame);
-    dock->setWidget(scrolled);
-    addDockWidget(Qt::RightDockWidgetArea, dock);
-}
-
-/// The keys for finding belong to the editor of comments while one is in it, and to the table elsewhere.
-ZEVTextFinder *MainWindow::currentFinder()
-{
-    FindPlace &comment = m_inspector->commentFind();
-    return comment.hasFocusWithin() ? &comment.finder() : &m_find->finder();
 }
 
 void MainWindow::setUpStatusBar()
@@ -219,6 +143,7 @@ void MainWindow::watchTexts()
             [this](const QString &message) { statusBar()->showMessage(message, MessageDuration); });
     connect(m_files, &FileActions::reported, m_problem, &MessageLabel::showMessage);
     connect(m_watch, &FileWatch::noticed, this, &MainWindow::showNoticed);
+    connect(m_folders, &FolderMenus::folderChosen, this, &MainWindow::openFolder);
     connect(m_quickOpen, &QuickOpen::trackChosen, this, &MainWindow::selectTrack);
 }
 
@@ -228,6 +153,7 @@ void MainWindow::openFolder(const QString &folder)
     if (m_model.hasChanges() && !m_mayDiscard())
         return;
     m_folder = QDir::cleanPath(QDir(folder).absolutePath());
+    m_folders->setFolder(m_folder);
     setWindowTitle(withModifiedMarker(QDir(m_folder).dirName()));
     m_skippedFolders = 0;
     m_firstSkipped.clear();

@@ -14,14 +14,17 @@
 class FileActions;
 class FileWatch;
 class Inspector;
+class FolderMenus;
 class MessageLabel;
 class ProgressView;
 class QLabel;
 class QTableView;
+class QToolBar;
 class QuickOpen;
 class TextEditing;
 class TrackFind;
 class ZEVTextFinder;
+class TrackMenus;
 
 /// The tracks of one folder in a table, with a bar to find text in them, and what changes them beside it.
 class MainWindow : public QMainWindow {
@@ -60,8 +63,10 @@ private:
     void makeMenus();
     void addFindActions(QMenu *menu);
     void addSelectActions(QMenu *menu);
+    void addPanes(QMenu *menu);
     void setUpTable();
-    void addInspector();
+    void addDocks();
+    void addFolderBar();
     ZEVTextFinder *currentFinder();
     void setUpStatusBar();
     void watchReader();
@@ -94,6 +99,9 @@ private:
     Inspector *m_inspector;
     FileActions *m_files;
     FileWatch *m_watch;
+    FolderMenus *m_folders;
+    QToolBar *m_folderBar = nullptr;
+    TrackMenus *m_trackMenus;
     QuickOpen *m_quickOpen;
     QLabel *m_counts;
     MessageLabel *m_problem;
