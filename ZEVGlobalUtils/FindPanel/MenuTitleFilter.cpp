@@ -23,7 +23,10 @@ bool endsLine(QChar character)
     return (unit >= 0x0A && unit <= 0x0D) || unit == 0x85 || unit == 0x2028 || unit == 0x2029;
 }
 
-QStringList wordsIn(const QString &string) { return ZEVCaseMapping::caseFolded(string).split(u' ', Qt::SkipEmptyParts); }
+QStringList wordsIn(const QString &string)
+{
+    return ZEVCaseMapping::caseFolded(string).split(u' ', Qt::SkipEmptyParts);
+}
 
 /// The first place of each word after the one before is as good as any other, so no step is taken back.
 bool lineHasWords(QStringView line, const QStringList &words)
@@ -85,19 +88,24 @@ bool MenuTitleFilter::isOneLine(const QString &string) { return std::ranges::non
 QList<QAction *> MenuTitleFilter::itemsWithWords(const QList<QAction *> &items, const QString &string)
 {
     const QStringList words = wordsIn(string);
-    const auto test = [&](const QString &title) { return hasWords(ZEVCaseMapping::caseFolded(title), words); };
+    const auto test = [&](const QString &title) {
+        return hasWords(ZEVCaseMapping::caseFolded(title), words);
+    };
     if (words.isEmpty())
         return items;
     if (m_version != ZEVMenuTitles::version())
         m_titles.clear();
     m_version = ZEVMenuTitles::version();
     m_titles.resize(std::size_t(items.size()));
+    const auto passes = [&](const Title &title) {
+        return title.isOneLine ? lineHasWords(title.folded, words) : hasWords(title.folded, words);
+    };
     Collector passing;
     for (qsizetype i = 0; i < items.size(); ++i) {
         QAction *item = items.at(i);
         if (item->isSeparator())
             passing.separate(item);
-        else if (hasWords(folded(i, item), words) || isInMenu(item, test, 0))
+        else if (passes(folded(i, item)) || isInMenu(item, test, 0))
             passing.append(item);
     }
     return passing.items;
@@ -116,11 +124,12 @@ QList<QAction *> MenuTitleFilter::itemsPassing(const QList<QAction *> &items, co
 }
 
 /// A text that still lies in the same place is the same: the one that is kept here holds the place.
-const QString &MenuTitleFilter::folded(qsizetype index, const QAction *item)
+const MenuTitleFilter::Title &MenuTitleFilter::folded(qsizetype index, const QAction *item)
 {
     Title &title = m_titles[std::size_t(index)];
     const QString text = item->text();
     if (title.text.constData() != text.constData() || title.text.size() != text.size())
-        title = {text, ZEVCaseMapping::caseFolded(ZEVMenuItem::title(item))};
-    return title.folded;
+        title = {text, ZEVCaseMapping::caseFolded(ZEVMenuItem::title(item)),
+                 isOneLine(ZEVMenuItem::title(item))};
+    return title;
 }

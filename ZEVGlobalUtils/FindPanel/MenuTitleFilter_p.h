@@ -29,8 +29,9 @@ private:
     struct Title {
         QString text; ///< the item's, to see whether it has another one now
         QString folded;
+        bool isOneLine = true;
     };
-    const QString &folded(qsizetype index, const QAction *item);
+    const Title &folded(qsizetype index, const QAction *item);
 
     std::vector<Title> m_titles; ///< by the place of the item in the list
     quint64 m_version = 0;

@@ -108,7 +108,7 @@ void ZEVWorkspaceOpenWithMenu::setupMenu(QMenu *menu, const QList<QUrl> &withApp
         return;
     ZEVMenuItemRemoveAllFollowing::removeAllItems(menu);
     const QUrl running = ZEVApplications::mainApplicationURL();
-    const QUrl first = withAppsHandlingURLs.first();
+    const QUrl &first = withAppsHandlingURLs.first();
     const QUrl preferred = ZEVApplications::URLForApplicationToOpenURL(first);
     if (preferred.isValid() && preferred != running)
         addApplication(menu, preferred, ZEVGlobalHelper::localizedStringForKey(u"Default"_s),
