@@ -3,7 +3,6 @@
 
 #include <ZEVGlobalUtils/FindPanel/ZEVMenuFilterViewController.h>
 
-#include <ZEVGlobalUtils/FindPanel/MenuInputMethod_p.h>
 #include <ZEVGlobalUtils/FindPanel/ZEVMenuFilterDelegate.h>
 
 #include <QCoreApplication>
@@ -45,10 +44,6 @@ bool ZEVMenuFilterViewController::eventFilter(QObject *watched, QEvent *event)
         return isKey && keyInField(static_cast<QKeyEvent *>(event)->key());
     if (watched != menu())
         return false;
-    if (event->type() == QEvent::Show)
-        QMetaObject::invokeMethod(m_inputMethod, &MenuInputMethod::begin, Qt::QueuedConnection);
-    if (event->type() == QEvent::Hide)
-        m_inputMethod->end();
     return isKey && keyInMenu(static_cast<QKeyEvent *>(event));
 }
 

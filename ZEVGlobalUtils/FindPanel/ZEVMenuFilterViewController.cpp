@@ -4,7 +4,6 @@
 #include <ZEVGlobalUtils/FindPanel/ZEVMenuFilterViewController.h>
 
 #include <ZEVGlobalUtils/FindEngine/ZEVStringFilterRegexValue.h>
-#include <ZEVGlobalUtils/FindPanel/MenuInputMethod_p.h>
 #include <ZEVGlobalUtils/FindPanel/MenuTitleFilter_p.h>
 #include <ZEVGlobalUtils/FindPanel/ZEVMenuFilterClient.h>
 #include <ZEVGlobalUtils/FindPanel/ZEVMenuFilterView.h>
@@ -72,7 +71,6 @@ void ZEVMenuFilterViewController::makeFilterItem()
     m_searchField->setAttribute(Qt::WA_MacSmallSize);
     m_searchField->setMinimumHeight(FieldHeight);
     m_searchField->installEventFilter(this);
-    m_inputMethod = new MenuInputMethod(m_searchField);
     connect(m_searchField, &QLineEdit::textEdited, this, &ZEVMenuFilterViewController::controlTextDidChange);
     auto *view = new ZEVMenuFilterView;
     view->setFilter(this);

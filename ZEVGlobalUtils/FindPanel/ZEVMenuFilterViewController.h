@@ -11,7 +11,6 @@
 
 #include <memory>
 
-class MenuInputMethod;
 class MenuTitleFilter;
 class QAction;
 class QKeyEvent;
@@ -93,7 +92,6 @@ private:
     bool clearByKey();
 
     QLineEdit *m_searchField;
-    MenuInputMethod *m_inputMethod = nullptr;
     QWidgetAction *m_filterMenuItem;
     QWidgetAction *m_moreMenuItem;
     ZEVMenuFilterDelegate *m_delegate = nullptr;

@@ -11,7 +11,9 @@
 #include <QGuiApplication>
 #include <QProcess>
 
+#include <array>
 #include <memory>
+#include <vector>
 
 #include <gio/gdesktopappinfo.h>
 #include <gio/gio.h>

@@ -7,6 +7,7 @@
 #include <QSysInfo>
 #include <QWindow>
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <memory>
@@ -88,7 +89,7 @@ QByteArray ZEVStartupNotification::begin(const QByteArray &name, const QByteArra
     xcb_connection_t *const server = connection();
     if (!server)
         return {};
-    const QByteArray identifier = makeIdentifier(server);
+    QByteArray identifier = makeIdentifier(server);
     broadcast(server,
               "new: ID=" + quoted(identifier) + " NAME=" + quoted(name) + " SCREEN=0 BIN=" + quoted(program)
                   + " ICON=" + quoted(iconName));

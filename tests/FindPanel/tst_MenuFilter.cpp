@@ -282,7 +282,7 @@ private Q_SLOTS:
         QVERIFY(!filtered.menu.actionGeometry(filtered.menu.actions()[3]).intersects(bar->geometry()));
     }
 
-    /// On X11 and in Qt's own platforms for tests the input method goes on with the window beneath.
+    /// What is composed, dead keys included, belongs to the menu while it is open.
     void inputMethodsAndScreenReaders()
     {
         QLineEdit beneath;
