@@ -30,7 +30,7 @@ QList<Entry> entries()
         {u"Find and &Replace…", ShowReplaceInterface, {Qt::CTRL | Qt::Key_H, Qt::CTRL | Qt::Key_R}},
         {u"Find &Next", NextMatch, {Qt::CTRL | Qt::Key_G, Qt::Key_F3}},
         {u"Find &Previous", PreviousMatch, {Qt::CTRL | Qt::SHIFT | Qt::Key_G, Qt::SHIFT | Qt::Key_F3}},
-        {u"&Use Selection for Find", SetSearchString, {Qt::CTRL | Qt::Key_E}},
+        {u"Use &Selection for Find", SetSearchString, {Qt::CTRL | Qt::Key_E}},
     };
 }
 

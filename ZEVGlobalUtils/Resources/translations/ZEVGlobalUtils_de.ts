@@ -69,7 +69,7 @@
     </message>
     <message>
         <source>Matches Word</source>
-        <translation>Ist das Wort</translation>
+        <translation>Ganzes Wort</translation>
     </message>
     <message>
         <source>Ends With</source>
@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>Matches Contents</source>
-        <translation>Ist der ganze Inhalt</translation>
+        <translation>Ganzer Inhalt</translation>
     </message>
     <message>
         <source>Case Sensitive</source>
@@ -209,19 +209,19 @@
     </message>
     <message>
         <source>Saved Patterns</source>
-        <translation>Gesicherte Muster</translation>
+        <translation>Gespeicherte Muster</translation>
     </message>
     <message>
         <source>Remove From Saved</source>
-        <translation>Aus gesicherten entfernen</translation>
+        <translation>Aus den gespeicherten entfernen</translation>
     </message>
     <message>
         <source>Save Current</source>
-        <translation>Aktuelles sichern</translation>
+        <translation>Aktuelles speichern</translation>
     </message>
     <message>
         <source>Show Menu</source>
-        <translation>Menü einblenden</translation>
+        <translation>Menü anzeigen</translation>
     </message>
     <message>
         <source>Filter</source>
@@ -245,7 +245,7 @@
     </message>
     <message>
         <source>Saved queries</source>
-        <translation>Gesicherte Suchen</translation>
+        <translation>Gespeicherte Suchen</translation>
     </message>
     <message>
         <source>Find</source>
@@ -261,7 +261,7 @@
     </message>
     <message>
         <source>Saved patterns</source>
-        <translation>Gesicherte Muster</translation>
+        <translation>Gespeicherte Muster</translation>
     </message>
     <message>
         <source>Replace With</source>
@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>Saved patterns and options</source>
-        <translation>Gesicherte Muster und Optionen</translation>
+        <translation>Gespeicherte Muster und Optionen</translation>
     </message>
     <message>
         <source>Previous Match</source>
@@ -325,11 +325,11 @@
     </message>
     <message>
         <source>Saved Queries</source>
-        <translation>Gesicherte Suchen</translation>
+        <translation>Gespeicherte Suchen</translation>
     </message>
     <message>
         <source>Save Query</source>
-        <translation>Suche sichern</translation>
+        <translation>Suche speichern</translation>
     </message>
     <message>
         <source>The search was too complex: matches are missing.</source>
@@ -357,11 +357,11 @@
     </message>
     <message>
         <source>Find &amp;Previous</source>
-        <translation>&amp;Rückwärts suchen</translation>
+        <translation>Rückwär&amp;ts suchen</translation>
     </message>
     <message>
-        <source>&amp;Use Selection for Find</source>
-        <translation>&amp;Auswahl zum Suchen verwenden</translation>
+        <source>Use &amp;Selection for Find</source>
+        <translation>Auswahl zum Suchen &amp;verwenden</translation>
     </message>
     <message>
         <source>the item does not exist</source>
@@ -381,7 +381,7 @@
     </message>
     <message>
         <source>the volume can only be read</source>
-        <translation>das Volume kann nur gelesen werden</translation>
+        <translation>der Datenträger kann nur gelesen werden</translation>
     </message>
     <message>
         <source>it was cancelled</source>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>“%1” could not be moved: %2.</source>
-        <translation>„%1“ konnte nicht bewegt werden: %2.</translation>
+        <translation>„%1“ konnte nicht verschoben werden: %2.</translation>
     </message>
     <message>
         <source>“%1” could not be copied: %2.</source>
@@ -428,16 +428,12 @@
         <translation>Beide behalten</translation>
     </message>
     <message>
-        <source>Replace</source>
-        <translation>Ersetzen</translation>
-    </message>
-    <message>
         <source>Skip</source>
         <translation>Überspringen</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation>Stopp</translation>
+        <translation>Anhalten</translation>
     </message>
     <message>
         <source>An item named “%@” already exists in this location.</source>
@@ -445,7 +441,7 @@
     </message>
     <message>
         <source>Do you want to replace it with the one you’re moving?</source>
-        <translation>Möchten Sie es durch das Objekt ersetzen, das Sie bewegen?</translation>
+        <translation>Möchten Sie es durch das Objekt ersetzen, das Sie verschieben?</translation>
     </message>
     <message>
         <source>Existing item:</source>
@@ -457,7 +453,7 @@
     </message>
     <message>
         <source>Drop Image Here</source>
-        <translation>Bild hierher bewegen</translation>
+        <translation>Bild hierher ziehen</translation>
     </message>
     <message>
         <source>Artwork</source>
@@ -473,7 +469,7 @@
     </message>
     <message>
         <source>Paste</source>
-        <translation>Einsetzen</translation>
+        <translation>Einfügen</translation>
     </message>
     <message>
         <source>Remove</source>
@@ -490,8 +486,10 @@
     <message>
         <source>Reading the image</source>
         <translation>Bild wird gelesen</translation>
+    </message>
+    <message>
         <source>Show more</source>
-        <translation>Mehr zeigen</translation>
+        <translation>Mehr anzeigen</translation>
     </message>
     <message>
         <source>Last Used</source>
@@ -507,7 +505,7 @@
     </message>
     <message>
         <source>Clear Recents</source>
-        <translation>Benutzte löschen</translation>
+        <translation>Liste leeren</translation>
     </message>
     <message>
         <source>Default</source>

@@ -360,8 +360,8 @@
         <translation>Find &amp;Previous</translation>
     </message>
     <message>
-        <source>&amp;Use Selection for Find</source>
-        <translation>&amp;Use Selection for Find</translation>
+        <source>Use &amp;Selection for Find</source>
+        <translation>Use &amp;Selection for Find</translation>
     </message>
     <message>
         <source>the item does not exist</source>
@@ -428,10 +428,6 @@
         <translation>Keep Both</translation>
     </message>
     <message>
-        <source>Replace</source>
-        <translation>Replace</translation>
-    </message>
-    <message>
         <source>Skip</source>
         <translation>Skip</translation>
     </message>
@@ -490,6 +486,8 @@
     <message>
         <source>Reading the image</source>
         <translation>Reading the image</translation>
+    </message>
+    <message>
         <source>Show more</source>
         <translation>Show more</translation>
     </message>
