@@ -105,7 +105,7 @@ QString AutomatedRun::report(MainWindow &window)
     QString report;
     for (const TrackFind::Match &match : matches)
         report += reportLine(window, match);
-    return report + u"%1 matches\n"_s.arg(matches.size());
+    return report + tr("%n matches", nullptr, int(matches.size())) + u'\n';
 }
 
 /// The grab comes behind the painting in the order of the connection.

@@ -14,8 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString text(const char *wording) { return QCoreApplication::translate("CommandLine", wording); }
-
 /// For those who work on the library, so the help keeps silent about it.
 void describeGallery(QCommandLineParser &parser)
 {
@@ -28,18 +26,20 @@ void describeGallery(QCommandLineParser &parser)
 
 void describe(QCommandLineParser &parser)
 {
-    parser.setApplicationDescription(text("Shows the tags of the audio files in a folder."));
+    parser.setApplicationDescription(CommandLine::tr("Shows the tags of the audio files in a folder."));
     parser.addHelpOption();
-    parser.addPositionalArgument(
-        text("FOLDER"), text("The folder to open; else the last one, or the sample."), u"[FOLDER]"_s);
+    parser.addPositionalArgument(CommandLine::tr("FOLDER"),
+                                 CommandLine::tr("The folder to open; else the last one, or the sample."),
+                                 u'[' + CommandLine::tr("FOLDER") + u']');
     parser.addOptions({
-        {u"find"_s, text("Find PATTERN."), text("PATTERN")},
-        {u"matching-type"_s, text("How to match, from 0 (contains) to 5."), u"N"_s, u"0"_s},
-        {u"case-sensitive"_s, text("Tell upper case from lower case.")},
-        {u"report"_s, text("Write the matches to the standard output.")},
-        {u"screenshot"_s, text("Save a picture of the window as PNG in FILE."), text("FILE")},
-        {u"quit"_s, text("Leave once all that is done.")},
-        {u"dark"_s, text("Draw light on dark.")},
+        {u"find"_s, CommandLine::tr("Find PATTERN."), CommandLine::tr("PATTERN")},
+        {u"matching-type"_s, CommandLine::tr("How to match, from 0 (contains) to 5."), u"N"_s, u"0"_s},
+        {u"case-sensitive"_s, CommandLine::tr("Tell upper case from lower case.")},
+        {u"report"_s, CommandLine::tr("Write the matches to the standard output.")},
+        {u"screenshot"_s, CommandLine::tr("Save a picture of the window as PNG in FILE."),
+         CommandLine::tr("FILE")},
+        {u"quit"_s, CommandLine::tr("Leave once all that is done.")},
+        {u"dark"_s, CommandLine::tr("Draw light on dark.")},
     });
     describeGallery(parser);
 }
@@ -50,7 +50,7 @@ qint64 matchingType(const QCommandLineParser &parser)
     const qint64 type = parser.value(u"matching-type"_s).toLongLong(&isNumber);
     if (isNumber && ZEVFindPanelQuery::titleForMatchingType(type))
         return type;
-    std::fprintf(stderr, "%s\n", qPrintable(text("--matching-type takes a number from 0 to 5.")));
+    std::fprintf(stderr, "%s\n", qPrintable(CommandLine::tr("--matching-type takes a number from 0 to 5.")));
     std::exit(2);
 }
 

@@ -3,9 +3,8 @@
 
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
-
-class QCoreApplication;
 
 /// What the application is asked for when it is started.
 struct CommandLine {
@@ -25,4 +24,6 @@ struct CommandLine {
 
     /// Leaves the process with a message where the arguments cannot be understood or ask for help.
     static CommandLine parsed(const QCoreApplication &application);
+
+    Q_DECLARE_TR_FUNCTIONS(CommandLine)
 };

@@ -246,19 +246,18 @@ void MainWindow::showNoticed(int changed, int gone)
 {
     QStringList texts;
     if (changed > 0)
-        texts.append(tr("%L1 files were changed by another program and read again").arg(changed));
+        texts.append(tr("%Ln files were changed by another program and read again", nullptr, changed));
     if (gone > 0)
-        texts.append(tr("%L1 files are not there any more").arg(gone));
+        texts.append(tr("%Ln files are not there any more", nullptr, gone));
     m_problem->showMessage(texts.join(u"; "_s), gone > 0);
     showCounts();
 }
 
 void MainWindow::showCounts()
 {
-    const int count = m_model.rowCount();
-    QString text = count == 1 ? tr("1 track") : tr("%L1 tracks").arg(count);
+    QString text = tr("%Ln tracks", nullptr, m_model.rowCount());
     if (m_model.numberOfUnreadable() > 0)
-        text = tr("%1, %L2 unreadable").arg(text).arg(m_model.numberOfUnreadable());
+        text = tr("%1, %Ln unreadable", nullptr, m_model.numberOfUnreadable()).arg(text);
     m_counts->setText(text);
 }
 

@@ -68,7 +68,7 @@ void MainWindow::makeMenus()
 void MainWindow::addFindActions(QMenu *menu)
 {
     ZEVTextFinderMenu::addItems(menu, [this] { return currentFinder(); });
-    menu->addAction(tr("Find in &Fields…"), QKeySequence(u"Ctrl+Shift+F"_s), m_find, &TrackFind::showPanel);
+    menu->addAction(tr("Find in Fi&elds…"), QKeySequence(u"Ctrl+Shift+F"_s), m_find, &TrackFind::showPanel);
     menu->addAction(tr("Preview Replace&ments…"), QKeySequence(u"Ctrl+Shift+H"_s), m_find,
                     &TrackFind::reviewReplacements);
     m_folderBar->addAction(

@@ -52,5 +52,5 @@ void SizeLabel::showSizes()
     const auto transformer = ZEVValueTransformer::valueTransformerForName(u"FileSizeTransformer"_s);
     const QVariantList sizes = fileSizes(*m_model, selected.isEmpty() ? allRows(*m_model) : selected);
     const QString text = transformer->transformedValue(sizes).toString();
-    setText(selected.isEmpty() ? text : tr("%L1 selected: %2").arg(selected.size()).arg(text));
+    setText(selected.isEmpty() ? text : tr("%Ln selected: %1", nullptr, int(selected.size())).arg(text));
 }

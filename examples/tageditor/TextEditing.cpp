@@ -49,9 +49,9 @@ void TextEditing::updateUndoActions()
 {
     if (!m_undo)
         return;
-    m_undo->setText(tr("&Undo %1").arg(m_stack.undoText()).trimmed());
+    m_undo->setText(m_stack.canUndo() ? tr("&Undo %1").arg(m_stack.undoText()) : tr("&Undo"));
     m_undo->setEnabled(m_stack.canUndo() && !m_isUndoBlocked);
-    m_redo->setText(tr("Re&do %1").arg(m_stack.redoText()).trimmed());
+    m_redo->setText(m_stack.canRedo() ? tr("Re&do %1").arg(m_stack.redoText()) : tr("Re&do"));
     m_redo->setEnabled(m_stack.canRedo() && !m_isUndoBlocked);
 }
 

@@ -7,11 +7,7 @@
 #include <ZEVGlobalUtils/Transforms/ZEVStringStrip.h>
 #include <ZEVGlobalUtils/Transforms/ZEVStringTransforms.h>
 
-#include <QCoreApplication>
-
 namespace {
-
-QString tr(const char *text) { return QCoreApplication::translate("TextTransform", text); }
 
 QString withoutOuterSpaces(QStringView text)
 {

@@ -5,6 +5,7 @@
 
 #include <ZEVGlobalUtils/Transforms/ZEVCaseRules.h>
 
+#include <QCoreApplication>
 #include <QList>
 #include <QString>
 
@@ -21,4 +22,6 @@ struct TextTransform {
 
     /// Made in the language that is set at the first call.
     static const QList<TextTransform> &all();
+
+    Q_DECLARE_TR_FUNCTIONS(TextTransform)
 };

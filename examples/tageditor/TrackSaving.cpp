@@ -24,7 +24,7 @@ QString TrackSaving::shortened(const QStringList &lines)
 {
     QStringList shown = lines.first(qMin(ShownLines, lines.size()));
     if (lines.size() > shown.size())
-        shown.append(tr("… and %L1 more").arg(lines.size() - shown.size()));
+        shown.append(tr("… and %Ln more", nullptr, int(lines.size() - shown.size())));
     return shown.join(u'\n');
 }
 

@@ -127,11 +127,12 @@ void TransformDialog::updatePreview()
 
 void TransformDialog::showCount()
 {
-    QString text = tr("%L1 of %L2 texts will change").arg(m_model.rowCount()).arg(m_model.numberOfCells());
+    QString text =
+        tr("%L1 of %Ln texts will change", nullptr, int(m_model.numberOfCells())).arg(m_model.rowCount());
     if (m_model.numberOfCells() == 1)
         text = m_model.rowCount() == 0 ? tr("The text will not change") : tr("The text will change");
     else if (m_model.rowCount() == 0)
-        text = tr("None of %L1 texts will change").arg(m_model.numberOfCells());
+        text = tr("None of %Ln texts will change", nullptr, int(m_model.numberOfCells()));
     m_count->setText(m_model.isFinished() ? text : text + u'…');
 }
 

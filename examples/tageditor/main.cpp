@@ -7,6 +7,7 @@
 #include <tageditor/find/TrackFind.h>
 #include <tageditor/gallery/GalleryWindow.h>
 #include <tageditor/MainWindow.h>
+#include <tageditor/Translations.h>
 
 #include <ZEVGlobalUtils/FindPanel/ZEVTokenField.h>
 
@@ -84,6 +85,7 @@ int runGallery(const CommandLine &commandLine)
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
+    Translations::install();
     describe(application);
     const CommandLine commandLine = CommandLine::parsed(application);
     if (commandLine.isDark)

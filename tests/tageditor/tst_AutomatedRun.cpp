@@ -18,12 +18,13 @@ struct Answer {
     QString output;
 };
 
-Answer run(const QStringList &arguments)
+Answer run(const QStringList &arguments, const QString &language = {})
 {
     const QTemporaryDir home;
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"XDG_CONFIG_HOME"_s, home.path());
+    environment.insert(u"LANGUAGE"_s, language);
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral(TAGEDITOR_PROGRAM), arguments);
     const bool finished = process.waitForFinished();
@@ -53,7 +54,20 @@ private Q_SLOTS:
         const Answer answer = run({u"--find"_s, u"ÉTÉ"_s, u"--case-sensitive"_s, u"--report"_s, u"--quit"_s});
         QCOMPARE(answer.output, u"0 matches\n"_s);
         QCOMPARE(run({u"--find"_s, u"ÉTÉ"_s, u"--report"_s, u"--quit"_s}).output,
-                 u"Maree/04 Ete.mp3\tTitle\t{0, 3}\tÉté\n1 matches\n"_s);
+                 u"Maree/04 Ete.mp3\tTitle\t{0, 3}\tÉté\n1 match\n"_s);
+    }
+
+    void theUsersLanguageIsSpoken()
+    {
+        const std::tuple<QString, QString> rows[] = {
+            {u"de"_s, u"Zeigt die Tags der Audiodateien"_s},
+            {u"fr"_s, u"Affiche les étiquettes des fichiers audio"_s},
+            {u"en"_s, u"Shows the tags of the audio files"_s},
+        };
+        for (const auto &[language, description] : rows) {
+            const QString help = run({u"--help"_s}, language).output;
+            QVERIFY2(help.contains(description), qPrintable(help));
+        }
     }
 
     void theScreenshotShowsTheRows()

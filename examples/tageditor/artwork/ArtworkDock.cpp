@@ -71,7 +71,7 @@ QWidget *ArtworkDock::makeButtons()
     auto *const row = new QHBoxLayout(buttons);
     row->setContentsMargins(0, 0, 0, 0);
     m_browse = new QPushButton(tr("&Browse…"));
-    m_remove = new QPushButton(tr("&Remove"));
+    m_remove = new QPushButton(tr("Re&move"));
     m_remove->setObjectName(u"remove"_s);
     row->addWidget(m_browse);
     row->addWidget(m_remove);
@@ -85,12 +85,12 @@ QWidget *ArtworkDock::makeLimit()
     auto *const limit = new QWidget;
     auto *const form = new QFormLayout(limit);
     form->setContentsMargins(0, 0, 0, 0);
-    m_isLimited = new QCheckBox(tr("&Limit new artwork"));
+    m_isLimited = new QCheckBox(tr("Limit new art&work"));
     m_pixels = limitBox(10000, 1000, tr(" px"));
     m_kilobytes = limitBox(100000, 500, tr(" kB"));
     m_pixels->setObjectName(u"pixels"_s);
     form->addRow(m_isLimited);
-    form->addRow(tr("&Longer edge:"), m_pixels);
+    form->addRow(tr("Lon&ger edge:"), m_pixels);
     form->addRow(tr("&Size:"), m_kilobytes);
     connect(m_isLimited, &QCheckBox::toggled, this, &ArtworkDock::updateLimit);
     connect(m_pixels, &QSpinBox::valueChanged, this, &ArtworkDock::updateLimit);

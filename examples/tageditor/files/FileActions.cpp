@@ -72,7 +72,7 @@ QWidget *FileActions::progressView() const { return m_progress; }
 void FileActions::addActions(QMenu *menu)
 {
     m_forSelection = {
-        menu->addAction(tr("&Rename Files…"), QKeySequence(u"Ctrl+Shift+R"_s), this,
+        menu->addAction(tr("Re&name Files…"), QKeySequence(u"Ctrl+Shift+R"_s), this,
                         &FileActions::askForPattern),
         menu->addAction(tr("&Move to Folder…"), this, [this] { askForFolder(false); }),
         menu->addAction(tr("&Copy to Folder…"), this, [this] { askForFolder(true); }),
@@ -174,16 +174,14 @@ void FileActions::finish(const FileBatch::Result &result)
     if (const auto then = std::exchange(m_then, {}))
         then(result.done);
     updateActions();
-    QString text = tr("%L1 files done").arg(result.done.size());
+    QString text = tr("%Ln files done", nullptr, int(result.done.size()));
     if (result.skipped > 0)
-        text += tr(", %L1 skipped").arg(result.skipped);
+        text += tr(", %Ln skipped", nullptr, result.skipped);
     if (result.isStopped)
         text += tr(", stopped");
     if (!result.errors.isEmpty())
-        text = tr("%1, %L2 failed: %3")
-                   .arg(text)
-                   .arg(result.errors.size())
-                   .arg(result.errors.first().localizedDescription());
+        text = tr("%1, %Ln failed: %2", nullptr, int(result.errors.size()))
+                   .arg(text, result.errors.first().localizedDescription());
     Q_EMIT reported(text, !result.errors.isEmpty());
 }
 

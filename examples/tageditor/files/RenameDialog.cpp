@@ -81,9 +81,9 @@ void RenameDialog::updatePreview()
 {
     m_model.setPattern(m_pattern->text());
     const qsizetype count = m_model.changes().size();
-    QString text = tr("%L1 of %L2 files will be renamed").arg(count).arg(m_model.rowCount());
+    QString text = tr("%L1 of %Ln files will be renamed", nullptr, m_model.rowCount()).arg(count);
     if (m_model.numberOfConflicts() > 0)
-        text += tr("; %L1 names are taken").arg(m_model.numberOfConflicts());
+        text += tr("; %Ln names are taken", nullptr, m_model.numberOfConflicts());
     m_count->setText(text);
     m_rename->setEnabled(count > 0);
 }

@@ -12,7 +12,7 @@ FindPanelDialog::FindPanelDialog(QWidget *parent)
 {
     setWindowTitle(tr("Find and Replace in Tracks"));
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close);
-    QPushButton *review = buttons->addButton(tr("&Preview Replacements…"), QDialogButtonBox::ActionRole);
+    QPushButton *review = buttons->addButton(tr("Preview Replace&ments…"), QDialogButtonBox::ActionRole);
     const auto followMatches = [this, review] { review->setEnabled(m_panel.replaceEnabled()); };
     connect(&m_panel, &FindPanel::enabledChanged, review, followMatches);
     connect(review, &QPushButton::clicked, this, &FindPanelDialog::reviewRequested);

@@ -40,6 +40,6 @@ ReplaceDialog::ReplaceDialog(const ZEVReplacementPreview &preview, const ZEVItem
 void ReplaceDialog::showCount()
 {
     const int chosen = m_model.numberOfChosen();
-    m_count->setText(tr("%L1 of %L2 texts will change").arg(chosen).arg(m_model.rowCount()));
+    m_count->setText(tr("%L1 of %Ln texts will change", nullptr, m_model.rowCount()).arg(chosen));
     m_replace->setEnabled(chosen > 0);
 }
