@@ -46,7 +46,7 @@ QToolBar *FolderMenus::makeToolBar()
 
 void FolderMenus::addRecents(QMenu *menu)
 {
-    QMenu *recents = menu->addMenu(tr("Open &Recent"));
+    QMenu *recents = menu->addMenu(tr("Open Recen&t"));
     recents->setToolTipsVisible(true);
     connect(recents, &QMenu::aboutToShow, this, [=, this] { fillRecents(recents); });
     fillRecents(recents);

@@ -219,6 +219,21 @@
     </message>
 </context>
 <context>
+    <name>FolderMenus</name>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Open Recen&amp;t</source>
+        <translation>Zuletzt &amp;geöffnet</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+</context>
+<context>
     <name>GalleryWindow</name>
     <message>
         <source>Gallery</source>
@@ -227,6 +242,13 @@
     <message>
         <source>Pages</source>
         <translation>Seiten</translation>
+    </message>
+</context>
+<context>
+    <name>GenreMenu</name>
+    <message>
+        <source>&amp;Genre</source>
+        <translation>&amp;Genre</translation>
     </message>
 </context>
 <context>
@@ -378,6 +400,10 @@
     <message>
         <source>Reading was stopped: tracks are missing</source>
         <translation>Das Lesen wurde angehalten: Es fehlen Stücke</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
     </message>
 </context>
 <context>
@@ -617,6 +643,17 @@
     <message>
         <source>Strip Pu&amp;nctuation</source>
         <translation>Satzzeichen e&amp;ntfernen</translation>
+    </message>
+</context>
+<context>
+    <name>TrackMenus</name>
+    <message>
+        <source>Open &amp;With</source>
+        <translation>Öffnen &amp;mit</translation>
+    </message>
+    <message>
+        <source>Genre</source>
+        <translation>Genre</translation>
     </message>
 </context>
 <context>
