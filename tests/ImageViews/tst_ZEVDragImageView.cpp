@@ -11,6 +11,7 @@
 #include <ZEVGlobalUtils/ImageViews/ZEVDashView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDragImageView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVInnerImageView.h>
+#include <ZEVGlobalUtils/Platform/ZEVOpenPanel.h>
 #include <ZEVGlobalUtils/Platform/ZEVPasteboard.h>
 
 #include <QAccessible>

@@ -69,11 +69,12 @@ public:
     }
 
     /// What xdotool says.
-    QString tool(const QString &command) const
+    QString tool(const QString &command) const { return tool(command.split(u' ')); }
+    QString tool(const QStringList &arguments) const
     {
         QProcess process;
         process.setProcessEnvironment(m_environment);
-        process.start(u"xdotool"_s, command.split(u' '));
+        process.start(u"xdotool"_s, arguments);
         process.waitForFinished();
         return QString::fromLocal8Bit(process.readAllStandardOutput()).trimmed();
     }
@@ -108,6 +109,7 @@ public:
     void moveTo(QPoint point) const { tool(u"mousemove %1 %2"_s.arg(point.x()).arg(point.y())); }
     void click(QPoint point) const { tool(u"mousemove %1 %2 click 1"_s.arg(point.x()).arg(point.y())); }
     void key(const QString &keys) const { tool(u"key "_s + keys); }
+    void type(const QString &text) const { tool({u"type"_s, u"--delay"_s, u"20"_s, text}); }
 
     /// Whether a drag from there begins; it goes on until drop().
     bool beginDrag(QPoint from) const

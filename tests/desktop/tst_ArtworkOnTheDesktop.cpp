@@ -66,7 +66,8 @@ private:
         m_editors.append(m_desktop->placedWindow(u"tracks%1"_s.arg(editor), place(0, editor)));
         QVERIFY(!m_editors.last().isEmpty());
         m_desktop->activate(m_editors.last());
-        for (const QString &key : {u"alt+v"_s, u"Return"_s}) // the View menu hides the tags beside the artwork
+        for (const QString &key :
+             {u"alt+v"_s, u"Return"_s}) // the View menu hides the tags beside the artwork
             m_desktop->key(key);
         m_desktop->click(place(0, editor).topLeft() + QPoint(60, 350)); // below the rows of the table
         m_desktop->key(u"ctrl+a"_s);

@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Limit new art&amp;work</source>
-        <translation>Neue Cover be&amp;grenzen</translation>
+        <translation>&amp;Neue Cover begrenzen</translation>
     </message>
 </context>
 <context>
