@@ -30,7 +30,7 @@ QStringList genres()
 } // namespace
 
 GenreMenu::GenreMenu(QWidget *parent)
-    : QMenu(tr("&Genre"), parent)
+    : QMenu(tr("Gen&re"), parent)
     , m_client(m_filter.newDelegatedClient())
 {
     m_filter.setAutofocus(true);

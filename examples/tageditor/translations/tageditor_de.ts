@@ -247,7 +247,7 @@
 <context>
     <name>GenreMenu</name>
     <message>
-        <source>&amp;Genre</source>
+        <source>Gen&amp;re</source>
         <translation>&amp;Genre</translation>
     </message>
 </context>

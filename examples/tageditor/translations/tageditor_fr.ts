@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Lon&amp;ger edge:</source>
-        <translation>&amp;Grand côté&#xa0;:</translation>
+        <translation>Grand cô&amp;té&#xa0;:</translation>
     </message>
     <message>
         <source>Limit new art&amp;work</source>
@@ -247,7 +247,7 @@
 <context>
     <name>GenreMenu</name>
     <message>
-        <source>&amp;Genre</source>
+        <source>Gen&amp;re</source>
         <translation>&amp;Genre</translation>
     </message>
 </context>
