@@ -200,6 +200,20 @@ private Q_SLOTS:
         QCOMPARE(shown.currentCell(), u"01 Track 12.mp3/1"_s);
     }
 
+    void patternsAreRemembered()
+    {
+        {
+            Shown shown;
+            QVERIFY(shown.visible && shown.open(Samples::folder() + u"/Harbour"_s));
+            shown.find(u"boat "_s);
+            insertToken(shown.findField()->menu(), u"Any Word"_s);
+            shown.window.close();
+        }
+        Shown shown;
+        QCOMPARE(shown.findField()->objectValue().size(), 2);
+        QCOMPARE(shown.findField()->objectValue().first(), u"boat "_s);
+    }
+
     void theCommentIsAPlaceOfItsOwn()
     {
         Shown shown;

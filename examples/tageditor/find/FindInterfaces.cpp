@@ -29,6 +29,21 @@ void keepEveryCharacter(const ZEVTextFinderUserInterfaceVC &controller)
     controller.replaceTokenField()->setLossless(true);
 }
 
+/// What another program has searched for last comes before what was typed here the last time.
+void rememberPattern(ZEVTokenField *field, const QString &name)
+{
+    const QVariantList pattern = field->objectValue();
+    field->setAutosaveName(name);
+    if (!pattern.isEmpty())
+        field->setObjectValue(pattern);
+}
+
+void rememberPatterns(const ZEVTextFinderUserInterfaceVC &controller)
+{
+    rememberPattern(controller.findTokenField(), u"FindPattern"_s);
+    rememberPattern(controller.replaceTokenField(), u"ReplacePattern"_s);
+}
+
 } // namespace
 
 FindBar::FindBar(QObject *parent)
@@ -41,6 +56,7 @@ void FindBar::viewDidLoad()
 {
     keepEveryCharacter(*this);
     ZEVTextFinderViewController::viewDidLoad();
+    rememberPatterns(*this);
 }
 
 FindPanel::FindPanel(QObject *parent)
