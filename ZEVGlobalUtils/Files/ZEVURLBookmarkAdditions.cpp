@@ -100,6 +100,6 @@ ZEVURLBookmarkAdditions::resourceValuesForBookmark(const QByteArray &bookmark)
     const QCborMap values = fields(bookmark);
     if (values.isEmpty())
         return std::nullopt;
-    return ResourceValues{decoded(values.value(ReferenceKey)), values.value(NameKey).toString(), values.value(IconKey).toString(),
-                          decoded(values.value(VolumeKey))};
+    return ResourceValues{decoded(values.value(ReferenceKey)), values.value(NameKey).toString(),
+                          values.value(IconKey).toString(), decoded(values.value(VolumeKey))};
 }
