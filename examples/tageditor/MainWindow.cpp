@@ -109,7 +109,6 @@ void MainWindow::setUpTable()
     m_table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     m_table->horizontalHeader()->setSortIndicatorClearable(true);
     m_table->setSortingEnabled(true);
-    TableColumns::addMenu(m_table);
     for (int column = 0; column < TrackFieldCount; ++column)
         m_table->setColumnWidth(column,
                                 FirstWidths.at(size_t(column)) * m_table->fontMetrics().averageCharWidth());

@@ -9,6 +9,7 @@
 #include <tageditor/menus/FolderMenus.h>
 #include <tageditor/menus/TrackMenus.h>
 #include <tageditor/QuickOpen.h>
+#include <tageditor/TableColumns.h>
 #include <tageditor/TextEditing.h>
 
 #include <ZEVGlobalUtils/FindPanel/ZEVTextFinderMenu.h>
@@ -81,6 +82,7 @@ void MainWindow::addPanes(QMenu *menu)
     for (const QDockWidget *dock : findChildren<QDockWidget *>())
         menu->addAction(dock->toggleViewAction());
     menu->addAction(m_folderBar->toggleViewAction());
+    TableColumns::setMenu(m_table, menu->addMenu(tr("&Columns")));
 }
 
 /// A click on a header sorts, so rows and columns are selected from the cell that has the cursor, by the keys

@@ -16,10 +16,9 @@ namespace {
 const QString StateKey = u"TrackColumns"_s;
 
 /// The last column that is shown stays: a table without any could not be told what to show again.
-void popUpMenu(QHeaderView *header, QPoint position)
+void fillMenu(QMenu *menu, QHeaderView *header)
 {
-    auto *menu = new QMenu(header);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->clear();
     const int shown = header->count() - header->hiddenSectionCount();
     for (int place = 0; place < header->count(); ++place) {
         const int section = header->logicalIndex(place);
@@ -30,18 +29,19 @@ void popUpMenu(QHeaderView *header, QPoint position)
         action->setChecked(!header->isSectionHidden(section));
         action->setEnabled(!action->isChecked() || shown > 1);
     }
-    menu->popup(header->viewport()->mapToGlobal(position));
 }
 
 } // namespace
 
-void TableColumns::addMenu(QTableView *table)
+void TableColumns::setMenu(QTableView *table, QMenu *menu)
 {
     QHeaderView *header = table->horizontalHeader();
+    QObject::connect(menu, &QMenu::aboutToShow, header, [menu, header] { fillMenu(menu, header); });
     header->setSectionsMovable(true);
     header->setContextMenuPolicy(Qt::CustomContextMenu);
-    QObject::connect(header, &QWidget::customContextMenuRequested, header,
-                     [header](QPoint position) { popUpMenu(header, position); });
+    QObject::connect(header, &QWidget::customContextMenuRequested, menu, [header, menu](QPoint position) {
+        menu->popup(header->viewport()->mapToGlobal(position));
+    });
 }
 
 /// A state of another version has another number of columns, and is refused by the header.

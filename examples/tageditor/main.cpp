@@ -95,9 +95,9 @@ int main(int argc, char **argv)
 
     MainWindow window;
     const AutomatedRun run(&window, commandLine);
-    window.show();
-    if (!commandLine.findText.isEmpty())
+    if (!commandLine.findText.isEmpty()) // before anything is seen, so that the bar does not slide in
         window.find().find(queryOf(commandLine, window.find().bar()));
+    window.show();
     window.openFolder(folderToOpen(commandLine));
     return application.exec();
 }

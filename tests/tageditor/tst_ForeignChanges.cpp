@@ -126,7 +126,9 @@ private Q_SLOTS:
             Shown shown;
             QVERIFY(shown.visible && shown.open(folder));
             QHeaderView *header = shown.window.table().horizontalHeader();
-            header->hideSection(int(TrackField::Year));
+            QMenu *columns = shown.action(u"Columns"_s)->menu();
+            Q_EMIT columns->aboutToShow();
+            columns->actions().at(int(TrackField::Year))->trigger();
             header->moveSection(0, 2);
             header->resizeSection(1, 123);
             shown.window.close();

@@ -405,6 +405,10 @@
         <source>&amp;View</source>
         <translation>&amp;Ansicht</translation>
     </message>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>&amp;Spalten</translation>
+    </message>
 </context>
 <context>
     <name>PreviewTable</name>

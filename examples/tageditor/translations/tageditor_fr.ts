@@ -405,6 +405,10 @@
         <source>&amp;View</source>
         <translation>&amp;Affichage</translation>
     </message>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>&amp;Colonnes</translation>
+    </message>
 </context>
 <context>
     <name>PreviewTable</name>
