@@ -209,8 +209,7 @@ QString ZEVApplications::version(const QUrl &application)
 
 QIcon ZEVApplications::icon(const QUrl &application)
 {
-    const QIcon ordinary =
-        QIcon::fromTheme(u"application-x-executable"_s, ZEVWorkspace::iconForFile(application));
+    QIcon ordinary = QIcon::fromTheme(u"application-x-executable"_s, ZEVWorkspace::iconForFile(application));
     const auto info = entryAt(application);
     GIcon *icon = info ? g_app_info_get_icon(G_APP_INFO(info.get())) : nullptr;
     if (icon && G_IS_FILE_ICON(icon)) {
