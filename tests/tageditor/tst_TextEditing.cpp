@@ -82,7 +82,10 @@ private Q_SLOTS:
         QTest::keyClick(&shown.window.table(), Qt::Key_A, Qt::ControlModifier);
         const Dialog preview(shown, u"Capitalize Words"_s);
         QVERIFY(preview.visible);
-        QTRY_VERIFY(preview.column(0).contains(u"Été à la plage"_s));
+        const auto *model =
+            qobject_cast<TransformPreviewModel *>(preview.dialog->findChild<QTableView *>()->model());
+        QTRY_VERIFY(model->isFinished());
+        QVERIFY(preview.column(0).contains(u"Été à la plage"_s));
         QVERIFY(!preview.column(0).contains(u"Track 12"_s)); // does not change
         const QStringList olds = preview.column(0);
         const QStringList news = preview.column(1);
