@@ -79,11 +79,16 @@ void AutomatedRun::performWhenReady()
         return;
     QTimer::singleShot(0, this, [this] {
         m_window->find().actor().searchIfChanged(); // at once, so that its matches are painted
-        QWidget *viewport = m_window->table().viewport();
-        viewport->installEventFilter(this);
-        viewport->update();
-        m_awaitsPainting = true;
+        QTimer::singleShot(0, this, &AutomatedRun::awaitPainting); // and their count has room
     });
+}
+
+void AutomatedRun::awaitPainting()
+{
+    QWidget *viewport = m_window->table().viewport();
+    viewport->installEventFilter(this);
+    viewport->update();
+    m_awaitsPainting = true;
 }
 
 void AutomatedRun::perform()

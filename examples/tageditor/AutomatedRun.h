@@ -23,6 +23,7 @@ public:
 
 private:
     void performWhenReady();
+    void awaitPainting();
     void perform();
     bool saveScreenshot();
 
