@@ -229,6 +229,8 @@ private Q_SLOTS:
         place.bar().findTokenField()->setFocus();
         QTest::keyClicks(place.bar().findTokenField(), u"19"_s);
         QTRY_COMPARE(place.bar().numberOfMatches(), 1);
+        QTest::keyClick(place.bar().findTokenField(), Qt::Key_F3);
+        QCOMPARE(comment->textCursor().selectedText(), u"19"_s);
         QTest::keyClicks(place.bar().replaceTokenField(), u"20"_s);
         QTest::mouseClick(button(place.bar().view(), u"Replace All"_s), Qt::LeftButton);
         shown.window.table().setFocus(); // which takes the new text over

@@ -9,7 +9,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <fileref.h>
 #include <sys/stat.h>
+#include <tpropertymap.h>
 
 using namespace Qt::StringLiterals;
 
@@ -60,6 +62,28 @@ private Q_SLOTS:
         QCOMPARE(int(status.st_mode & 0777), 0640);
         QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size(),
                  1);
+    }
+
+    void theNumberOfAllTracksStays()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"a.mp3"_s);
+        QVERIFY(Samples::copy(u"Harbour/01 Track 12.mp3"_s, path));
+        const auto number = [&] {
+            const TagLib::FileRef file(native(path).c_str(), false);
+            return file.file()->properties()["TRACKNUMBER"].toString();
+        };
+        {
+            TagLib::FileRef file(native(path).c_str(), false);
+            TagLib::PropertyMap properties = file.file()->properties();
+            properties.replace("TRACKNUMBER", TagLib::StringList("7/12"));
+            file.file()->setProperties(properties);
+            QVERIFY(file.save());
+        }
+        QCOMPARE(TagWriter::write(native(path), {{TrackField::Number, u"8"_s}}), QString());
+        QVERIFY(number() == "8/12");
+        QCOMPARE(TagWriter::write(native(path), {{TrackField::Number, QString()}}), QString());
+        QVERIFY(number().isEmpty());
     }
 
     void aFailureLeavesTheFile()
