@@ -24,7 +24,7 @@ namespace {
 
 const QString EntrySuffix = u".desktop"_s;
 
-/// What packagers write into entries: the specification has no key for it.
+/// What packagers write into entries: desktop entries have no key of their own for it.
 constexpr std::array VersionKeys{"X-AppImage-Version", "X-GNOME-Bugzilla-Version", "X-KDE-Version"};
 
 // Codes of Launch Services' kind, whose texts are logged with them.

@@ -31,7 +31,7 @@ ZEV_EXPORT QUrl mainApplicationURL();
 /// In the user's language; the file's name for what is no entry.
 ZEV_EXPORT QString displayName(const QUrl &application);
 
-/// Empty where the entry names none. The key "Version" does not: it is that of the specification.
+/// Empty where the entry names none. The key "Version" does not: it is that of the entry's format.
 ZEV_EXPORT QString version(const QUrl &application);
 
 ZEV_EXPORT QIcon icon(const QUrl &application);
