@@ -166,19 +166,23 @@ QItemSelectionModel *ZEVItemModelFinderClient::selectionModel() const
     return m_view && m_model && m_view->model() == m_model ? m_view->selectionModel() : nullptr;
 }
 
-bool ZEVItemModelFinderClient::selectionIsOurs() const
+/// The view's selection is what the ranges made of it, wherever its cells are now. Without a view it always
+/// is.
+bool ZEVItemModelFinderClient::viewKeepsSelection() const
 {
     const QItemSelectionModel *model = selectionModel();
-    return m_selectionStamp == m_changeStamp
-        && (!model || (model->currentIndex() == m_currentCell && model->selection() == m_selection));
+    return !model || (model->currentIndex() == m_currentCell && model->selection() == m_selection);
+}
+
+bool ZEVItemModelFinderClient::selectionIsOurs() const
+{
+    return m_selectionStamp == m_changeStamp && viewKeepsSelection();
 }
 
 /// The selected match stays so wherever its cell is sorted to, as long as that keeps its text.
 void ZEVItemModelFinderClient::followSelection()
 {
-    const QItemSelectionModel *model = selectionModel();
-    if (m_selectionStamp == m_changeStamp || m_selectedRanges.size() != 1 || !model
-        || model->currentIndex() != m_currentCell || model->selection() != m_selection
+    if (m_selectedRanges.size() != 1 || !m_currentCell.isValid() || !viewKeepsSelection()
         || m_text->text(m_currentCell) != m_selectedText)
         return;
     m_selectedRanges.first().location = m_text->placeOfCell(m_currentCell).location + m_locationInCell;

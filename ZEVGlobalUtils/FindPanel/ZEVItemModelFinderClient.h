@@ -79,6 +79,7 @@ private:
     void noteDataChange(const QModelIndex &topLeft, const QModelIndex &bottomRight, const QList<int> &roles);
     void noteSearch();
     QItemSelectionModel *selectionModel() const;
+    bool viewKeepsSelection() const;
     bool selectionIsOurs() const;
     void followSelection();
     void selectCells(QItemSelectionModel &model);
