@@ -6,8 +6,8 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVFindPanelQuery.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVPatternItem.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVItemModelFinderClient.h>
-#include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
+#include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVItemModelFinderClient.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
 
 #include <QAbstractTableModel>
 

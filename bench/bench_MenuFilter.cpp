@@ -7,9 +7,9 @@
 #include "MusicTitles.h"
 
 #include <ZEVGlobalUtils/FindEngine/ZEVStringFilterRegexValue.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVMenuFilterClient.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVMenuFilterViewController.h>
-#include <ZEVGlobalUtils/Menus/ZEVMenuItem.h>
+#include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVMenuFilterClient.h>
+#include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVMenuFilterViewController.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -6,8 +6,8 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVPatternItem.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderClient.h>
-#include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
-#include <ZEVGlobalUtils/Platform/ZEVRegularExpressionMatcher.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpressionMatcher.h>
 
 #include <QRegularExpression>
 

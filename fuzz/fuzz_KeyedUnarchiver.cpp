@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 
 #include <ZEVGlobalUtils/FindEngine/ZEVFindPanelQuery.h>
-#include <ZEVGlobalUtils/Platform/ZEVKeyedArchiver.h>
-#include <ZEVGlobalUtils/Platform/ZEVKeyedUnarchiver.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVKeyedArchiver.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVKeyedUnarchiver.h>
 
 namespace {
 

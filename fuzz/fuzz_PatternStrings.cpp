@@ -5,8 +5,8 @@
 // has pasted, may be anything.
 
 #include <ZEVGlobalUtils/FindEngine/ZEVPatternItem.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVPatternTokens.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVTokenField.h>
+#include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVPatternTokens.h>
+#include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenField.h>
 
 #include <QApplication>
 

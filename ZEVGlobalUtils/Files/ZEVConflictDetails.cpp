@@ -3,10 +3,10 @@
 
 #include <ZEVGlobalUtils/Files/ZEVConflictDetails_p.h>
 
-#include <ZEVGlobalUtils/Platform/ZEVFileURL.h>
-#include <ZEVGlobalUtils/Platform/ZEVWorkspace.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVWorkspace.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 #include <ZEVGlobalUtils/Transforms/ZEVByteCountFormatter.h>
-#include <ZEVGlobalUtils/Transforms/ZEVGlobalHelper.h>
 
 #include <QDateTime>
 #include <QFileInfo>

@@ -4,10 +4,10 @@
 #include <ZEVGlobalUtils/Files/ZEVDataUniqueFileWriting.h>
 
 #include <ZEVGlobalUtils/Files/ZEVErrorFileErrorHelpers.h>
-#include <ZEVGlobalUtils/Platform/ZEVError.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileName.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileURL.h>
-#include <ZEVGlobalUtils/Platform/ZEVPlainFileManager.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileName.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVPlainFileManager.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVError.h>
 
 namespace {
 

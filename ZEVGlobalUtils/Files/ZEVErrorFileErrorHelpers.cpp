@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/Files/ZEVErrorFileErrorHelpers.h>
 
-#include <ZEVGlobalUtils/Platform/ZEVFileErrors.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileErrors.h>
 
 namespace {
 

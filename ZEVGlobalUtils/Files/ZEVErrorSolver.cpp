@@ -4,7 +4,7 @@
 #include <ZEVGlobalUtils/Files/ZEVErrorSolver.h>
 
 #include <ZEVGlobalUtils/Files/ZEVErrorSolver_p.h>
-#include <ZEVGlobalUtils/Transforms/ZEVGlobalHelper.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 
 #include <utility>
 

@@ -4,8 +4,8 @@
 #pragma once
 
 #include <ZEVGlobalUtils/Export.h>
-#include <ZEVGlobalUtils/Platform/ZEVError.h>
-#include <ZEVGlobalUtils/Platform/ZEVErrorRecoveryAttempting.h>
+#include <ZEVGlobalUtils/Platform/Questions/ZEVErrorRecoveryAttempting.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVError.h>
 
 #include <QStringList>
 

@@ -7,9 +7,9 @@
 #include <ZEVGlobalUtils/Files/ZEVFileManagerDelegate.h>
 #include <ZEVGlobalUtils/Files/ZEVFileManagerRepairs_p.h>
 #include <ZEVGlobalUtils/Files/ZEVURLFileAccess.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileErrors.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileReference.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileURL.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileErrors.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileReference.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
 
 using namespace ZEVErrorFileErrorHelpers;
 

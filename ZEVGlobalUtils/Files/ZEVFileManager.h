@@ -4,8 +4,8 @@
 #pragma once
 
 #include <ZEVGlobalUtils/Files/ZEVFileExistsRecovery.h>
-#include <ZEVGlobalUtils/Platform/ZEVPlainFileManager.h>
-#include <ZEVGlobalUtils/Platform/ZEVPlainFileManagerDelegate.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVPlainFileManager.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVPlainFileManagerDelegate.h>
 
 #include <QMutex>
 

@@ -4,11 +4,11 @@
 #include <ZEVGlobalUtils/Files/ZEVFileManagerHelpers.h>
 
 #include <ZEVGlobalUtils/Files/ZEVURLFileAccess.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileErrors.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileURL.h>
-#include <ZEVGlobalUtils/Platform/ZEVLog_p.h>
-#include <ZEVGlobalUtils/Platform/ZEVPlainFileManager.h>
-#include <ZEVGlobalUtils/Platform/ZEVWorkspace.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVWorkspace.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileErrors.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVPlainFileManager.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVLog_p.h>
 
 #include <QCoreApplication>
 #include <QGuiApplication>

@@ -4,7 +4,7 @@
 #pragma once
 
 #include <ZEVGlobalUtils/Export.h>
-#include <ZEVGlobalUtils/Platform/ZEVAttributedString.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVAttributedString.h>
 
 #include <QImage>
 #include <QUrl>

@@ -6,10 +6,10 @@
 #include <ZEVGlobalUtils/Files/ZEVErrorFileErrorHelpers.h>
 #include <ZEVGlobalUtils/Files/ZEVFileManagerHelpers.h>
 #include <ZEVGlobalUtils/Files/ZEVURLFileOperationAttempter.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileErrors.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileOperations_p.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileReference.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileURL.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileErrors.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileOperations_p.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileReference.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
 
 #include <cerrno>
 

@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/Files/ZEVFileManagerRepairs_p.h>
 
-#include <ZEVGlobalUtils/Platform/ZEVFileURL.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
 
 #include <utility>
 

@@ -4,10 +4,10 @@
 #include <ZEVGlobalUtils/Files/ZEVOpenPanelSandbox.h>
 
 #include <ZEVGlobalUtils/Files/ZEVURLCommonAncestor.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileOperations_p.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileURL.h>
-#include <ZEVGlobalUtils/Platform/ZEVOpenPanel.h>
-#include <ZEVGlobalUtils/Transforms/ZEVGlobalHelper.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileOperations_p.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
+#include <ZEVGlobalUtils/Platform/Questions/ZEVOpenPanel.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 
 #include <QDir>
 

@@ -4,12 +4,12 @@
 #include <ZEVGlobalUtils/Files/ZEVResponderErrorHandler.h>
 
 #include <ZEVGlobalUtils/Files/ZEVErrorSolver_p.h>
-#include <ZEVGlobalUtils/Platform/ZEVAlert.h>
-#include <ZEVGlobalUtils/Platform/ZEVErrorPresentation.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileErrors.h>
-#include <ZEVGlobalUtils/Platform/ZEVProgress.h>
-#include <ZEVGlobalUtils/Platform/ZEVWorkspace.h>
-#include <ZEVGlobalUtils/Transforms/ZEVGlobalHelper.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVWorkspace.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileErrors.h>
+#include <ZEVGlobalUtils/Platform/Questions/ZEVAlert.h>
+#include <ZEVGlobalUtils/Platform/Questions/ZEVErrorPresentation.h>
+#include <ZEVGlobalUtils/Platform/Questions/ZEVProgress.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 
 #include <QWidget>
 

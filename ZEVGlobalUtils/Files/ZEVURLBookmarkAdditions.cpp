@@ -3,11 +3,11 @@
 
 #include <ZEVGlobalUtils/Files/ZEVURLBookmarkAdditions.h>
 
-#include <ZEVGlobalUtils/Platform/ZEVFileErrors.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileOperations_p.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileReference.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileURL.h>
-#include <ZEVGlobalUtils/Platform/ZEVUserDefaults.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileErrors.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileOperations_p.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileReference.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVUserDefaults.h>
 
 #include <QCborMap>
 #include <QMimeDatabase>

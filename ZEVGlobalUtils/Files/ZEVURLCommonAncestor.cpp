@@ -3,8 +3,8 @@
 
 #include <ZEVGlobalUtils/Files/ZEVURLCommonAncestor.h>
 
-#include <ZEVGlobalUtils/Platform/ZEVFileURL.h>
-#include <ZEVGlobalUtils/Platform/ZEVPlainFileManager.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVPlainFileManager.h>
 
 #include <algorithm>
 

@@ -5,10 +5,10 @@
 
 #include <ZEVGlobalUtils/Files/ZEVOpenPanelSandbox.h>
 #include <ZEVGlobalUtils/Files/ZEVURLBookmarkAdditions.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileOperations_p.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileURL.h>
-#include <ZEVGlobalUtils/Platform/ZEVMainThread.h>
-#include <ZEVGlobalUtils/Platform/ZEVOpenPanel.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileOperations_p.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
+#include <ZEVGlobalUtils/Platform/Questions/ZEVOpenPanel.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVMainThread.h>
 
 #include <QDir>
 

@@ -4,9 +4,9 @@
 #include <ZEVGlobalUtils/Files/ZEVURLFileOperationAttempter.h>
 
 #include <ZEVGlobalUtils/Files/ZEVErrorFileErrorHelpers.h>
-#include <ZEVGlobalUtils/Platform/ZEVError.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileName.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileURL.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileName.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVError.h>
 
 bool ZEVURLFileOperationAttempter::attemptFWFERecoveryWithError(const QUrl &url, QUrl *outURL,
                                                                 const Operation &operation, ZEVError *error)

@@ -4,8 +4,8 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVArrayPatternDisplaySupport.h>
 
 #include <ZEVGlobalUtils/FindEngine/ZEVPattern_p.h>
-#include <ZEVGlobalUtils/Platform/ZEVAttributedString.h>
-#include <ZEVGlobalUtils/Platform/ZEVNamedColors.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedColors.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVAttributedString.h>
 
 #include <QGuiApplication>
 #include <QPalette>

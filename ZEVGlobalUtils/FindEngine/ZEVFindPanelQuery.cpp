@@ -7,13 +7,13 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVFindPanelScope.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVOrvCaptureGroup.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVPattern_p.h>
-#include <ZEVGlobalUtils/Platform/ZEVAttributedString.h>
-#include <ZEVGlobalUtils/Platform/ZEVError.h>
-#include <ZEVGlobalUtils/Platform/ZEVErrorPresentation.h>
-#include <ZEVGlobalUtils/Platform/ZEVKeyedArchiver.h>
-#include <ZEVGlobalUtils/Platform/ZEVKeyedUnarchiver.h>
-#include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
-#include <ZEVGlobalUtils/Transforms/ZEVGlobalHelper.h>
+#include <ZEVGlobalUtils/Platform/Questions/ZEVErrorPresentation.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVAttributedString.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVError.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVKeyedArchiver.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVKeyedUnarchiver.h>
 
 #include <QHash>
 

@@ -3,9 +3,9 @@
 
 #include <ZEVGlobalUtils/FindEngine/ZEVPatternItem.h>
 
-#include <ZEVGlobalUtils/Platform/ZEVKeyedArchiver.h>
-#include <ZEVGlobalUtils/Platform/ZEVKeyedUnarchiver.h>
-#include <ZEVGlobalUtils/Transforms/ZEVGlobalHelper.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVKeyedArchiver.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVKeyedUnarchiver.h>
 
 #include <QHash>
 

@@ -6,7 +6,7 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVOrvCaptureGroup.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVOrvCaptureMatch.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVPattern_p.h>
-#include <ZEVGlobalUtils/Platform/ZEVRegularExpressionMatcher.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpressionMatcher.h>
 #include <ZEVGlobalUtils/Transforms/ZEVValueTransformer.h>
 
 #include <QHash>

@@ -3,8 +3,8 @@
 
 #include <ZEVGlobalUtils/FindEngine/ZEVStringFilterRegexValue.h>
 
-#include <ZEVGlobalUtils/Platform/ZEVError.h>
-#include <ZEVGlobalUtils/Platform/ZEVLog_p.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVError.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVLog_p.h>
 
 using namespace Qt::StringLiterals;
 

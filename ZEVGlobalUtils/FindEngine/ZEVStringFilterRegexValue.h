@@ -4,7 +4,7 @@
 #pragma once
 
 #include <ZEVGlobalUtils/Export.h>
-#include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
 
 namespace ZEVStringFilterRegexValue {
 

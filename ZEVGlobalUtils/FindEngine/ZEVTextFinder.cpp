@@ -4,8 +4,8 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
 
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderEditableClient.h>
-#include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
-#include <ZEVGlobalUtils/Platform/ZEVRegularExpressionMatcher.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpressionMatcher.h>
 
 #include <QDeadlineTimer>
 #include <QMetaMethod>

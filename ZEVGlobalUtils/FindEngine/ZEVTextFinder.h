@@ -4,7 +4,7 @@
 #pragma once
 
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderUserInterface.h>
-#include <ZEVGlobalUtils/Platform/ZEVRange.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVRange.h>
 
 #include <QList>
 #include <QObject>

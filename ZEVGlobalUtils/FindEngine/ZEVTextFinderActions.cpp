@@ -6,9 +6,9 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVFindBarContainer.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderAction.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextViewFindPboard.h>
-#include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
-#include <ZEVGlobalUtils/Platform/ZEVWeakRef.h>
-#include <ZEVGlobalUtils/Transforms/ZEVGlobalHelper.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVWeakRef.h>
 
 #include <QWidget>
 

@@ -6,7 +6,7 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVOrvCaptureMatch.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderAction.h>
-#include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
 
 #include <algorithm>
 

@@ -7,8 +7,8 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVOrvCaptureMatch.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderAction.h>
-#include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
-#include <ZEVGlobalUtils/Platform/ZEVRegularExpressionMatcher.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpressionMatcher.h>
 
 using namespace ZEVTextFinderAction;
 

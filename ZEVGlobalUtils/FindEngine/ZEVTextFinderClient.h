@@ -4,7 +4,7 @@
 #pragma once
 
 #include <ZEVGlobalUtils/Export.h>
-#include <ZEVGlobalUtils/Platform/ZEVRange.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVRange.h>
 
 #include <QString>
 

@@ -4,8 +4,8 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVTextViewFindPboard.h>
 
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderAction.h>
-#include <ZEVGlobalUtils/Platform/ZEVApplicationActivity.h>
-#include <ZEVGlobalUtils/Platform/ZEVFindPasteboard.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVApplicationActivity.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFindPasteboard.h>
 
 #include <QLineEdit>
 #include <QPlainTextEdit>

@@ -5,10 +5,10 @@
 
 #include <ZEVGlobalUtils/Images/ZEVImageFile_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDragImageView.h>
-#include <ZEVGlobalUtils/Platform/ZEVError.h>
-#include <ZEVGlobalUtils/Platform/ZEVFilePromiseReceiver.h>
-#include <ZEVGlobalUtils/Platform/ZEVLocalFile_p.h>
-#include <ZEVGlobalUtils/Platform/ZEVLog_p.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVLocalFile_p.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFilePromiseReceiver.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVError.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVLog_p.h>
 
 #include <QCoreApplication>
 #include <QFileInfo>

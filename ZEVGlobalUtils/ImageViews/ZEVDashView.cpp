@@ -6,9 +6,9 @@
 #include <ZEVGlobalUtils/ImageViews/ZEVDashDrawingView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVViewAnimation_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVViewEffect_p.h>
-#include <ZEVGlobalUtils/Menus/ZEVViewEasyConstraints.h>
-#include <ZEVGlobalUtils/Platform/ZEVNamedColors.h>
-#include <ZEVGlobalUtils/Transforms/ZEVAppearanceHelpers.h>
+#include <ZEVGlobalUtils/Menus/Layout/ZEVViewEasyConstraints.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVAppearanceHelpers.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedColors.h>
 
 #include <QEvent>
 #include <QLabel>

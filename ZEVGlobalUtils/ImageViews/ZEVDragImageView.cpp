@@ -12,8 +12,8 @@
 #include <ZEVGlobalUtils/ImageViews/ZEVFocusFrame_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVInnerImageView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVViewAnimation_p.h>
-#include <ZEVGlobalUtils/Menus/ZEVViewEasyConstraints.h>
-#include <ZEVGlobalUtils/Transforms/ZEVGlobalHelper.h>
+#include <ZEVGlobalUtils/Menus/Layout/ZEVViewEasyConstraints.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 
 #include <QPainter>
 #include <QPropertyAnimation>

@@ -4,7 +4,7 @@
 #pragma once
 
 #include <ZEVGlobalUtils/ImageViews/ZEVDragImageViewDelegate.h>
-#include <ZEVGlobalUtils/Platform/ZEVWeakRef.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVWeakRef.h>
 
 #include <QPoint>
 #include <QUrl>

@@ -12,11 +12,11 @@
 #include <ZEVGlobalUtils/ImageViews/ZEVImageDragging_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVInnerImageView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVViewAnimation_p.h>
-#include <ZEVGlobalUtils/Platform/ZEVFilePromiseReceiver.h>
-#include <ZEVGlobalUtils/Platform/ZEVLocalFile_p.h>
-#include <ZEVGlobalUtils/Platform/ZEVPasteboard.h>
-#include <ZEVGlobalUtils/Platform/ZEVUniformType.h>
-#include <ZEVGlobalUtils/Transforms/ZEVGlobalHelper.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVLocalFile_p.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFilePromiseReceiver.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboard.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVUniformType.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 
 #include <QDropEvent>
 #include <QFileInfo>

@@ -10,10 +10,10 @@
 #include <ZEVGlobalUtils/ImageViews/ZEVArtworkImporter_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVFocusFrame_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVInnerImageView.h>
-#include <ZEVGlobalUtils/Platform/ZEVOpenPanel.h>
-#include <ZEVGlobalUtils/Platform/ZEVPasteboard.h>
-#include <ZEVGlobalUtils/Platform/ZEVUniformType.h>
-#include <ZEVGlobalUtils/Transforms/ZEVGlobalHelper.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboard.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVUniformType.h>
+#include <ZEVGlobalUtils/Platform/Questions/ZEVOpenPanel.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 
 #include <QAction>
 #include <QContextMenuEvent>

@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/ImageViews/ZEVDropProgressView_p.h>
 
-#include <ZEVGlobalUtils/Transforms/ZEVGlobalHelper.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 
 #include <QHBoxLayout>
 #include <QProgressBar>

@@ -5,7 +5,7 @@
 
 #include <ZEVGlobalUtils/ImageViews/ZEVExportImageViewDelegate.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVImageView.h>
-#include <ZEVGlobalUtils/Platform/ZEVWeakRef.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVWeakRef.h>
 
 #include <QPoint>
 

@@ -3,9 +3,9 @@
 
 #include <ZEVGlobalUtils/ImageViews/ZEVImageDragging_p.h>
 
-#include <ZEVGlobalUtils/Platform/ZEVPasteboard.h>
-#include <ZEVGlobalUtils/Platform/ZEVPasteboardItem.h>
-#include <ZEVGlobalUtils/Platform/ZEVPasteboardWriting.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboard.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboardItem.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboardWriting.h>
 
 #include <QApplication>
 #include <QDrag>

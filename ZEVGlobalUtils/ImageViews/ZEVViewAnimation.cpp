@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/ImageViews/ZEVViewAnimation_p.h>
 
-#include <ZEVGlobalUtils/Platform/ZEVReducedMotion.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVReducedMotion.h>
 
 #include <QPropertyAnimation>
 #include <QWidget>

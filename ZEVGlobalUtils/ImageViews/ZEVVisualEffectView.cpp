@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/ImageViews/ZEVVisualEffectView.h>
 
-#include <ZEVGlobalUtils/Platform/ZEVNamedColors.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedColors.h>
 
 #include <QPainter>
 

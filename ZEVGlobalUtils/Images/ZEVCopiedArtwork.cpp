@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/Images/ZEVCopiedArtwork_p.h>
 
-#include <ZEVGlobalUtils/Platform/ZEVUniformType.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVUniformType.h>
 
 #include <QBuffer>
 

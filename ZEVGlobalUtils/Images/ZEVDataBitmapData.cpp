@@ -3,9 +3,9 @@
 
 #include <ZEVGlobalUtils/Images/ZEVDataBitmapData.h>
 
-#include <ZEVGlobalUtils/Platform/ZEVLog_p.h>
-#include <ZEVGlobalUtils/Platform/ZEVUniformType.h>
-#include <ZEVGlobalUtils/Transforms/ZEVGlobalHelper.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVUniformType.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVLog_p.h>
 
 using namespace Qt::StringLiterals;
 

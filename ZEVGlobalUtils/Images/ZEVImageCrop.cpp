@@ -4,7 +4,7 @@
 #include <ZEVGlobalUtils/Images/ZEVImageCrop.h>
 
 #include <ZEVGlobalUtils/Images/ZEVSmoothDrawing_p.h>
-#include <ZEVGlobalUtils/Transforms/ZEVGeometry.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVGeometry.h>
 
 #include <QColorSpace>
 

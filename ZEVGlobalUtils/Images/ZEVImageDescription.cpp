@@ -8,13 +8,13 @@
 #include <ZEVGlobalUtils/Images/ZEVImageDecoder_p.h>
 #include <ZEVGlobalUtils/Images/ZEVImageFile_p.h>
 #include <ZEVGlobalUtils/Images/ZEVPreviewPanel.h>
-#include <ZEVGlobalUtils/Platform/ZEVErrorPresentation.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileErrors.h>
-#include <ZEVGlobalUtils/Platform/ZEVPasteboard.h>
-#include <ZEVGlobalUtils/Platform/ZEVPrivateFolder_p.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileErrors.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVPrivateFolder_p.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboard.h>
+#include <ZEVGlobalUtils/Platform/Questions/ZEVErrorPresentation.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVDataMD5.h>
 #include <ZEVGlobalUtils/Transforms/ByteSizeTransformer.h>
 #include <ZEVGlobalUtils/Transforms/ResolutionTransformer.h>
-#include <ZEVGlobalUtils/Transforms/ZEVDataMD5.h>
 
 #include <QCoreApplication>
 #include <QDir>

@@ -5,7 +5,7 @@
 
 #include <ZEVGlobalUtils/Images/ZEVCoverage_p.h>
 #include <ZEVGlobalUtils/Images/ZEVDrawingTrait.h>
-#include <ZEVGlobalUtils/Platform/ZEVLog_p.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVLog_p.h>
 
 #include <cmath>
 

@@ -3,8 +3,8 @@
 
 #include <ZEVGlobalUtils/Images/ZEVImageFile_p.h>
 
-#include <ZEVGlobalUtils/Platform/ZEVFileErrors.h>
-#include <ZEVGlobalUtils/Transforms/ZEVGlobalHelper.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileErrors.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 
 #include <QFileInfo>
 #include <QSaveFile>

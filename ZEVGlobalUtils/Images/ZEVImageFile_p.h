@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/Platform/ZEVError.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVError.h>
 
 #include <QByteArray>
 

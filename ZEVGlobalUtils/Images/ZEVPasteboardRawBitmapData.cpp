@@ -4,10 +4,10 @@
 #include <ZEVGlobalUtils/Images/ZEVPasteboardRawBitmapData.h>
 
 #include <ZEVGlobalUtils/Images/ZEVImageFile_p.h>
-#include <ZEVGlobalUtils/Platform/ZEVLocalFile_p.h>
-#include <ZEVGlobalUtils/Platform/ZEVLog_p.h>
-#include <ZEVGlobalUtils/Platform/ZEVPasteboard.h>
-#include <ZEVGlobalUtils/Platform/ZEVUniformType.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVLocalFile_p.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboard.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVUniformType.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVLog_p.h>
 
 QByteArray ZEVPasteboardRawBitmapData::rawImageData(const ZEVPasteboard &pasteboard)
 {

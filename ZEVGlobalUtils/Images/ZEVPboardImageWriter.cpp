@@ -7,13 +7,13 @@
 #include <ZEVGlobalUtils/Files/ZEVURLFileOperationAttempter.h>
 #include <ZEVGlobalUtils/Images/ZEVDataBitmapData.h>
 #include <ZEVGlobalUtils/Images/ZEVImageIdentification.h>
-#include <ZEVGlobalUtils/Platform/ZEVError.h>
-#include <ZEVGlobalUtils/Platform/ZEVErrorPresentation.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileName.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileURL.h>
-#include <ZEVGlobalUtils/Platform/ZEVPasteboard.h>
-#include <ZEVGlobalUtils/Platform/ZEVPlainFileManager.h>
-#include <ZEVGlobalUtils/Platform/ZEVUniformType.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileName.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVPlainFileManager.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboard.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVUniformType.h>
+#include <ZEVGlobalUtils/Platform/Questions/ZEVErrorPresentation.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVError.h>
 
 #include <QCoreApplication>
 

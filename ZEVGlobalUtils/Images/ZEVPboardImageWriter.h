@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/Platform/ZEVPasteboardWriting.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboardWriting.h>
 
 /// Offers artwork on a pasteboard or in a drag: as its bytes, and as a file that is written where the
 /// receiver wants it. A ZEVPasteboardItem brings it to other programs.

@@ -7,7 +7,7 @@
 #include <ZEVGlobalUtils/Images/ZEVImageFile_p.h>
 #include <ZEVGlobalUtils/Images/ZEVPreviewItem.h>
 #include <ZEVGlobalUtils/Images/ZEVPreviewPicture_p.h>
-#include <ZEVGlobalUtils/Platform/ZEVLocalFile_p.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVLocalFile_p.h>
 
 #include <QApplication>
 #include <QKeyEvent>

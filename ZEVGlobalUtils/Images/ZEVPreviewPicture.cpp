@@ -4,7 +4,7 @@
 #include <ZEVGlobalUtils/Images/ZEVPreviewPicture_p.h>
 
 #include <ZEVGlobalUtils/Images/ZEVImageCrop.h>
-#include <ZEVGlobalUtils/Transforms/ZEVGeometry.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVGeometry.h>
 
 #include <QPainter>
 

@@ -3,9 +3,9 @@
 
 #include <ZEVGlobalUtils/Transforms/ResolutionTransformer.h>
 
-#include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
-#include <ZEVGlobalUtils/Platform/ZEVRegularExpressionMatcher.h>
-#include <ZEVGlobalUtils/Transforms/ZEVVariantValues_p.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpressionMatcher.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVVariantValues_p.h>
 
 #include <QSizeF>
 

@@ -3,9 +3,9 @@
 
 #include <ZEVGlobalUtils/Transforms/TagSizeTransformer.h>
 
-#include <ZEVGlobalUtils/Transforms/ZEVGlobalHelper.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVVariantValues_p.h>
 #include <ZEVGlobalUtils/Transforms/ZEVSizeTexts_p.h>
-#include <ZEVGlobalUtils/Transforms/ZEVVariantValues_p.h>
 
 QMetaType TagSizeTransformer::transformedValueClass() const { return QMetaType::fromType<QString>(); }
 

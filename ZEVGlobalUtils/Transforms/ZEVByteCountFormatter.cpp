@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/Transforms/ZEVByteCountFormatter.h>
 
-#include <ZEVGlobalUtils/Transforms/ZEVGlobalHelper.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 
 #include <QLocale>
 

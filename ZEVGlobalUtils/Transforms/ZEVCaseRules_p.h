@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/Platform/ZEVRange.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVRange.h>
 #include <ZEVGlobalUtils/Transforms/ZEVCaseRules.h>
 
 #include <QSet>

@@ -4,7 +4,7 @@
 #pragma once
 
 #include <ZEVGlobalUtils/Export.h>
-#include <ZEVGlobalUtils/Platform/ZEVDateFormat.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVDateFormat.h>
 
 /// The form of ISO 8601 in which tags keep times: "2024-05-06T07:08:09+01:00", with Z for UTC.
 inline constexpr QStringView ZEVISO8601ID3DateFormatString = u"yyyy-MM-dd'T'HH:mm:ssZZZZZ";

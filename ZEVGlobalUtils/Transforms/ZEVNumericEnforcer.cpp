@@ -3,9 +3,9 @@
 
 #include <ZEVGlobalUtils/Transforms/ZEVNumericEnforcer.h>
 
-#include <ZEVGlobalUtils/Platform/ZEVCharacterSet.h>
-#include <ZEVGlobalUtils/Transforms/ZEVGlobalHelper.h>
-#include <ZEVGlobalUtils/Transforms/ZEVVariantValues_p.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVCharacterSet.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVVariantValues_p.h>
 
 #include <QApplication>
 #include <QLocale>

@@ -3,8 +3,8 @@
 
 #include <ZEVGlobalUtils/Transforms/ZEVResultsCountDisplayTransformer.h>
 
-#include <ZEVGlobalUtils/Transforms/ZEVGlobalHelper.h>
-#include <ZEVGlobalUtils/Transforms/ZEVVariantValues_p.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVVariantValues_p.h>
 
 using namespace Qt::StringLiterals;
 

@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/Transforms/ZEVSelectedObjectsToOneTransformer.h>
 
-#include <ZEVGlobalUtils/Transforms/ZEVVariantValues_p.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVVariantValues_p.h>
 
 QMetaType ZEVSelectedObjectsToOneTransformer::transformedValueClass() const
 {

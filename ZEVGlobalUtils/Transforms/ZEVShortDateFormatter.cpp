@@ -3,8 +3,8 @@
 
 #include <ZEVGlobalUtils/Transforms/ZEVShortDateFormatter.h>
 
-#include <ZEVGlobalUtils/Platform/ZEVDateFormat.h>
-#include <ZEVGlobalUtils/Platform/ZEVTextLocale.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVDateFormat.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVTextLocale.h>
 
 #include <QMutex>
 

@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/Transforms/ZEVSizeTexts_p.h>
 
-#include <ZEVGlobalUtils/Transforms/ZEVVariantValues_p.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVVariantValues_p.h>
 
 namespace {
 

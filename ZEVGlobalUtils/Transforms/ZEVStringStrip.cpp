@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/Transforms/ZEVStringStrip.h>
 
-#include <ZEVGlobalUtils/Platform/ZEVCharacterSet.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVCharacterSet.h>
 
 namespace {
 

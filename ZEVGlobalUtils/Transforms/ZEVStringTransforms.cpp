@@ -3,9 +3,9 @@
 
 #include <ZEVGlobalUtils/Transforms/ZEVStringTransforms.h>
 
-#include <ZEVGlobalUtils/Platform/ZEVCaseMapping.h>
-#include <ZEVGlobalUtils/Platform/ZEVCharacterSet.h>
-#include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVCaseMapping.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVCharacterSet.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
 #include <ZEVGlobalUtils/Transforms/ZEVTitleCase_p.h>
 
 using namespace Qt::StringLiterals;

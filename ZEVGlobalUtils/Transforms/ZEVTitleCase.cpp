@@ -3,10 +3,10 @@
 
 #include <ZEVGlobalUtils/Transforms/ZEVTitleCase_p.h>
 
-#include <ZEVGlobalUtils/Platform/ZEVCaseMapping.h>
-#include <ZEVGlobalUtils/Platform/ZEVCharacterSet.h>
-#include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
-#include <ZEVGlobalUtils/Platform/ZEVRegularExpressionMatcher.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVCaseMapping.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVCharacterSet.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpressionMatcher.h>
 #include <ZEVGlobalUtils/Transforms/ZEVStringTransforms.h>
 
 #include <algorithm>

@@ -1,15 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <tageditor/AutomatedRun.h>
-#include <tageditor/DarkPalette.h>
 #include <tageditor/find/FindInterfaces.h>
 #include <tageditor/find/TrackFind.h>
 #include <tageditor/gallery/GalleryWindow.h>
-#include <tageditor/MainWindow.h>
-#include <tageditor/Translations.h>
+#include <tageditor/window/AutomatedRun.h>
+#include <tageditor/window/DarkPalette.h>
+#include <tageditor/window/MainWindow.h>
+#include <tageditor/window/Translations.h>
 
-#include <ZEVGlobalUtils/FindPanel/ZEVTokenField.h>
+#include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenField.h>
 
 #include <QApplication>
 #include <QIcon>

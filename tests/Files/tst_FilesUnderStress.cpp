@@ -6,7 +6,7 @@
 #include <ZEVGlobalUtils/Files/ZEVDataUniqueFileWriting.h>
 #include <ZEVGlobalUtils/Files/ZEVFileManager.h>
 #include <ZEVGlobalUtils/Files/ZEVFileManagerHelpers.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileErrors.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileErrors.h>
 
 #include <QSet>
 #include <QTest>

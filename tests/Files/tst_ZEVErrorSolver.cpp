@@ -9,11 +9,11 @@
 #include <ZEVGlobalUtils/Files/ZEVResponderErrorHandler.h>
 #include <ZEVGlobalUtils/Files/ZEVURLBookmarkAdditions.h>
 #include <ZEVGlobalUtils/Files/ZEVURLFileAccess.h>
-#include <ZEVGlobalUtils/Platform/ZEVAlert.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileReference.h>
-#include <ZEVGlobalUtils/Platform/ZEVOpenPanel.h>
-#include <ZEVGlobalUtils/Platform/ZEVProgress.h>
-#include <ZEVGlobalUtils/Platform/ZEVUserDefaults.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileReference.h>
+#include <ZEVGlobalUtils/Platform/Questions/ZEVAlert.h>
+#include <ZEVGlobalUtils/Platform/Questions/ZEVOpenPanel.h>
+#include <ZEVGlobalUtils/Platform/Questions/ZEVProgress.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVUserDefaults.h>
 
 #include <QSettings>
 

@@ -11,8 +11,8 @@
 #include <ZEVGlobalUtils/Files/ZEVURLCommonAncestor.h>
 #include <ZEVGlobalUtils/Files/ZEVURLFileAccess.h>
 #include <ZEVGlobalUtils/Files/ZEVURLFileOperationAttempter.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileErrors.h>
-#include <ZEVGlobalUtils/Platform/ZEVPlainFileManager.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileErrors.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVPlainFileManager.h>
 
 #include <QPainter>
 

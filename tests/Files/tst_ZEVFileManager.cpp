@@ -7,9 +7,9 @@
 #include <ZEVGlobalUtils/Files/ZEVFileManager.h>
 #include <ZEVGlobalUtils/Files/ZEVFileManagerDelegate.h>
 #include <ZEVGlobalUtils/Files/ZEVURLFileAccess.h>
-#include <ZEVGlobalUtils/Platform/ZEVAlert.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileErrors.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileReference.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileErrors.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileReference.h>
+#include <ZEVGlobalUtils/Platform/Questions/ZEVAlert.h>
 
 #include <QApplication>
 #include <QCheckBox>

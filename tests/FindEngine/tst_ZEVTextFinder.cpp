@@ -7,7 +7,7 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVPatternItem.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderClient.h>
-#include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
 
 #include <QDeadlineTimer>
 #include <QPointer>

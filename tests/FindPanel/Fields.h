@@ -4,9 +4,9 @@
 #pragma once
 
 #include <ZEVGlobalUtils/FindEngine/ZEVPatternItem.h>
-#include <ZEVGlobalUtils/FindPanel/OEXTokenTextStorage.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVPatternTokens.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVTokenField.h>
+#include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVPatternTokens.h>
+#include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenField.h>
+#include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenTextStorage.h>
 
 #include <QtTest>
 #include <QtWidgets>

@@ -7,17 +7,17 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVFindPanelScope.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderClient.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVFindBarContainerView.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVFindPanelQueryParamsController.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVFocusTokenFieldCell.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVTextFinderBorderlessPopUpButton.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVTextFinderMenu.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVTextFinderViewController.h>
-#include <ZEVGlobalUtils/Menus/ZEVMenuItem.h>
-#include <ZEVGlobalUtils/Platform/ZEVApplicationActivity.h>
-#include <ZEVGlobalUtils/Platform/ZEVFindPasteboard.h>
-#include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
-#include <ZEVGlobalUtils/Platform/ZEVUserDefaults.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFindBarContainerView.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFindPanelQueryParamsController.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFocusTokenFieldCell.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderBorderlessPopUpButton.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderMenu.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderViewController.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVApplicationActivity.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFindPasteboard.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVUserDefaults.h>
 
 namespace {
 

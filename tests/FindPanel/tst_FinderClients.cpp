@@ -6,9 +6,9 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVOrvCaptureMatch.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderActor.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVItemModelFinderClient.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVTextEditFinderClient.h>
-#include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
+#include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVItemModelFinderClient.h>
+#include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVTextEditFinderClient.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
 
 #include <QPlainTextEdit>
 #include <QScrollBar>

@@ -4,10 +4,10 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderAction.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderActor.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVItemModelFinderClient.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVMatchColors.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVMatchHighlightDelegate.h>
-#include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
+#include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVItemModelFinderClient.h>
+#include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVMatchColors.h>
+#include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVMatchHighlightDelegate.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
 
 #include <QImage>
 #include <QPainter>

@@ -4,10 +4,10 @@
 #include "../Rows.h"
 
 #include <ZEVGlobalUtils/FindEngine/ZEVStringFilterRegexValue.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVMenuFilterClient.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVMenuFilterViewController.h>
-#include <ZEVGlobalUtils/Menus/ZEVMenuItem.h>
-#include <ZEVGlobalUtils/Menus/ZEVMenuItemScroller.h>
+#include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVMenuFilterClient.h>
+#include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVMenuFilterViewController.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuItemScroller.h>
 
 #include <QAccessible>
 #include <QLineEdit>

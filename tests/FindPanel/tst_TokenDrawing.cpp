@@ -4,13 +4,13 @@
 #include "../Rows.h"
 #include "Fields.h"
 
-#include <ZEVGlobalUtils/FindPanel/ZEVFilterSearchFieldCell.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVGreenTokenAttachmentCell.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVRoundTokenAttachmentCell.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVTextFinderBackgroundView.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVTextFinderFakeCellView.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVTokenFieldCell.h>
-#include <ZEVGlobalUtils/Platform/ZEVNamedColors.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderBackgroundView.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderFakeCellView.h>
+#include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVFilterSearchFieldCell.h>
+#include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenFieldCell.h>
+#include <ZEVGlobalUtils/FindPanel/TokenFields/ZEVGreenTokenAttachmentCell.h>
+#include <ZEVGlobalUtils/FindPanel/TokenFields/ZEVRoundTokenAttachmentCell.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedColors.h>
 
 namespace {
 

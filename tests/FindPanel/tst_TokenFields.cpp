@@ -4,9 +4,9 @@
 #include "../Rows.h"
 #include "Fields.h"
 
-#include <ZEVGlobalUtils/FindPanel/ZEVFocusTokenFieldCell.h>
-#include <ZEVGlobalUtils/Menus/ZEVMenuItem.h>
-#include <ZEVGlobalUtils/Platform/ZEVUserDefaults.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFocusTokenFieldCell.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVUserDefaults.h>
 
 using namespace Qt::StringLiterals;
 

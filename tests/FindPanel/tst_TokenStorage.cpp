@@ -3,9 +3,9 @@
 
 #include "Fields.h"
 
-#include <ZEVGlobalUtils/FindPanel/OEXTokenFieldCell.h>
-#include <ZEVGlobalUtils/FindPanel/OEXTokenTextStorageDelegate.h>
-#include <ZEVGlobalUtils/Platform/ZEVTextAttachmentCell.h>
+#include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenFieldCell.h>
+#include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenTextStorageDelegate.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVTextAttachmentCell.h>
 
 #include <QAccessible>
 

@@ -5,7 +5,7 @@
 #include "../Rows.h"
 
 #include <ZEVGlobalUtils/ImageViews/ZEVDragImageView.h>
-#include <ZEVGlobalUtils/Platform/ZEVFilePromiseReceiver.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFilePromiseReceiver.h>
 
 #include <QMimeData>
 #include <QStandardPaths>

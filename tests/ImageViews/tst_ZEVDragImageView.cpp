@@ -11,8 +11,8 @@
 #include <ZEVGlobalUtils/ImageViews/ZEVDashView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDragImageView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVInnerImageView.h>
-#include <ZEVGlobalUtils/Platform/ZEVOpenPanel.h>
-#include <ZEVGlobalUtils/Platform/ZEVPasteboard.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboard.h>
+#include <ZEVGlobalUtils/Platform/Questions/ZEVOpenPanel.h>
 
 #include <QAccessible>
 #include <QClipboard>

@@ -7,10 +7,10 @@
 #include <ZEVGlobalUtils/Images/ZEVImageDescription.h>
 #include <ZEVGlobalUtils/Images/ZEVPasteboardRawBitmapData.h>
 #include <ZEVGlobalUtils/Images/ZEVPreviewPanel.h>
-#include <ZEVGlobalUtils/Platform/ZEVError.h>
-#include <ZEVGlobalUtils/Platform/ZEVErrorPresentation.h>
-#include <ZEVGlobalUtils/Platform/ZEVPasteboard.h>
-#include <ZEVGlobalUtils/Platform/ZEVUniformType.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboard.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVUniformType.h>
+#include <ZEVGlobalUtils/Platform/Questions/ZEVErrorPresentation.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVError.h>
 
 #include <QImageReader>
 #include <QImageWriter>

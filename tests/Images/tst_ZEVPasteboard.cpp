@@ -6,11 +6,11 @@
 
 #include <ZEVGlobalUtils/Images/ZEVPasteboardRawBitmapData.h>
 #include <ZEVGlobalUtils/Images/ZEVPboardImageWriter.h>
-#include <ZEVGlobalUtils/Platform/ZEVError.h>
-#include <ZEVGlobalUtils/Platform/ZEVErrorPresentation.h>
-#include <ZEVGlobalUtils/Platform/ZEVPasteboard.h>
-#include <ZEVGlobalUtils/Platform/ZEVPasteboardItem.h>
-#include <ZEVGlobalUtils/Platform/ZEVUniformType.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboard.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboardItem.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVUniformType.h>
+#include <ZEVGlobalUtils/Platform/Questions/ZEVErrorPresentation.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVError.h>
 
 #include <QMimeData>
 #include <QTemporaryDir>

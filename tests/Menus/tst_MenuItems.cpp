@@ -3,10 +3,10 @@
 
 #include "../Rows.h"
 
-#include <ZEVGlobalUtils/Menus/ZEVMenuItem.h>
-#include <ZEVGlobalUtils/Menus/ZEVMenuItemBlockAdditions.h>
-#include <ZEVGlobalUtils/Menus/ZEVMenuItemHeadings.h>
-#include <ZEVGlobalUtils/Menus/ZEVMenuItemRemoveAllFollowing.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuItemBlockAdditions.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuItemHeadings.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuItemRemoveAllFollowing.h>
 
 #include <QAccessible>
 #include <QMenu>

@@ -3,11 +3,11 @@
 
 #include "../Rows.h"
 
-#include <ZEVGlobalUtils/Menus/ZEVKeyValueObserver.h>
-#include <ZEVGlobalUtils/Menus/ZEVObjectKeyValue.h>
-#include <ZEVGlobalUtils/Menus/ZEVObjectUserDefaultsBindings.h>
-#include <ZEVGlobalUtils/Menus/ZEVResponder.h>
-#include <ZEVGlobalUtils/Platform/ZEVUserDefaults.h>
+#include <ZEVGlobalUtils/Menus/Observing/ZEVKeyValueObserver.h>
+#include <ZEVGlobalUtils/Menus/Observing/ZEVObjectKeyValue.h>
+#include <ZEVGlobalUtils/Menus/Observing/ZEVObjectUserDefaultsBindings.h>
+#include <ZEVGlobalUtils/Menus/Observing/ZEVResponder.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVUserDefaults.h>
 
 #include <QSettings>
 #include <QTemporaryDir>

@@ -3,10 +3,10 @@
 
 #include "../Rows.h"
 
-#include <ZEVGlobalUtils/Menus/ZEVMenuItem.h>
-#include <ZEVGlobalUtils/Menus/ZEVWorkspaceOpenWithMenu.h>
-#include <ZEVGlobalUtils/Platform/ZEVApplications.h>
-#include <ZEVGlobalUtils/Platform/ZEVOpenPanel.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
+#include <ZEVGlobalUtils/Menus/Locations/ZEVWorkspaceOpenWithMenu.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVApplications.h>
+#include <ZEVGlobalUtils/Platform/Questions/ZEVOpenPanel.h>
 
 #include <QDialog>
 #include <QLineEdit>

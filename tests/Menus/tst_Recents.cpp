@@ -4,13 +4,13 @@
 #include "../Rows.h"
 
 #include <ZEVGlobalUtils/Files/ZEVURLBookmarkAdditions.h>
-#include <ZEVGlobalUtils/Menus/ZEVMenuItem.h>
-#include <ZEVGlobalUtils/Menus/ZEVMenuRecents.h>
-#include <ZEVGlobalUtils/Menus/ZEVURLPopUpButton.h>
-#include <ZEVGlobalUtils/Menus/ZEVUTTypeFromExtensionOrIdentifier.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileReference.h>
-#include <ZEVGlobalUtils/Platform/ZEVOpenPanel.h>
-#include <ZEVGlobalUtils/Platform/ZEVUserDefaults.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
+#include <ZEVGlobalUtils/Menus/Locations/ZEVMenuRecents.h>
+#include <ZEVGlobalUtils/Menus/Locations/ZEVURLPopUpButton.h>
+#include <ZEVGlobalUtils/Menus/Locations/ZEVUTTypeFromExtensionOrIdentifier.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileReference.h>
+#include <ZEVGlobalUtils/Platform/Questions/ZEVOpenPanel.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVUserDefaults.h>
 
 #include <QCborMap>
 #include <QDropEvent>

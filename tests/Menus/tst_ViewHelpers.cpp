@@ -3,10 +3,10 @@
 
 #include "../Rows.h"
 
-#include <ZEVGlobalUtils/Menus/ZEVConstraintLayout.h>
-#include <ZEVGlobalUtils/Menus/ZEVPopoverShowInSender.h>
-#include <ZEVGlobalUtils/Menus/ZEVTableViewHelpers.h>
-#include <ZEVGlobalUtils/Menus/ZEVViewEasyConstraints.h>
+#include <ZEVGlobalUtils/Menus/Layout/ZEVConstraintLayout.h>
+#include <ZEVGlobalUtils/Menus/Layout/ZEVPopoverShowInSender.h>
+#include <ZEVGlobalUtils/Menus/Layout/ZEVTableViewHelpers.h>
+#include <ZEVGlobalUtils/Menus/Layout/ZEVViewEasyConstraints.h>
 
 #include <QLineEdit>
 #include <QPushButton>

@@ -5,9 +5,9 @@
 
 #include <ZEVGlobalUtils/FindEngine/ZEVFindPanelQuery.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVPatternItem.h>
-#include <ZEVGlobalUtils/Platform/ZEVKeyedArchiver.h>
-#include <ZEVGlobalUtils/Platform/ZEVKeyedUnarchiver.h>
-#include <ZEVGlobalUtils/Platform/ZEVUserDefaults.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVKeyedArchiver.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVKeyedUnarchiver.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVUserDefaults.h>
 
 #include <QCborArray>
 #include <QRandomGenerator>

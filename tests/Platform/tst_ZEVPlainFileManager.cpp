@@ -5,9 +5,9 @@
 #include "../SystemFaults.h"
 #include "../Trees.h"
 
-#include <ZEVGlobalUtils/Platform/ZEVFileErrors.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileName.h>
-#include <ZEVGlobalUtils/Platform/ZEVPlainFileManager.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileErrors.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileName.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVPlainFileManager.h>
 
 #include <QLoggingCategory>
 

@@ -3,9 +3,9 @@
 
 #include "../Rows.h"
 
-#include <ZEVGlobalUtils/Platform/ZEVError.h>
-#include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
-#include <ZEVGlobalUtils/Platform/ZEVRegularExpressionMatcher.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpressionMatcher.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVError.h>
 
 #include <QRegularExpression>
 

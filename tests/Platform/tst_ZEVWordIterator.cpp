@@ -3,9 +3,9 @@
 
 #include "../Rows.h"
 
-#include <ZEVGlobalUtils/Platform/ZEVCaseMapping.h>
-#include <ZEVGlobalUtils/Platform/ZEVTextLocale.h>
-#include <ZEVGlobalUtils/Platform/ZEVWordIterator.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVCaseMapping.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVTextLocale.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVWordIterator.h>
 
 #include <QLocale>
 

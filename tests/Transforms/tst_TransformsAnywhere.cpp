@@ -3,7 +3,7 @@
 
 #include "../Rows.h"
 
-#include <ZEVGlobalUtils/Platform/ZEVCharacterSet.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVCharacterSet.h>
 #include <ZEVGlobalUtils/Transforms/FileSizeTransformer.h>
 #include <ZEVGlobalUtils/Transforms/ZEVISO8601DateFormatter.h>
 #include <ZEVGlobalUtils/Transforms/ZEVShortDateFormatter.h>

@@ -3,7 +3,7 @@
 
 #include "../Rows.h"
 
-#include <ZEVGlobalUtils/Platform/ZEVCharacterSet.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVCharacterSet.h>
 #include <ZEVGlobalUtils/Transforms/ZEVStringStrip.h>
 #include <ZEVGlobalUtils/Transforms/ZEVStringTransforms.h>
 

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Transforms/ZEVAppearanceHelpers.h>
-#include <ZEVGlobalUtils/Transforms/ZEVDataMD5.h>
-#include <ZEVGlobalUtils/Transforms/ZEVEventHelpers.h>
-#include <ZEVGlobalUtils/Transforms/ZEVFontWeightHelpers.h>
-#include <ZEVGlobalUtils/Transforms/ZEVGeometry.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVAppearanceHelpers.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVEventHelpers.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVFontWeightHelpers.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVDataMD5.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVGeometry.h>
 
 #include <QFontDatabase>
 #include <QKeyEvent>

@@ -6,9 +6,9 @@
 #include "Desktop.h"
 
 #include <tageditor/artwork/ArtworkTag.h>
-#include <tageditor/TagWriter.h>
+#include <tageditor/tracks/TagWriter.h>
 
-#include <ZEVGlobalUtils/Platform/ZEVUserDefaults.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVUserDefaults.h>
 
 #include <QSettings>
 

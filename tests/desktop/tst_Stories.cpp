@@ -4,7 +4,7 @@
 #include "../tageditor/Samples.h"
 #include "Desktop.h"
 
-#include <tageditor/TagWriter.h>
+#include <tageditor/tracks/TagWriter.h>
 
 #include <fileref.h>
 #include <tag.h>

@@ -22,16 +22,25 @@ QString contents(const QString &path)
     return file.open(QFile::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-/// Which rooms each room may include, from the one table.
+/// Which rooms each room may include, from the one table; the name of a box stands for the rooms in it.
 Rooms allowedRooms()
 {
-    Rooms rooms;
+    Rooms table;
     for (const QString &line : contents(Root + u"/ZEVGlobalUtils/Rooms.txt"_s).split(u'\n')) {
         const qsizetype colon = line.indexOf(u':');
         if (line.startsWith(u'#') || colon < 0)
             continue;
         const QStringList names = QString(line).remove(colon, 1).simplified().split(u' '); // itself, too
-        rooms[names.first()] = QSet<QString>(names.begin(), names.end());
+        table[names.first()] = QSet<QString>(names.begin(), names.end());
+    }
+    Rooms rooms;
+    for (auto room = table.cbegin(); room != table.cend(); ++room) {
+        for (const QString &name : room.value()) {
+            for (auto inner = table.keyBegin(); inner != table.keyEnd(); ++inner) {
+                if (*inner == name || inner->startsWith(name + u'/'))
+                    rooms[room.key()].insert(*inner);
+            }
+        }
     }
     return rooms;
 }
@@ -40,7 +49,7 @@ Rooms allowedRooms()
 QStringList forbiddenIncludes(const QString &text, const QString &room, const Rooms &allowed)
 {
     static const QRegularExpression include(
-        u"^\\s*#\\s*include\\s*[<\"](?:\\.\\./)*(?:ZEVGlobalUtils/)?(\\w+)/"_s,
+        u"^\\s*#\\s*include\\s*[<\"](?:\\.\\./)*(?:ZEVGlobalUtils/)?(\\w+(?:/\\w+)?)/"_s,
         QRegularExpression::MultilineOption);
     QStringList forbidden;
     for (auto match = include.globalMatch(text); match.hasNext();) {
@@ -49,6 +58,13 @@ QStringList forbiddenIncludes(const QString &text, const QString &room, const Ro
             forbidden.append(target);
     }
     return forbidden;
+}
+
+/// The folder of a source of the library, as the table names it.
+QString roomOfSource(const QString &path)
+{
+    const QString inside = QString(path).remove(0, (Root + u"/ZEVGlobalUtils/"_s).size());
+    return inside.left(inside.lastIndexOf(u'/'));
 }
 
 QStringList sources(const QString &folder)
@@ -71,7 +87,8 @@ private Q_SLOTS:
         const std::tuple<QString, QString> rows[] = {
             {u"#include <ZEVGlobalUtils/FindEngine/X.h>"_s, u"FindEngine"_s},
             {u" # include \"../FindEngine/X.h\""_s, u"FindEngine"_s},
-            {u"#include <ZEVGlobalUtils/Platform/X.h>"_s, {}},
+            {u"#include <ZEVGlobalUtils/FindPanel/MenuFilter/X.h>"_s, u"FindPanel/MenuFilter"_s},
+            {u"#include <ZEVGlobalUtils/Platform/Text/X.h>"_s, {}},
             {u"#include <ZEVGlobalUtils/Transforms/X.h>"_s, {}},
             {u"#include <unicode/regex.h>"_s, {}},
         };
@@ -82,7 +99,7 @@ private Q_SLOTS:
     void theTableHasNoCircle()
     {
         Rooms left = allowedRooms();
-        QVERIFY(left.size() >= 8);
+        QVERIFY(left.size() > 15);
         while (!left.isEmpty()) {
             const QSet<QString> waiting(left.keyBegin(), left.keyEnd());
             left.removeIf([&](Rooms::iterator room) { return (room.value() & waiting).size() == 1; });
@@ -98,7 +115,7 @@ private Q_SLOTS:
         const QStringList paths = sources(u"/ZEVGlobalUtils"_s);
         QVERIFY(paths.size() > 20);
         for (const QString &path : paths) {
-            const QString text = contents(path), room = path.section(u'/', -2, -2);
+            const QString text = contents(path), room = roomOfSource(path);
             QVERIFY2(allowed.contains(room), qPrintable(path + u" is in no room of Rooms.txt"_s));
             COMPARE_ROW(path, forbiddenIncludes(text, room, allowed).join(u' '), QString());
             if (path.endsWith(u".h"_s) && !path.endsWith(u"_p.h"_s))

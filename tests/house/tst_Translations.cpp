@@ -3,7 +3,7 @@
 
 #include "../Rows.h"
 
-#include <ZEVGlobalUtils/Transforms/ZEVGlobalHelper.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 
 #include <QDirIterator>
 #include <QProcess>

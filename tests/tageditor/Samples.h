@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <tageditor/Track.h>
+#include <tageditor/tracks/Track.h>
 
 #include <QDir>
 #include <QFile>

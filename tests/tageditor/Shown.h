@@ -7,11 +7,11 @@
 
 #include <tageditor/find/FindInterfaces.h>
 #include <tageditor/find/TrackFind.h>
-#include <tageditor/MainWindow.h>
-#include <tageditor/SizeLabel.h>
+#include <tageditor/window/MainWindow.h>
+#include <tageditor/window/SizeLabel.h>
 
-#include <ZEVGlobalUtils/FindPanel/ZEVTokenField.h>
-#include <ZEVGlobalUtils/Platform/ZEVUserDefaults.h>
+#include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenField.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVUserDefaults.h>
 
 #include <QLabel>
 #include <QLineEdit>

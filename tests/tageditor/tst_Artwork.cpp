@@ -8,8 +8,8 @@
 #include <tageditor/artwork/ArtworkDock.h>
 #include <tageditor/artwork/ArtworkLimit.h>
 #include <tageditor/artwork/ArtworkTag.h>
-#include <tageditor/TagReader.h>
-#include <tageditor/TagWriter.h>
+#include <tageditor/tracks/TagReader.h>
+#include <tageditor/tracks/TagWriter.h>
 
 #include <ZEVGlobalUtils/ImageViews/ZEVDragImageView.h>
 

@@ -9,8 +9,8 @@
 #include <tageditor/files/FileNamePattern.h>
 #include <tageditor/files/RenameDialog.h>
 
-#include <ZEVGlobalUtils/Platform/ZEVAlert.h>
-#include <ZEVGlobalUtils/Platform/ZEVOpenPanel.h>
+#include <ZEVGlobalUtils/Platform/Questions/ZEVAlert.h>
+#include <ZEVGlobalUtils/Platform/Questions/ZEVOpenPanel.h>
 
 using namespace Qt::StringLiterals;
 

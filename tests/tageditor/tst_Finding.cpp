@@ -8,7 +8,7 @@
 #include <tageditor/inspector/CommentEdit.h>
 #include <tageditor/inspector/Inspector.h>
 #include <tageditor/inspector/TagField.h>
-#include <tageditor/TagReader.h>
+#include <tageditor/tracks/TagReader.h>
 
 #include <QApplication>
 #include <QComboBox>

@@ -3,7 +3,7 @@
 
 #include "Samples.h"
 
-#include <tageditor/FolderReader.h>
+#include <tageditor/tracks/FolderReader.h>
 
 #include <QSignalSpy>
 #include <QTest>

@@ -3,9 +3,9 @@
 
 #include "Shown.h"
 
-#include <tageditor/TagReader.h>
-#include <tageditor/TagWriter.h>
-#include <tageditor/Translations.h>
+#include <tageditor/tracks/TagReader.h>
+#include <tageditor/tracks/TagWriter.h>
+#include <tageditor/window/Translations.h>
 
 #include <QApplication>
 #include <QHeaderView>

@@ -6,8 +6,8 @@
 
 #include <tageditor/files/RenameDialog.h>
 #include <tageditor/find/FindPanelDialog.h>
-#include <tageditor/TransformDialog.h>
-#include <tageditor/Translations.h>
+#include <tageditor/text/TransformDialog.h>
+#include <tageditor/window/Translations.h>
 
 #include <QApplication>
 #include <QDialogButtonBox>

@@ -4,7 +4,7 @@
 #include "Shown.h"
 
 #include <tageditor/inspector/Inspector.h>
-#include <tageditor/ProgressView.h>
+#include <tageditor/window/ProgressView.h>
 
 #include <ZEVGlobalUtils/Transforms/FileSizeTransformer.h>
 

@@ -3,9 +3,9 @@
 
 #include "Shown.h"
 
-#include <tageditor/QuickOpen.h>
+#include <tageditor/window/QuickOpen.h>
 
-#include <ZEVGlobalUtils/FindPanel/ZEVHighlightDelegate.h>
+#include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVHighlightDelegate.h>
 
 #include <QListView>
 

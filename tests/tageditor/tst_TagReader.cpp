@@ -3,7 +3,7 @@
 
 #include "Samples.h"
 
-#include <tageditor/TagReader.h>
+#include <tageditor/tracks/TagReader.h>
 
 #include <QTest>
 

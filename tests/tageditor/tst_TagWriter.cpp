@@ -3,8 +3,8 @@
 
 #include "Samples.h"
 
-#include <tageditor/TagReader.h>
-#include <tageditor/TagWriter.h>
+#include <tageditor/tracks/TagReader.h>
+#include <tageditor/tracks/TagWriter.h>
 
 #include <QTemporaryDir>
 #include <QTest>

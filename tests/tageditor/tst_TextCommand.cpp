@@ -3,8 +3,8 @@
 
 #include "Samples.h"
 
-#include <tageditor/TableSelection.h>
-#include <tageditor/TextCommand.h>
+#include <tageditor/text/TextCommand.h>
+#include <tageditor/tracks/TableSelection.h>
 
 #include <QItemSelectionModel>
 #include <QSignalSpy>

@@ -3,7 +3,7 @@
 
 #include "Shown.h"
 
-#include <tageditor/TransformDialog.h>
+#include <tageditor/text/TransformDialog.h>
 
 #include <QComboBox>
 #include <QWindow>

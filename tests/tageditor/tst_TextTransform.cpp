@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <tageditor/TextDifference.h>
-#include <tageditor/TransformPreviewModel.h>
+#include <tageditor/text/TextDifference.h>
+#include <tageditor/text/TransformPreviewModel.h>
 
-#include <ZEVGlobalUtils/FindPanel/ZEVHighlightDelegate.h>
+#include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVHighlightDelegate.h>
 
 #include <QSignalSpy>
 #include <QTest>

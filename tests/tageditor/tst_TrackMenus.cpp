@@ -6,9 +6,9 @@
 #include <tageditor/menus/GenreMenu.h>
 #include <tageditor/menus/TrackMenus.h>
 
-#include <ZEVGlobalUtils/Menus/ZEVMenuItem.h>
-#include <ZEVGlobalUtils/Menus/ZEVURLPopUpButton.h>
-#include <ZEVGlobalUtils/Platform/ZEVOpenPanel.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
+#include <ZEVGlobalUtils/Menus/Locations/ZEVURLPopUpButton.h>
+#include <ZEVGlobalUtils/Platform/Questions/ZEVOpenPanel.h>
 
 using namespace Qt::StringLiterals;
 

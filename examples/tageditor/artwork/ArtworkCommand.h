@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <tageditor/TrackTableModel.h>
+#include <tageditor/tracks/TrackTableModel.h>
 
 #include <QUndoCommand>
 

@@ -9,7 +9,7 @@
 #include <ZEVGlobalUtils/Images/ZEVImageDescription.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDashView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDragImageView.h>
-#include <ZEVGlobalUtils/Menus/ZEVObjectUserDefaultsBindings.h>
+#include <ZEVGlobalUtils/Menus/Observing/ZEVObjectUserDefaultsBindings.h>
 
 #include <QCheckBox>
 #include <QFormLayout>

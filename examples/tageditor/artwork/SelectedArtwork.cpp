@@ -4,8 +4,8 @@
 #include <tageditor/artwork/SelectedArtwork.h>
 
 #include <tageditor/artwork/ArtworkTag.h>
-#include <tageditor/TableSelection.h>
-#include <tageditor/TrackTableModel.h>
+#include <tageditor/tracks/TableSelection.h>
+#include <tageditor/tracks/TrackTableModel.h>
 
 #include <QCoreApplication>
 #include <QItemSelectionModel>

@@ -4,13 +4,13 @@
 #include <tageditor/files/FileActions.h>
 
 #include <tageditor/files/RenameDialog.h>
-#include <tageditor/ProgressView.h>
-#include <tageditor/TableSelection.h>
-#include <tageditor/TextEditing.h>
-#include <tageditor/TrackTableModel.h>
+#include <tageditor/text/TextEditing.h>
+#include <tageditor/tracks/TableSelection.h>
+#include <tageditor/tracks/TrackTableModel.h>
+#include <tageditor/window/ProgressView.h>
 
-#include <ZEVGlobalUtils/Platform/ZEVFileURL.h>
-#include <ZEVGlobalUtils/Platform/ZEVOpenPanel.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
+#include <ZEVGlobalUtils/Platform/Questions/ZEVOpenPanel.h>
 
 #include <QAction>
 #include <QMenu>

@@ -3,11 +3,11 @@
 
 #include <tageditor/files/FileBatch.h>
 
-#include <tageditor/TagReader.h>
+#include <tageditor/tracks/TagReader.h>
 
 #include <ZEVGlobalUtils/Files/ZEVErrorFileErrorHelpers.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileErrors.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileURL.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileErrors.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
 
 #include <QCoreApplication>
 #include <QFile>

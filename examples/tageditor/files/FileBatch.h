@@ -6,7 +6,7 @@
 #include <tageditor/files/FileJournal.h>
 
 #include <ZEVGlobalUtils/Files/ZEVFileManager.h>
-#include <ZEVGlobalUtils/Platform/ZEVError.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVError.h>
 
 #include <QObject>
 

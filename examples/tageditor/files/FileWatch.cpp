@@ -3,8 +3,8 @@
 
 #include <tageditor/files/FileWatch.h>
 
-#include <tageditor/TagReader.h>
-#include <tageditor/TrackTableModel.h>
+#include <tageditor/tracks/TagReader.h>
+#include <tageditor/tracks/TrackTableModel.h>
 
 #include <QGuiApplication>
 #include <QPointer>

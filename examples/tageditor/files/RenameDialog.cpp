@@ -4,9 +4,9 @@
 #include <tageditor/files/RenameDialog.h>
 
 #include <tageditor/files/FileNamePattern.h>
-#include <tageditor/PreviewTable.h>
+#include <tageditor/text/PreviewTable.h>
 
-#include <ZEVGlobalUtils/Platform/ZEVUserDefaults.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVUserDefaults.h>
 
 #include <QDialogButtonBox>
 #include <QLabel>

@@ -5,7 +5,7 @@
 
 #include <tageditor/files/FileNamePattern.h>
 
-#include <ZEVGlobalUtils/Platform/ZEVFileURL.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
 
 #include <QFont>
 #include <QSet>

@@ -4,8 +4,8 @@
 #pragma once
 
 #include <tageditor/files/FileJournal.h>
-#include <tageditor/PreviewModel.h>
-#include <tageditor/Track.h>
+#include <tageditor/text/PreviewModel.h>
+#include <tageditor/tracks/Track.h>
 
 #include <vector>
 

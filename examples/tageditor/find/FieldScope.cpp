@@ -3,7 +3,7 @@
 
 #include <tageditor/find/FieldScope.h>
 
-#include <tageditor/TrackTableModel.h>
+#include <tageditor/tracks/TrackTableModel.h>
 
 #include <QCoreApplication>
 

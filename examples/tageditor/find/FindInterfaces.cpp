@@ -6,7 +6,7 @@
 #include <tageditor/find/FieldScope.h>
 #include <tageditor/find/TagTokens.h>
 
-#include <ZEVGlobalUtils/FindPanel/ZEVTokenField.h>
+#include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenField.h>
 
 #include <QMenu>
 #include <QPushButton>

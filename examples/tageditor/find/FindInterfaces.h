@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/FindPanel/ZEVFindPanelQueryParamsController.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVTextFinderViewController.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFindPanelQueryParamsController.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderViewController.h>
 
 /// The library's find bar with the tokens of this application.
 class FindBar : public ZEVTextFinderViewController {

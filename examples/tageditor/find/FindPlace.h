@@ -5,7 +5,7 @@
 
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderActor.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVFindBarContainerView.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFindBarContainerView.h>
 
 class FindBar;
 

@@ -3,7 +3,7 @@
 
 #include <tageditor/find/ReplaceDialog.h>
 
-#include <tageditor/PreviewTable.h>
+#include <tageditor/text/PreviewTable.h>
 
 #include <QDialogButtonBox>
 #include <QHeaderView>

@@ -3,11 +3,11 @@
 
 #include <tageditor/find/ReplacePreviewModel.h>
 
-#include <tageditor/Track.h>
-#include <tageditor/TrackTableModel.h>
+#include <tageditor/tracks/Track.h>
+#include <tageditor/tracks/TrackTableModel.h>
 
-#include <ZEVGlobalUtils/FindPanel/ZEVHighlightDelegate.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVItemModelFinderClient.h>
+#include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVHighlightDelegate.h>
+#include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVItemModelFinderClient.h>
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <tageditor/PreviewModel.h>
+#include <tageditor/text/PreviewModel.h>
 
 #include <ZEVGlobalUtils/FindEngine/ZEVReplacementPreview.h>
 

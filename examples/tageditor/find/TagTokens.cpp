@@ -3,7 +3,7 @@
 
 #include <tageditor/find/TagTokens.h>
 
-#include <tageditor/TrackTableModel.h>
+#include <tageditor/tracks/TrackTableModel.h>
 
 using namespace Qt::StringLiterals;
 

@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include <tageditor/Track.h>
+#include <tageditor/tracks/Track.h>
 
-#include <ZEVGlobalUtils/FindPanel/ZEVPatternTokens.h>
+#include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVPatternTokens.h>
 
 #include <optional>
 

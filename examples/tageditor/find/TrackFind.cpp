@@ -8,12 +8,12 @@
 #include <tageditor/find/FindPanelDialog.h>
 #include <tageditor/find/ReplaceDialog.h>
 #include <tageditor/find/TagTokens.h>
-#include <tageditor/TextEditing.h>
-#include <tageditor/TrackTableModel.h>
+#include <tageditor/text/TextEditing.h>
+#include <tageditor/tracks/TrackTableModel.h>
 
 #include <ZEVGlobalUtils/FindEngine/ZEVOrvCaptureMatch.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVMatchHighlightDelegate.h>
-#include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
+#include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVMatchHighlightDelegate.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
 
 #include <QTableView>
 

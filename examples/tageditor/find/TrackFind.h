@@ -4,9 +4,9 @@
 #pragma once
 
 #include <tageditor/find/FindPlace.h>
-#include <tageditor/Track.h>
+#include <tageditor/tracks/Track.h>
 
-#include <ZEVGlobalUtils/FindPanel/ZEVItemModelFinderClient.h>
+#include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVItemModelFinderClient.h>
 
 class FindPanelDialog;
 class QTableView;

@@ -5,9 +5,9 @@
 
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderAction.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVFindBarContainerView.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVFindPanelQueryParamsController.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVTextFinderUserInterfaceVC.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFindBarContainerView.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFindPanelQueryParamsController.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderUserInterfaceVC.h>
 
 #include <QGroupBox>
 #include <QPlainTextEdit>

@@ -3,8 +3,8 @@
 
 #include <tageditor/gallery/LayoutPage.h>
 
-#include <ZEVGlobalUtils/Menus/ZEVPopoverShowInSender.h>
-#include <ZEVGlobalUtils/Menus/ZEVViewEasyConstraints.h>
+#include <ZEVGlobalUtils/Menus/Layout/ZEVPopoverShowInSender.h>
+#include <ZEVGlobalUtils/Menus/Layout/ZEVViewEasyConstraints.h>
 
 #include <QGridLayout>
 #include <QLabel>

@@ -5,10 +5,10 @@
 
 #include <ZEVGlobalUtils/FindEngine/ZEVArrayPatternDisplaySupport.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVPatternItem.h>
-#include <ZEVGlobalUtils/Menus/ZEVMenuItem.h>
-#include <ZEVGlobalUtils/Menus/ZEVMenuItemBlockAdditions.h>
-#include <ZEVGlobalUtils/Menus/ZEVMenuItemHeadings.h>
-#include <ZEVGlobalUtils/Menus/ZEVMenuItemRemoveAllFollowing.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuItemBlockAdditions.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuItemHeadings.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuItemRemoveAllFollowing.h>
 
 #include <QHBoxLayout>
 #include <QMenu>

@@ -3,7 +3,7 @@
 
 #include <tageditor/gallery/TextTransformsPage.h>
 
-#include <tageditor/TextTransform.h>
+#include <tageditor/text/TextTransform.h>
 
 #include <QHeaderView>
 #include <QTableWidget>

@@ -5,14 +5,14 @@
 
 #include <tageditor/find/TagTokens.h>
 
-#include <ZEVGlobalUtils/FindPanel/OEXTokenFieldCell.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVFilterSearchFieldCell.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVFocusTokenFieldCell.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVGreenTokenAttachmentCell.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVPatternTokens.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVRoundTokenAttachmentCell.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVTextFinderBackgroundView.h>
-#include <ZEVGlobalUtils/FindPanel/ZEVTokenField.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFocusTokenFieldCell.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderBackgroundView.h>
+#include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVFilterSearchFieldCell.h>
+#include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVPatternTokens.h>
+#include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenField.h>
+#include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenFieldCell.h>
+#include <ZEVGlobalUtils/FindPanel/TokenFields/ZEVGreenTokenAttachmentCell.h>
+#include <ZEVGlobalUtils/FindPanel/TokenFields/ZEVRoundTokenAttachmentCell.h>
 
 #include <QFormLayout>
 #include <QLabel>

@@ -4,7 +4,7 @@
 #include <tageditor/inspector/CommentEdit.h>
 
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
-#include <ZEVGlobalUtils/Menus/ZEVMenuItem.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
 
 #include <QAction>
 

@@ -6,11 +6,11 @@
 #include <tageditor/find/TagTokens.h>
 #include <tageditor/inspector/CommentEdit.h>
 #include <tageditor/inspector/TagField.h>
-#include <tageditor/TableSelection.h>
-#include <tageditor/TextEditing.h>
-#include <tageditor/TrackTableModel.h>
+#include <tageditor/text/TextEditing.h>
+#include <tageditor/tracks/TableSelection.h>
+#include <tageditor/tracks/TrackTableModel.h>
 
-#include <ZEVGlobalUtils/FindPanel/ZEVTextEditFinderClient.h>
+#include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVTextEditFinderClient.h>
 #include <ZEVGlobalUtils/Transforms/FileSizeTransformer.h>
 #include <ZEVGlobalUtils/Transforms/ZEVShortDateFormatter.h>
 

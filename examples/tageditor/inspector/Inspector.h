@@ -4,7 +4,7 @@
 #pragma once
 
 #include <tageditor/find/FindPlace.h>
-#include <tageditor/Track.h>
+#include <tageditor/tracks/Track.h>
 
 #include <QTimer>
 #include <QVariantList>

@@ -3,7 +3,7 @@
 
 #include <tageditor/inspector/TagField.h>
 
-#include <ZEVGlobalUtils/FindPanel/ZEVPatternTokens.h>
+#include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVPatternTokens.h>
 
 #include <QFocusEvent>
 #include <QMenu>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/FindPanel/ZEVTokenField.h>
+#include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenField.h>
 
 class ZEVPatternTokens;
 

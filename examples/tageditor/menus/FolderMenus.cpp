@@ -3,10 +3,10 @@
 
 #include <tageditor/menus/FolderMenus.h>
 
-#include <ZEVGlobalUtils/Menus/ZEVMenuItemRemoveAllFollowing.h>
-#include <ZEVGlobalUtils/Menus/ZEVMenuRecents.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileReference.h>
-#include <ZEVGlobalUtils/Platform/ZEVOpenPanel.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuItemRemoveAllFollowing.h>
+#include <ZEVGlobalUtils/Menus/Locations/ZEVMenuRecents.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileReference.h>
+#include <ZEVGlobalUtils/Platform/Questions/ZEVOpenPanel.h>
 
 #include <QMenu>
 #include <QToolBar>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/Menus/ZEVURLPopUpButton.h>
+#include <ZEVGlobalUtils/Menus/Locations/ZEVURLPopUpButton.h>
 
 #include <QObject>
 

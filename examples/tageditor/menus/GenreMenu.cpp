@@ -3,11 +3,11 @@
 
 #include <tageditor/menus/GenreMenu.h>
 
-#include <tageditor/NaturalOrder.h>
+#include <tageditor/tracks/NaturalOrder.h>
 
-#include <ZEVGlobalUtils/FindPanel/ZEVMenuFilterClient.h>
-#include <ZEVGlobalUtils/Menus/ZEVMenuItem.h>
-#include <ZEVGlobalUtils/Menus/ZEVMenuItemBlockAdditions.h>
+#include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVMenuFilterClient.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuItemBlockAdditions.h>
 
 #include <QLineEdit>
 #include <QWidgetAction>

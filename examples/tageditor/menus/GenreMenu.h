@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/FindPanel/ZEVMenuFilterViewController.h>
+#include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVMenuFilterViewController.h>
 
 #include <QMenu>
 

@@ -4,12 +4,12 @@
 #include <tageditor/menus/TrackMenus.h>
 
 #include <tageditor/menus/GenreMenu.h>
-#include <tageditor/TableSelection.h>
-#include <tageditor/TextEditing.h>
-#include <tageditor/TrackTableModel.h>
+#include <tageditor/text/TextEditing.h>
+#include <tageditor/tracks/TableSelection.h>
+#include <tageditor/tracks/TrackTableModel.h>
 
-#include <ZEVGlobalUtils/Menus/ZEVWorkspaceOpenWithMenu.h>
-#include <ZEVGlobalUtils/Platform/ZEVFileURL.h>
+#include <ZEVGlobalUtils/Menus/Locations/ZEVWorkspaceOpenWithMenu.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
 
 #include <QMenuBar>
 #include <QSet>

@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/FindEngine/ZEVFindPanelQuery.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVPatternItem.h>
-#include <ZEVGlobalUtils/Platform/ZEVRegularExpression.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
 
 #include <cstdio>
 

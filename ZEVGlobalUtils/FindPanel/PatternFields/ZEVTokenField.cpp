@@ -1,0 +1,257 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenField.h>
+
+#include <ZEVGlobalUtils/FindPanel/PatternFields/PatternConversion_p.h>
+#include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenFieldCell.h>
+#include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenTextStorage.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVUserDefaults.h>
+
+#include <QKeyEvent>
+#include <QMenu>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+PatternConversion::Fidelity fidelity(bool lossless)
+{
+    return lossless ? PatternConversion::Fidelity::Lossless : PatternConversion::Fidelity::AsDescribed;
+}
+
+/// The key for inserting a token: Ctrl with plus, or with the key that has the plus on its shift level.
+bool asksForMenu(const QKeyEvent &event)
+{
+    const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    if (modifiers == Qt::ControlModifier)
+        return event.key() == Qt::Key_Plus || event.key() == Qt::Key_Equal;
+    return modifiers == (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)
+        && event.key() == Qt::Key_P;
+}
+
+/// Nothing for a value of another type, whoever stored it.
+QStringList storedStrings(const QVariant &value)
+{
+    return value.typeId() == QMetaType::QStringList || value.typeId() == QMetaType::QVariantList
+        ? value.toStringList()
+        : QStringList();
+}
+
+} // namespace
+
+ZEVTokenField::ZEVTokenField(QWidget *parent)
+    : ZEVTokenField(std::make_unique<ZEVTokenFieldCell>(), parent)
+{
+}
+
+ZEVTokenField::ZEVTokenField(std::unique_ptr<ZEVTokenFieldCell> cell, QWidget *parent)
+    : OEXTokenField(std::move(cell), parent)
+{
+    setTokenizingCharacterSet(u"%"_s);
+    setUpMenus();
+    connect(this, &OEXTokenField::objectValueChanged, this, &ZEVTokenField::patternStringValueChanged);
+}
+
+ZEVTokenField::~ZEVTokenField() = default;
+
+void ZEVTokenField::setAutosaveName(const QString &name)
+{
+    m_autosaveName = name;
+    if (!name.isEmpty())
+        loadDefaults();
+}
+
+QString ZEVTokenField::patternsDefaultsKey() const { return m_autosaveName + u".recentPatterns"; }
+
+void ZEVTokenField::loadDefaults()
+{
+    if (m_autosaveName.isEmpty())
+        return;
+    const ZEVUserDefaults *defaults = ZEVUserDefaults::standardUserDefaults();
+    const QVariant lastUsed = defaults->objectForKey(lastUsedPatternDefaultsKey());
+    setPatternStringValue(lastUsed.typeId() == QMetaType::QString ? lastUsed.toString() : QString());
+    setPatterns(storedStrings(defaults->objectForKey(patternsDefaultsKey())));
+}
+
+void ZEVTokenField::saveDefaults()
+{
+    if (m_autosaveName.isEmpty())
+        return;
+    ZEVUserDefaults *defaults = ZEVUserDefaults::standardUserDefaults();
+    defaults->setObject(patternStringValue(), lastUsedPatternDefaultsKey());
+    defaults->setObject(m_patternsSet, patternsDefaultsKey());
+}
+
+QString ZEVTokenField::patternStringValue() const { return patternStringForConversionPattern(objectValue()); }
+
+void ZEVTokenField::setPatternStringValue(const QString &patternString)
+{
+    setObjectValue(conversionPatternForPatternString(patternString));
+}
+
+QString ZEVTokenField::patternStringForConversionPattern(const QVariantList &pattern) const
+{
+    return PatternConversion::patternString(pattern, [this](const QVariant &object) {
+        return delegate() ? delegate()->editingStringForRepresentedObject(this, object) : std::nullopt;
+    });
+}
+
+QVariantList ZEVTokenField::conversionPatternForPatternString(const QString &patternString) const
+{
+    return PatternConversion::pattern(
+        patternString, [this](const QString &text) { return objectForEditingString(text); },
+        fidelity(m_lossless));
+}
+
+QVariant ZEVTokenField::objectForEditingString(const QString &editingString) const
+{
+    return delegate() ? delegate()->representedObjectForEditingString(this, editingString) : QVariant();
+}
+
+/// Tokens that have become text elsewhere are tokens again here; nothing else of the text changes.
+QVariantList ZEVTokenField::objectsForPastedText(const QString &text) const
+{
+    return PatternConversion::pattern(
+        OEXTokenTextStorage::singleLine(text),
+        [this](const QString &editingString) { return objectForEditingString(editingString); },
+        PatternConversion::Fidelity::Lossless);
+}
+
+void ZEVTokenField::setPatterns(const QStringList &patterns)
+{
+    m_patternsSet = patterns;
+    m_patternsSet.removeDuplicates();
+}
+
+/// A pattern that is saved again moves to the end.
+void ZEVTokenField::addPatternToSaved(const QVariantList &pattern)
+{
+    if (pattern.isEmpty())
+        return;
+    const QString patternString = patternStringForConversionPattern(pattern).trimmed();
+    m_patternsSet.removeAll(patternString);
+    m_patternsSet.append(patternString);
+    saveDefaults();
+}
+
+void ZEVTokenField::insertToken(const QVariant &token)
+{
+    if (!isBeingEdited())
+        setFocus();
+    const ZEVRange selection = selectedRange();
+    const auto edited = PatternConversion::insertedToken(
+        token, objectValue(), selection.location, selection.length,
+        [this](const QString &text) { return objectForEditingString(text); }, fidelity(m_lossless));
+    setObjectValue(edited.objects);
+    setSelectedRange({edited.caret, 0});
+    ensureCursorVisible();
+}
+
+QTextEdit *ZEVTokenField::ensureFieldEditor()
+{
+    if (!isBeingEdited())
+        setFocus();
+    // The window may be inactive: the field has its focus all the same.
+    return window()->focusWidget() == this ? this : nullptr;
+}
+
+void ZEVTokenField::moveEditorCaretToEndOfStringIfNeeded()
+{
+    if (!isBeingEdited())
+        return;
+    setSelectedRange({textStorage()->length(), 0});
+    ensureCursorVisible();
+}
+
+void ZEVTokenField::insertNewline() { sendAction(); }
+
+void ZEVTokenField::clear()
+{
+    setFocus();
+    textStorage()->replaceCharactersInRange({0, textStorage()->length()}, QString());
+    sendAction();
+}
+
+void ZEVTokenField::savePattern() { addPatternToSaved(objectValue()); }
+
+void ZEVTokenField::removePattern()
+{
+    m_patternsSet.removeAll(patternStringValue());
+    // Kept: what then stands in the field is the text of the first pattern, not its tokens.
+    setObjectValue(m_patternsSet.isEmpty() ? QVariantList() : QVariantList{m_patternsSet.first()});
+    saveDefaults();
+}
+
+bool ZEVTokenField::performCommand(ZEVTextCommand command)
+{
+    switch (command) {
+    case ZEVTextCommand::InsertNewline:
+        insertNewline();
+        return true;
+    case ZEVTextCommand::MoveDown:
+        moveDown();
+        return true;
+    case ZEVTextCommand::InsertNewlineBackward:
+    case ZEVTextCommand::CancelOperation:
+        return false;
+    }
+    return false;
+}
+
+bool ZEVTokenField::event(QEvent *event)
+{
+    // Before a shortcut of the window takes the key.
+    if (event->type() == QEvent::ShortcutOverride && isBeingEdited()
+        && asksForMenu(*static_cast<QKeyEvent *>(event))) {
+        event->accept();
+        return true;
+    }
+    if (event->type() == QEvent::Show)
+        watchWindow();
+    return OEXTokenField::event(event);
+}
+
+void ZEVTokenField::watchWindow()
+{
+    if (m_watchedWindow == window())
+        return;
+    if (m_watchedWindow)
+        m_watchedWindow->removeEventFilter(this);
+    m_watchedWindow = window();
+    m_watchedWindow->installEventFilter(this);
+}
+
+bool ZEVTokenField::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Close && watched == window())
+        saveDefaults();
+    return OEXTokenField::eventFilter(watched, event);
+}
+
+void ZEVTokenField::keyPressEvent(QKeyEvent *event)
+{
+    if (isBeingEdited() && asksForMenu(*event))
+        popUpMenu();
+    else
+        OEXTokenField::keyPressEvent(event);
+}
+
+void ZEVTokenField::focusInEvent(QFocusEvent *event)
+{
+    OEXTokenField::focusInEvent(event);
+    if (event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason
+        || event->reason() == Qt::MouseFocusReason)
+        return; // the caret stays, or goes where the user clicks
+    if (m_selectsTextWhenFocused)
+        selectAll();
+    else
+        moveEditorCaretToEndOfStringIfNeeded();
+}
+
+void ZEVTokenField::focusOutEvent(QFocusEvent *event)
+{
+    OEXTokenField::focusOutEvent(event);
+    if (event->reason() != Qt::PopupFocusReason)
+        saveDefaults();
+}

@@ -1,0 +1,130 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenFieldCellDelegate.h>
+#include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenFieldDelegate.h>
+#include <ZEVGlobalUtils/FindPanel/TokenFields/ZEVSelectedRanges.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVControlSize.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVWeakRef.h>
+
+#include <QTextEdit>
+
+class OEXTokenFieldCell;
+class OEXTokenTextStorage;
+
+/// A line edit that holds tokens beside its text. It is its own editor: what the user types is the value at
+/// once. A token is one character for the caret, the keys and the selection; copied tokens stay tokens in
+/// other fields and become text elsewhere; a screen reader hears their titles.
+class ZEV_EXPORT OEXTokenField : public QTextEdit,
+                                 public OEXTokenFieldCellDelegate,
+                                 public ZEVSelectedRanges {
+    Q_OBJECT
+    Q_PROPERTY(QVariantList objectValue READ objectValue WRITE setObjectValue NOTIFY objectValueChanged)
+    Q_PROPERTY(QString stringValue READ stringValue NOTIFY objectValueChanged)
+    Q_PROPERTY(bool bezeled READ isBezeled WRITE setBezeled)
+
+public:
+    explicit OEXTokenField(QWidget *parent = nullptr);
+    ~OEXTokenField() override;
+
+    OEXTokenFieldDelegate *delegate() const { return m_delegate.get(); }
+    void setDelegate(ZEVWeakRef<OEXTokenFieldDelegate> delegate);
+
+    OEXTokenFieldCell *cell() const { return m_cell.get(); }
+    /// \a cell takes over the settings and the value of the one that it replaces.
+    void setCell(std::unique_ptr<OEXTokenFieldCell> cell);
+
+    /// What stands in the field, in order: a QString for a stretch of text, any other object for a token.
+    /// Setting it is one step for undo.
+    QVariantList objectValue() const;
+    void setObjectValue(const QVariantList &objects);
+
+    /// The text with the title of every token in its place.
+    QString stringValue() const;
+
+    /// Whether the field draws the frame of a line edit.
+    bool isBezeled() const;
+    void setBezeled(bool bezeled);
+    ZEVControlSize controlSize() const;
+    void setControlSize(ZEVControlSize size);
+
+    /// Typing one of these behind the editing string of a token makes it that token; none at first.
+    const QString &tokenizingCharacterSet() const { return m_tokenizingCharacters; }
+    void setTokenizingCharacterSet(const QString &characters) { m_tokenizingCharacters = characters; }
+
+    OEXTokenTextStorage *textStorage() const;
+    bool isBeingEdited() const { return hasFocus() && !isReadOnly(); }
+    ZEVRange selectedRange() const;
+    void setSelectedRange(ZEVRange range);
+    QList<ZEVRange> selectedRanges() const override { return {selectedRange()}; }
+
+    /// Selects the token at \a index, which the user has clicked.
+    void clickedOnCellAtIndex(qsizetype index);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+    bool showsTokenForRepresentedObject(const OEXTokenFieldCell *cell, const QVariant &object) const override;
+    std::unique_ptr<ZEVTextAttachmentCell>
+    attachmentCellForRepresentedObject(const OEXTokenFieldCell *cell, const QVariant &object) const override;
+    std::optional<QString> displayStringForRepresentedObject(const OEXTokenFieldCell *cell,
+                                                             const QVariant &object) const override;
+
+Q_SIGNALS:
+    /// The value is another one, by typing or by program.
+    void objectValueChanged();
+    /// The user asks for what the field is there for, by Return.
+    void actionTriggered();
+
+protected:
+    OEXTokenField(std::unique_ptr<OEXTokenFieldCell> cell, QWidget *parent);
+
+    /// What a pasted \a text is in this field.
+    virtual QVariantList objectsForPastedText(const QString &text) const;
+
+    /// False passes the key on to the window.
+    virtual bool performCommand(ZEVTextCommand command);
+
+    void sendAction() { Q_EMIT actionTriggered(); }
+
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    bool canInsertFromMimeData(const QMimeData *source) const override;
+    void insertFromMimeData(const QMimeData *source) override;
+    QMimeData *createMimeDataFromSelection() const override;
+
+private:
+    void setUp();
+    void setUpText();
+    void rebuildText();
+    void takeEditedText();
+    void layOutEditor();
+    void updateFonts();
+    void insertObjects(const QVariantList &objects);
+    bool doCommand(ZEVTextCommand command);
+    bool moveByWord(QKeyEvent *event);
+    bool endsToken(const QKeyEvent &event) const;
+    bool tokenizeBeforeCaret();
+    std::optional<qsizetype> tokenAt(QPoint position) const;
+    QPointF textOrigin() const;
+    qsizetype storageIndexOfLayoutIndex(qsizetype index) const;
+    void drawTokens(QPainter *painter, const QRect &area);
+    QString textFormOfObjects(const QVariantList &objects) const;
+
+    ZEVWeakRef<OEXTokenFieldDelegate> m_delegate;
+    std::unique_ptr<OEXTokenFieldCell> m_cell;
+    QString m_tokenizingCharacters;
+    std::optional<qsizetype> m_pressedToken;
+    bool m_settingValue = false;
+};

@@ -1,0 +1,178 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenTextStorage.h>
+
+#include <QTextBlock>
+#include <QTextCursor>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QTextCursor cursorOver(QTextDocument *document, ZEVRange range)
+{
+    const qsizetype length = document->characterCount() - 1;
+    QTextCursor cursor(document);
+    cursor.setPosition(int(qMin(range.location, length)));
+    cursor.setPosition(int(qMin(range.end(), length)), QTextCursor::KeepAnchor);
+    return cursor;
+}
+
+void insertText(QTextCursor &cursor, const ZEVAttributedString &text, ZEVRange range)
+{
+    const QString characters = text.string().mid(range.location, range.length);
+    cursor.insertText(OEXTokenTextStorage::singleLine(characters), QTextCharFormat());
+}
+
+void insertRuns(QTextCursor &cursor, const ZEVAttributedString &text)
+{
+    for (const ZEVTextAttachments::Run &run : ZEVTextAttachments::runs(text)) {
+        if (run.attachment)
+            cursor.insertText(ZEVTextAttachments::Character,
+                              ZEVTextAttachments::formatWithAttachment(run.attachment));
+        else
+            insertText(cursor, text, run.range);
+    }
+}
+
+/// One edit: undone in one step, and reported when it is whole.
+class Edit {
+public:
+    explicit Edit(const QTextCursor &cursor)
+        : m_cursor(cursor)
+    {
+        m_cursor.beginEditBlock();
+    }
+    ~Edit() { m_cursor.endEditBlock(); }
+    Q_DISABLE_COPY_MOVE(Edit)
+
+private:
+    QTextCursor m_cursor;
+};
+
+} // namespace
+
+OEXTokenTextStorageDelegate::~OEXTokenTextStorageDelegate() = default;
+void OEXTokenTextStorageDelegate::updateTokenAttachment(OEXTokenTextStorage *, ZEVTextAttachment *, ZEVRange)
+{
+}
+
+OEXTokenTextStorage::OEXTokenTextStorage(QObject *parent)
+    : QTextDocument(parent)
+{
+    // Whatever way a line break came in (an input method may commit one), the field has one line.
+    connect(this, &QTextDocument::blockCountChanged, this, &OEXTokenTextStorage::joinBlocks);
+}
+
+OEXTokenTextStorage::OEXTokenTextStorage(const ZEVAttributedString &text, QObject *parent)
+    : OEXTokenTextStorage(parent)
+{
+    replaceCharactersInRange({}, text);
+    clearUndoRedoStacks();
+}
+
+ZEVAttributedString OEXTokenTextStorage::attributedSubstring(ZEVRange range) const
+{
+    ZEVAttributedString text;
+    for (auto it = firstBlock().begin(); !it.atEnd(); ++it) {
+        const QTextFragment fragment = it.fragment();
+        const qsizetype start = qMax<qsizetype>(range.location, fragment.position());
+        const qsizetype end = qMin<qsizetype>(range.end(), fragment.position() + fragment.length());
+        if (start < end)
+            text.append(fragment.text().mid(start - fragment.position(), end - start), fragment.charFormat());
+    }
+    return text;
+}
+
+ZEVTextAttachmentPointer OEXTokenTextStorage::attachmentAtIndex(qsizetype index) const
+{
+    if (index < 0 || index >= length() || characterAt(int(index)) != ZEVTextAttachments::Character)
+        return nullptr;
+    return ZEVTextAttachments::attachmentOfFormat(attributesAtIndex(index));
+}
+
+QTextCharFormat OEXTokenTextStorage::attributesAtIndex(qsizetype index, ZEVRange *effectiveRange) const
+{
+    for (auto it = firstBlock().begin(); !it.atEnd(); ++it) {
+        const QTextFragment fragment = it.fragment();
+        if (!fragment.contains(int(index)))
+            continue;
+        if (effectiveRange)
+            *effectiveRange = {fragment.position(), fragment.length()};
+        return fragment.charFormat();
+    }
+    return {};
+}
+
+void OEXTokenTextStorage::replaceCharactersInRange(ZEVRange range, const QString &string)
+{
+    cursorOver(this, range).insertText(singleLine(string), QTextCharFormat());
+}
+
+void OEXTokenTextStorage::replaceCharactersInRange(ZEVRange range, const ZEVAttributedString &text)
+{
+    QTextCursor cursor = cursorOver(this, range);
+    const qsizetype start = cursor.selectionStart();
+    const Edit edit(cursor);
+    cursor.removeSelectedText();
+    insertRuns(cursor, text);
+    updateAttachments({start, cursor.position() - start});
+}
+
+void OEXTokenTextStorage::setAttributes(const QTextCharFormat &attributes, ZEVRange range)
+{
+    QTextCursor cursor = cursorOver(this, range);
+    const Edit edit(cursor);
+    cursor.setCharFormat(attributes);
+    if (const ZEVTextAttachmentPointer attachment = ZEVTextAttachments::attachmentOfFormat(attributes);
+        attachment && m_delegate) {
+        m_delegate->updateTokenAttachment(this, attachment.get(), range);
+    }
+}
+
+void OEXTokenTextStorage::removeAttribute(int property, ZEVRange range)
+{
+    const Edit edit(cursorOver(this, range));
+    for (qsizetype index = range.location; index < qMin(range.end(), length()); ++index) {
+        QTextCharFormat format = attributesAtIndex(index);
+        format.clearProperty(property);
+        cursorOver(this, {index, 1}).setCharFormat(format);
+    }
+}
+
+QString OEXTokenTextStorage::singleLine(QString text)
+{
+    text.replace("\r\n"_L1, " "_L1);
+    for (QChar &character : text) {
+        if (character == u'\n' || character == u'\r' || character == QChar::LineSeparator
+            || character == QChar::ParagraphSeparator)
+            character = u' ';
+    }
+    return text;
+}
+
+/// Called inside the edit, which is reported at its end.
+void OEXTokenTextStorage::updateAttachments(ZEVRange range)
+{
+    for (const ZEVTextAttachments::Run &run : ZEVTextAttachments::runs(attributedSubstring(range))) {
+        if (run.attachment && m_delegate)
+            m_delegate->updateTokenAttachment(this, run.attachment.get(),
+                                              {range.location + run.range.location, run.range.length});
+    }
+}
+
+void OEXTokenTextStorage::joinBlocks()
+{
+    if (blockCount() < 2)
+        return;
+    QTextCursor cursor(this);
+    cursor.joinPreviousEditBlock();
+    while (blockCount() > 1) {
+        cursor.movePosition(QTextCursor::Start);
+        cursor.movePosition(QTextCursor::EndOfBlock);
+        cursor.deleteChar();
+        cursor.insertText(u" "_s, QTextCharFormat());
+    }
+    cursor.endEditBlock();
+}

@@ -1,0 +1,164 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <ZEVGlobalUtils/FindPanel/TokenFields/TokenFieldAccessible_p.h>
+
+#include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenField.h>
+#include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenTextStorage.h>
+#include <ZEVGlobalUtils/FindPanel/TokenFields/ShownTokenText_p.h>
+
+namespace {
+
+QAccessibleInterface *makeAccessible(const QString &className, QObject *object)
+{
+    auto *field =
+        className == QLatin1StringView("OEXTokenField") ? qobject_cast<OEXTokenField *>(object) : nullptr;
+    return field ? new TokenFieldAccessible(field) : nullptr;
+}
+
+} // namespace
+
+void TokenFieldAccessible::install()
+{
+    [[maybe_unused]] static const bool installed = [] {
+        QAccessible::installFactory(makeAccessible);
+        return true;
+    }();
+}
+
+TokenFieldAccessible::TokenFieldAccessible(OEXTokenField *field)
+    : QAccessibleWidget(field, QAccessible::EditableText)
+{
+}
+
+OEXTokenField *TokenFieldAccessible::field() const { return qobject_cast<OEXTokenField *>(object()); }
+
+ShownTokenText TokenFieldAccessible::shownText() const { return ShownTokenText(*field()->textStorage()); }
+
+void *TokenFieldAccessible::interface_cast(QAccessible::InterfaceType type)
+{
+    if (type == QAccessible::TextInterface)
+        return static_cast<QAccessibleTextInterface *>(this);
+    if (type == QAccessible::EditableTextInterface)
+        return static_cast<QAccessibleEditableTextInterface *>(this);
+    return QAccessibleWidget::interface_cast(type);
+}
+
+QString TokenFieldAccessible::text(QAccessible::Text type) const
+{
+    if (type == QAccessible::Value)
+        return shownText().string();
+    const QString text = QAccessibleWidget::text(type);
+    return type == QAccessible::Name && text.isEmpty() ? field()->placeholderText() : text;
+}
+
+void TokenFieldAccessible::setText(QAccessible::Text type, const QString &text)
+{
+    if (type != QAccessible::Value)
+        QAccessibleWidget::setText(type, text);
+    else if (!field()->isReadOnly())
+        field()->textStorage()->replaceCharactersInRange({0, field()->textStorage()->length()}, text);
+}
+
+QAccessible::State TokenFieldAccessible::state() const
+{
+    QAccessible::State state = QAccessibleWidget::state();
+    state.editable = !field()->isReadOnly();
+    state.readOnly = field()->isReadOnly();
+    state.selectableText = true;
+    return state;
+}
+
+void TokenFieldAccessible::selection(int selectionIndex, int *startOffset, int *endOffset) const
+{
+    *startOffset = *endOffset = 0;
+    const ZEVRange range = field()->selectedRange();
+    if (selectionIndex != 0 || range.length == 0)
+        return;
+    const ShownTokenText shown = shownText();
+    *startOffset = int(shown.shownIndex(range.location));
+    *endOffset = int(shown.shownIndex(range.end()));
+}
+
+int TokenFieldAccessible::selectionCount() const { return field()->selectedRange().length > 0 ? 1 : 0; }
+
+void TokenFieldAccessible::addSelection(int startOffset, int endOffset)
+{
+    setSelection(0, startOffset, endOffset);
+}
+
+void TokenFieldAccessible::removeSelection(int selectionIndex)
+{
+    if (selectionIndex == 0)
+        field()->setSelectedRange({field()->selectedRange().end(), 0});
+}
+
+void TokenFieldAccessible::setSelection(int selectionIndex, int startOffset, int endOffset)
+{
+    if (selectionIndex == 0)
+        field()->setSelectedRange(shownText().storageRange(startOffset, endOffset));
+}
+
+int TokenFieldAccessible::cursorPosition() const
+{
+    return int(shownText().shownIndex(field()->textCursor().position()));
+}
+
+void TokenFieldAccessible::setCursorPosition(int position)
+{
+    field()->setSelectedRange({shownText().storageIndex(position), 0});
+}
+
+QString TokenFieldAccessible::text(int startOffset, int endOffset) const
+{
+    return shownText().string().mid(startOffset, endOffset - startOffset);
+}
+
+int TokenFieldAccessible::characterCount() const { return int(shownText().string().size()); }
+
+/// All characters of a title lie where its token lies.
+QRect TokenFieldAccessible::characterRect(int offset) const
+{
+    const ZEVRange character = shownText().storageRange(offset, offset + 1);
+    QTextCursor cursor(field()->document());
+    cursor.setPosition(int(qMin(character.location, field()->textStorage()->length())));
+    const QRect left = field()->cursorRect(cursor);
+    cursor.movePosition(QTextCursor::NextCharacter);
+    const QRect both = left.united(field()->cursorRect(cursor));
+    return {field()->viewport()->mapToGlobal(both.topLeft()), both.size()};
+}
+
+int TokenFieldAccessible::offsetAtPoint(const QPoint &point) const
+{
+    const QPoint inside = field()->viewport()->mapFromGlobal(point);
+    if (!field()->viewport()->rect().contains(inside))
+        return -1;
+    return int(shownText().shownIndex(field()->cursorForPosition(inside).position()));
+}
+
+void TokenFieldAccessible::scrollToSubstring(int startIndex, int endIndex)
+{
+    setSelection(0, startIndex, endIndex);
+    field()->ensureCursorVisible();
+}
+
+QString TokenFieldAccessible::attributes(int /*offset*/, int *startOffset, int *endOffset) const
+{
+    *startOffset = 0;
+    *endOffset = characterCount();
+    return {};
+}
+
+void TokenFieldAccessible::deleteText(int startOffset, int endOffset)
+{
+    replaceText(startOffset, endOffset, QString());
+}
+
+void TokenFieldAccessible::insertText(int offset, const QString &text) { replaceText(offset, offset, text); }
+
+void TokenFieldAccessible::replaceText(int startOffset, int endOffset, const QString &text)
+{
+    if (!field()->isReadOnly())
+        field()->textStorage()->replaceCharactersInRange(shownText().storageRange(startOffset, endOffset),
+                                                         text);
+}

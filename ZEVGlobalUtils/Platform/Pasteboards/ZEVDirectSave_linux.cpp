@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVDirectSave_p.h>
+
+#include <QGuiApplication>
+
+#include <cstdlib>
+#include <memory>
+#include <xcb/xcb.h>
+
+namespace {
+
+template <typename Reply>
+using ReplyOf = std::unique_ptr<Reply, decltype(&std::free)>;
+
+template <typename Reply>
+ReplyOf<Reply> owned(Reply *reply)
+{
+    return {reply, &std::free};
+}
+
+xcb_connection_t *connection()
+{
+    const auto *const x11 = qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
+    return x11 ? x11->connection() : nullptr;
+}
+
+xcb_atom_t atom(xcb_connection_t *server, QByteArrayView name)
+{
+    const auto cookie = xcb_intern_atom(server, false, quint16(name.size()), name.data());
+    const auto reply = owned(xcb_intern_atom_reply(server, cookie, nullptr));
+    return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
+}
+
+/// The window that owns the drag: the protocol's property lives on it.
+xcb_window_t dragOwner(xcb_connection_t *server)
+{
+    const auto cookie = xcb_get_selection_owner(server, atom(server, "XdndSelection"));
+    const auto reply = owned(xcb_get_selection_owner_reply(server, cookie, nullptr));
+    return reply ? reply->owner : xcb_window_t(XCB_WINDOW_NONE);
+}
+
+void setProperty(const QByteArray &value)
+{
+    xcb_connection_t *const server = connection();
+    const xcb_window_t owner = server ? dragOwner(server) : xcb_window_t(XCB_WINDOW_NONE);
+    if (owner == XCB_WINDOW_NONE)
+        return;
+    xcb_change_property(server, XCB_PROP_MODE_REPLACE, owner, atom(server, "XdndDirectSave0"),
+                        atom(server, "text/plain"), 8, quint32(value.size()), value.constData());
+    xcb_flush(server);
+}
+
+enum class Then { Keep, Delete };
+
+QByteArray property(Then then)
+{
+    xcb_connection_t *const server = connection();
+    const xcb_window_t owner = server ? dragOwner(server) : xcb_window_t(XCB_WINDOW_NONE);
+    if (owner == XCB_WINDOW_NONE)
+        return {};
+    constexpr quint32 Longest = 4096; // in units of four bytes: a path of PATH_MAX, every byte of it escaped
+    const auto cookie = xcb_get_property(server, then == Then::Delete, owner, atom(server, "XdndDirectSave0"),
+                                         XCB_GET_PROPERTY_TYPE_ANY, 0, Longest);
+    const auto reply = owned(xcb_get_property_reply(server, cookie, nullptr));
+    if (!reply)
+        return {};
+    return {static_cast<const char *>(xcb_get_property_value(reply.get())),
+            xcb_get_property_value_length(reply.get())};
+}
+
+} // namespace
+
+bool ZEVDirectSave::isAvailable() { return connection() != nullptr; }
+
+void ZEVDirectSave::offer(const QString &fileName) { setProperty(fileName.toUtf8()); }
+QString ZEVDirectSave::offeredName() { return QString::fromUtf8(property(Then::Keep)); }
+void ZEVDirectSave::setAddress(const QByteArray &address) { setProperty(address); }
+QByteArray ZEVDirectSave::takeAddress() { return property(Then::Delete); }

@@ -1,6 +1,0 @@
-// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
-// SPDX-License-Identifier: MIT
-
-#include <ZEVGlobalUtils/Platform/ZEVLog_p.h>
-
-Q_LOGGING_CATEGORY(zevLog, "zev.globalutils")

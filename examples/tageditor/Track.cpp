@@ -1,6 +1,0 @@
-// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
-// SPDX-License-Identifier: MIT
-
-#include <tageditor/Track.h>
-
-QString displayedPath(const std::filesystem::path &path) { return QString::fromStdString(path.native()); }

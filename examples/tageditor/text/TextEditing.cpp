@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <tageditor/text/TextEditing.h>
+
+#include <tageditor/text/TextCommand.h>
+#include <tageditor/text/TransformDialog.h>
+#include <tageditor/tracks/TableSelection.h>
+
+#include <QAction>
+#include <QMenu>
+#include <QTableView>
+
+using namespace Qt::StringLiterals;
+
+TextEditing::TextEditing(TrackTableModel *model, QTableView *table)
+    : QObject(table)
+    , m_model(model)
+    , m_table(table)
+{
+    connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &TextEditing::updateActions);
+    connect(model, &TrackTableModel::modelReset, this, &TextEditing::updateActions);
+    connect(model, &TrackTableModel::textEntered, this, [this](const TextChange &entered) {
+        change(tr("Edit %1").arg(TrackTableModel::titleForField(entered.field)), {entered});
+    });
+}
+
+void TextEditing::addUndoActions(QMenu *menu)
+{
+    m_undo = menu->addAction(QString(), &m_stack, &QUndoStack::undo);
+    m_undo->setShortcuts(QKeySequence::Undo);
+    m_redo = menu->addAction(QString(), &m_stack, &QUndoStack::redo);
+    QList<QKeySequence> keys = QKeySequence::keyBindings(QKeySequence::Redo);
+    if (const QKeySequence usual(u"Ctrl+Shift+Z"_s); !keys.contains(usual))
+        keys.append(usual);
+    m_redo->setShortcuts(keys);
+    connect(&m_stack, &QUndoStack::indexChanged, this, &TextEditing::updateUndoActions);
+    updateUndoActions();
+}
+
+void TextEditing::setUndoBlocked(bool isBlocked)
+{
+    m_isUndoBlocked = isBlocked;
+    updateUndoActions();
+}
+
+void TextEditing::updateUndoActions()
+{
+    if (!m_undo)
+        return;
+    m_undo->setText(m_stack.canUndo() ? tr("&Undo %1").arg(m_stack.undoText()) : tr("&Undo"));
+    m_undo->setEnabled(m_stack.canUndo() && !m_isUndoBlocked);
+    m_redo->setText(m_stack.canRedo() ? tr("Re&do %1").arg(m_stack.redoText()) : tr("Re&do"));
+    m_redo->setEnabled(m_stack.canRedo() && !m_isUndoBlocked);
+}
+
+void TextEditing::addTransforms(QMenu *menu)
+{
+    const QList<TextTransform> &transforms = TextTransform::all();
+    for (int n = 0; n < transforms.size(); ++n) {
+        QAction *action = menu->addAction(tr("%1…").arg(transforms.at(n).name));
+        connect(action, &QAction::triggered, this, [this, n] { askForTransform(n); });
+        m_transforms.append(action);
+    }
+    updateActions();
+}
+
+void TextEditing::updateActions()
+{
+    const bool isPossible = TableSelection::hasEditableCell(*m_table->selectionModel(), *m_model);
+    for (QAction *action : std::as_const(m_transforms))
+        action->setEnabled(isPossible);
+}
+
+void TextEditing::askForTransform(int transform)
+{
+    auto *dialog = new TransformDialog(TableSelection::editableCells(*m_table->selectionModel(), *m_model),
+                                       transform, m_table->window());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, dialog] { perform(*dialog); });
+    dialog->open();
+}
+
+void TextEditing::perform(const TransformDialog &dialog)
+{
+    const QString name = dialog.transform().plainName();
+    if (!change(name, dialog.changes()))
+        Q_EMIT nothingDone(tr("%1: nothing to change").arg(name));
+}
+
+bool TextEditing::change(const QString &name, const QList<TextChange> &changes)
+{
+    const QList<TextChange> possible = m_model->possibleChanges(changes);
+    if (!possible.isEmpty())
+        m_stack.push(new TextCommand(name, m_model, possible));
+    return !possible.isEmpty();
+}

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <tageditor/text/TextTransform.h>
+
+#include <ZEVGlobalUtils/Platform/Text/ZEVCharacterSet.h>
+#include <ZEVGlobalUtils/Transforms/ZEVStringStrip.h>
+#include <ZEVGlobalUtils/Transforms/ZEVStringTransforms.h>
+
+namespace {
+
+QString withoutOuterSpaces(QStringView text)
+{
+    ZEVRange range =
+        ZEVStringStrip::rangeOfSubstringByTrimmingCharactersInSet(text, ZEVCharacterSet::whitespace());
+    // The range ends one unit after the start of its last character, and a title must not lose half an emoji.
+    const bool cutsPair = range.length > 0 && range.end() < text.size()
+        && text[range.end() - 1].isHighSurrogate() && text[range.end()].isLowSurrogate();
+    if (cutsPair)
+        ++range.length;
+    return text.sliced(range.location, range.length).toString();
+}
+
+/// What Unicode calls punctuation (general category P). It lies in the first plane but for scripts that no
+/// longer write.
+const ZEVCharacterSet &punctuation()
+{
+    static const ZEVCharacterSet set = [] {
+        QString characters;
+        for (char16_t unit = 0x21; unit < QChar::ReplacementCharacter; ++unit) {
+            if (QChar::isPunct(unit))
+                characters += QChar(unit);
+        }
+        return ZEVCharacterSet::charactersInString(characters);
+    }();
+    return set;
+}
+
+/// A transform that knows no rules.
+template <typename Function>
+TextTransform withoutRules(const QString &name, Function function)
+{
+    return {name, [function](QStringView text, const ZEVCaseRules &) { return function(text); }, false};
+}
+
+QString withoutPunctuation(QStringView text)
+{
+    return ZEVStringStrip::stringByStrippingCharactersInSet(text, punctuation());
+}
+
+} // namespace
+
+QString TextTransform::plainName() const { return QString(name).remove(u'&'); }
+
+const QList<TextTransform> &TextTransform::all()
+{
+    static const QList<TextTransform> transforms{
+        {tr("&Capitalize Words"), &ZEVStringTransforms::orvCapitalizedString, true},
+        {tr("&Title Case"), &ZEVStringTransforms::orvTitleCaseString, true},
+        {tr("&Sentence case"), &ZEVStringTransforms::sentenceCaseString, true},
+        {tr("c&amelCase"), &ZEVStringTransforms::camelCaseString, true},
+        withoutRules(tr("&Underscores to Spaces"), &ZEVStringTransforms::sansUnderscoresString),
+        withoutRules(tr("S&paces to Underscores"), &ZEVStringTransforms::withUnderscoresString),
+        withoutRules(tr("T&rim Spaces"), &withoutOuterSpaces),
+        withoutRules(tr("Strip Pu&nctuation"), &withoutPunctuation),
+    };
+    return transforms;
+}

@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <tageditor/tracks/TagReader.h>
+
+#include <fileref.h>
+#include <tag.h>
+#include <tpropertymap.h>
+
+#include <system_error>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString text(const TagLib::String &string) { return QString::fromStdString(string.to8Bit(true)); }
+
+/// Zero is how a tag says that it knows no number.
+QString text(unsigned number) { return number == 0 ? QString() : QString::number(number); }
+
+/// Some programs write an MP3's comment into a user-defined frame, which only the property map shows.
+QString comment(const TagLib::File &file)
+{
+    const QString comment = text(file.tag()->comment());
+    return comment.isEmpty() ? text(file.properties()["COMMENT"].toString("\n")) : comment;
+}
+
+bool hasAudio(const TagLib::File &file)
+{
+    return file.isValid() && file.tag() && file.audioProperties() && file.audioProperties()->sampleRate() > 0;
+}
+
+QString systemError(int code) { return QString::fromStdString(std::generic_category().message(code)); }
+
+} // namespace
+
+bool TagReader::isAudioFileName(const std::filesystem::path &path)
+{
+    const QString extension = displayedPath(path.extension()).toLower();
+    return extension == u".mp3" || extension == u".flac" || extension == u".ogg" || extension == u".m4a";
+}
+
+Track TagReader::read(const std::filesystem::path &path)
+{
+    Track track;
+    track.path = path;
+    track.text(TrackField::FileName) = displayedPath(path.filename());
+    track.stamp = FileStamp::of(path); // first, so that a change while it is read is noticed later
+    track.error = lookAtFile(track);
+    if (track.isReadable())
+        track.error = readTags(track);
+    return track;
+}
+
+/// Takes the size down and tells what stands in the way of reading at all. Opening a pipe would wait for a
+/// writer that may never come, so the file is opened without waiting and looked at first.
+QString TagReader::lookAtFile(Track &track)
+{
+    const int file = ::open(track.path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+    if (file < 0)
+        return systemError(errno);
+    struct stat status { };
+    const int failure = ::fstat(file, &status) == 0 ? 0 : errno;
+    ::close(file);
+    if (failure != 0)
+        return systemError(failure);
+    if (!S_ISREG(status.st_mode))
+        return tr("Not a regular file");
+    track.fileSize = status.st_size;
+    return track.fileSize == 0 ? tr("Empty file") : QString();
+}
+
+QString TagReader::readTags(Track &track)
+{
+    const TagLib::FileRef reference(track.path.c_str(), true, TagLib::AudioProperties::Fast);
+    const TagLib::File *file = reference.file();
+    if (!file || !hasAudio(*file))
+        return tr("No audio found: damaged or cut off");
+    const TagLib::Tag &tag = *file->tag();
+    track.text(TrackField::Title) = text(tag.title());
+    track.text(TrackField::Artist) = text(tag.artist());
+    track.text(TrackField::Album) = text(tag.album());
+    track.text(TrackField::Year) = text(tag.year());
+    track.text(TrackField::Number) = text(tag.track());
+    track.text(TrackField::Genre) = text(tag.genre());
+    track.text(TrackField::Comment) = comment(*file);
+    return {};
+}

@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <tageditor/tracks/Track.h>
+
+#include <QCoreApplication>
+
+/// Reads tags of MP3, FLAC, Ogg Vorbis and MPEG-4 audio files. Any thread.
+class TagReader {
+    Q_DECLARE_TR_FUNCTIONS(TagReader)
+
+public:
+    TagReader() = delete;
+
+    /// Whether the name of \a path says that it is one of the four kinds.
+    static bool isAudioFileName(const std::filesystem::path &path);
+
+    /// Every field of the file, or its name and the reason why there is no more.
+    static Track read(const std::filesystem::path &path);
+
+private:
+    static QString lookAtFile(Track &track);
+    static QString readTags(Track &track);
+};

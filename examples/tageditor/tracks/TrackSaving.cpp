@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <tageditor/tracks/TrackSaving.h>
+
+#include <tageditor/tracks/TagReader.h>
+#include <tageditor/tracks/TagWriter.h>
+#include <tageditor/tracks/TrackTableModel.h>
+
+#include <QMessageBox>
+#include <QProgressDialog>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// As many problems as a message box can show; the rest is a number.
+constexpr qsizetype ShownLines = 10;
+
+} // namespace
+
+QString TrackSaving::shortened(const QStringList &lines)
+{
+    QStringList shown = lines.first(qMin(ShownLines, lines.size()));
+    if (lines.size() > shown.size())
+        shown.append(tr("… and %Ln more", nullptr, int(lines.size() - shown.size())));
+    return shown.join(u'\n');
+}
+
+bool TrackSaving::save(TrackTableModel *model, QWidget *window)
+{
+    const QList<int> trackIds = settleForeignChanges(model, window);
+    const QStringList problems = saveTracks(model, trackIds, window);
+    if (!problems.isEmpty())
+        showProblems(problems, window);
+    return !model->hasChanges();
+}
+
+/// The tracks that are to be saved then. A file that has gone is left to the saving, which says so.
+QList<int> TrackSaving::settleForeignChanges(TrackTableModel *model, QWidget *window)
+{
+    QList<int> own = model->changedTracks();
+    QList<int> foreign;
+    QStringList names;
+    for (const int id : std::as_const(own)) {
+        const Track &track = model->track(model->rowOfTrack(id));
+        const std::optional<FileStamp> stamp = FileStamp::of(track.path);
+        if (!stamp || stamp == track.stamp)
+            continue;
+        foreign.append(id);
+        names.append(displayedPath(track.path.filename()));
+    }
+    const Foreign answer = foreign.isEmpty() ? Foreign::Overwrite : askAbout(names, window);
+    if (answer == Foreign::Overwrite)
+        return own;
+    own.removeIf([&foreign](int id) { return foreign.contains(id); });
+    for (const int id : std::as_const(foreign)) {
+        if (answer == Foreign::Reload)
+            model->setReverted(id, TagReader::read(model->track(model->rowOfTrack(id)).path));
+    }
+    return own;
+}
+
+TrackSaving::Foreign TrackSaving::askAbout(const QStringList &names, QWidget *window)
+{
+    QMessageBox question(QMessageBox::Warning, tr("Save"),
+                         tr("Files were changed by another program since they were read."),
+                         QMessageBox::NoButton, window);
+    question.setTextFormat(Qt::PlainText);
+    question.setInformativeText(shortened(names) + u"\n\n"_s
+                                + tr("Overwriting changes only the tags that you have changed. "
+                                     "Reloading drops your changes to these files."));
+    const QAbstractButton *overwrite = question.addButton(tr("&Overwrite"), QMessageBox::AcceptRole);
+    const QAbstractButton *reload = question.addButton(tr("&Reload"), QMessageBox::DestructiveRole);
+    question.setDefaultButton(question.addButton(tr("&Leave"), QMessageBox::RejectRole));
+    question.exec();
+    if (question.clickedButton() == overwrite)
+        return Foreign::Overwrite;
+    return question.clickedButton() == reload ? Foreign::Reload : Foreign::Leave;
+}
+
+QStringList TrackSaving::saveTracks(TrackTableModel *model, const QList<int> &trackIds, QWidget *window)
+{
+    QProgressDialog progress(tr("Saving…"), tr("Cancel"), 0, int(trackIds.size()), window);
+    progress.setWindowModality(Qt::WindowModal);
+    QStringList problems;
+    for (const int id : trackIds) {
+        if (progress.wasCanceled())
+            break;
+        const Track &track = model->track(model->rowOfTrack(id));
+        const QString problem =
+            TagWriter::write(track.path, model->changedTexts(id), model->changedArtwork(id));
+        if (problem.isEmpty())
+            model->setSaved(id);
+        else
+            problems.append(displayedPath(track.path.filename()) + u": "_s + problem);
+        progress.setValue(progress.value() + 1);
+    }
+    return problems;
+}
+
+void TrackSaving::showProblems(const QStringList &problems, QWidget *window)
+{
+    QMessageBox message(QMessageBox::Warning, tr("Save"),
+                        tr("Some files could not be saved. They are as they were."), QMessageBox::Ok, window);
+    message.setTextFormat(Qt::PlainText);
+    message.setInformativeText(shortened(problems));
+    message.exec();
+}

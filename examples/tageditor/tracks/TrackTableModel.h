@@ -1,0 +1,118 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <tageditor/tracks/Track.h>
+
+#include <QAbstractTableModel>
+#include <QHash>
+
+#include <vector>
+
+/// A text for one cell of a track, which is named by its id because rows may be sorted meanwhile.
+struct TextChange {
+    int trackId = -1;
+    TrackField field = TrackField::FileName;
+    QString text;
+};
+
+/// The artwork of a track, encoded; empty bytes for none.
+struct ArtworkChange {
+    int trackId = -1;
+    QByteArray before;
+    QByteArray after;
+};
+
+/// The tracks as a table: a row a track, a column a field. Rows are only ever added behind the others,
+/// whatever the table was sorted by; sort() puts them in their places.
+class TrackTableModel : public QAbstractTableModel {
+    Q_OBJECT
+
+public:
+    enum Role {
+        IsUnreadableRole = Qt::UserRole, ///< bool: the row shows why its file could not be read
+    };
+
+    using QAbstractTableModel::QAbstractTableModel;
+
+    const Track &track(int row) const { return m_tracks.at(row); }
+    int numberOfUnreadable() const { return m_numberOfUnreadable; }
+
+    /// -1 for a track that is not there any more.
+    int rowOfTrack(int trackId) const;
+
+    /// Texts that may be changed are those of the tags, in files that could be read.
+    bool isEditable(int row, TrackField field) const;
+
+    /// Those of \a changes that make a difference, each with its text as the field takes it: years and track
+    /// numbers are digits, without zeros before them, or nothing. A change that a field cannot take is left
+    /// out.
+    QList<TextChange> possibleChanges(const QList<TextChange> &changes) const;
+
+    /// Changes all of them at once, and returns what changes them back. Rows stay where they are, whatever
+    /// the table was sorted by, so that nothing jumps from under its user.
+    QList<TextChange> setTexts(const QList<TextChange> &changes);
+
+    /// Where the file of a track is now, and what it is called.
+    void setPath(int trackId, const std::filesystem::path &path);
+
+    /// Shows what was read again from the track's file.
+    void replaceTrack(int row, const Track &track);
+
+    /// Changes all of them at once.
+    void setArtwork(const QList<ArtworkChange> &changes);
+    /// What is to be written into the file, empty bytes to remove it; nil where it stays as it is.
+    std::optional<QByteArray> changedArtwork(int trackId) const;
+
+    /// Whether a text or the artwork differs from what the file holds.
+    bool hasChanges() const { return !m_savedTexts.isEmpty() || !m_artwork.isEmpty(); }
+    bool hasChanges(int trackId) const;
+    bool isChanged(int row, TrackField field) const;
+
+    /// The ids of the tracks with changed texts or artwork, in the order of the rows; and those texts.
+    QList<int> changedTracks() const;
+    QHash<TrackField, QString> changedTexts(int trackId) const;
+
+    /// The file holds the texts and the artwork of the track now, and has another stamp.
+    void setSaved(int trackId);
+
+    /// What was changed is forgotten: the track is as its file, which \a track was read from.
+    void setReverted(int trackId, const Track &track);
+
+    void append(const QList<Track> &tracks);
+    void clear();
+
+    static QString titleForField(TrackField field);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+
+    /// Changes nothing itself, so that whatever is changed can be undone: see textEntered().
+    bool setData(const QModelIndex &index, const QVariant &value, int role) override;
+
+    /// By a column's text or, for a \a column that is none, by path.
+    void sort(int column, Qt::SortOrder order) override;
+
+Q_SIGNALS:
+    /// The user has typed a text into a cell.
+    void textEntered(const TextChange &change);
+    void artworkChanged();
+
+private:
+    using Cell = std::pair<int, int>; ///< a track's id and a column
+
+    QString setText(Track &track, TrackField field, const QString &text);
+    void forgetChanges(int trackId);
+    void rearrange(const std::vector<int> &oldRows);
+
+    QList<Track> m_tracks;
+    std::vector<int> m_rows; ///< of each track, by its id less m_firstId
+    int m_firstId = 0; ///< ids are not used again for other tracks
+    QHash<Cell, QString> m_savedTexts; ///< of the cells that differ from them
+    QHash<int, ArtworkChange> m_artwork; ///< of the tracks whose files hold another one, by their ids
+    int m_numberOfUnreadable = 0;
+};

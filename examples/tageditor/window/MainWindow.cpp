@@ -1,0 +1,311 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <tageditor/window/MainWindow.h>
+
+#include <tageditor/files/FileActions.h>
+#include <tageditor/files/FileWatch.h>
+#include <tageditor/find/TrackFind.h>
+#include <tageditor/inspector/Inspector.h>
+#include <tageditor/menus/FolderMenus.h>
+#include <tageditor/menus/TrackMenus.h>
+#include <tageditor/text/TextEditing.h>
+#include <tageditor/tracks/TableColumns.h>
+#include <tageditor/tracks/TrackSaving.h>
+#include <tageditor/window/MessageLabel.h>
+#include <tageditor/window/ProgressView.h>
+#include <tageditor/window/QuickOpen.h>
+#include <tageditor/window/SizeLabel.h>
+
+#include <ZEVGlobalUtils/Platform/Values/ZEVUserDefaults.h>
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMessageBox>
+#include <QProgressBar>
+#include <QScreen>
+#include <QStatusBar>
+#include <QStyle>
+#include <QTableView>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString GeometryKey = u"MainWindowGeometry"_s;
+const QString StateKey = u"MainWindowState"_s;
+const QString FolderKey = u"LastFolder"_s;
+
+/// The widths of columns in average characters: what one begins with, and what its contents may make of it.
+constexpr std::array<int, TrackFieldCount> FirstWidths{24, 24, 22, 20, 8, 8, 14, 30};
+constexpr int NarrowestColumn = 6;
+constexpr int WidestColumn = 36;
+constexpr int ColumnPadding = 2;
+
+/// How many rows are looked at for the widths, besides those in view.
+constexpr int RowsMeasured = 200;
+
+/// How long a passing message stands in the status bar, in milliseconds.
+constexpr int MessageDuration = 6000;
+
+/// What a folder may be named is told from the place where the title shows that texts have changed.
+QString withModifiedMarker(QString title) { return title.replace(u"[*]"_s, u"[*][*]"_s) + u"[*]"_s; }
+
+} // namespace
+
+MainWindow::MainWindow(QWidget *parent)
+    : QMainWindow(parent)
+    , m_mayDiscard([this] { return askToDiscard(); })
+    , m_table(new QTableView)
+    , m_counts(new QLabel)
+    , m_problem(new MessageLabel)
+    , m_progress(new ProgressView(tr("Reading progress")))
+{
+    setUpTable();
+    m_editing = new TextEditing(&m_model, m_table);
+    m_find = new TrackFind(&m_model, m_table, m_editing);
+    setCentralWidget(m_find);
+    m_files = new FileActions(&m_model, m_table, m_editing);
+    m_watch = new FileWatch(&m_model, this);
+    m_folders = new FolderMenus(this);
+    m_trackMenus = new TrackMenus(&m_model, m_table, m_editing);
+    m_quickOpen = new QuickOpen(&m_model, this);
+    addFolderBar();
+    setUpStatusBar();
+    addDocks();
+    makeMenus();
+    watchReader();
+    watchTexts();
+    restoreFromDefaults();
+    m_table->setFocus();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::setUpTable()
+{
+    m_table->setAccessibleName(tr("Tracks"));
+    m_table->setModel(&m_model);
+    m_table->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectItems);
+    m_table->setAlternatingRowColors(true);
+    m_table->setShowGrid(false);
+    m_table->setWordWrap(false);
+    m_table->setTabKeyNavigation(false); // so that Tab leaves the table
+    m_table->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_table->setFrameShape(QFrame::NoFrame);
+    m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() * 3 / 2);
+    m_table->horizontalHeader()->setStretchLastSection(true);
+    m_table->horizontalHeader()->setHighlightSections(false);
+    m_table->horizontalHeader()->setResizeContentsPrecision(RowsMeasured);
+    m_table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    m_table->horizontalHeader()->setSortIndicatorClearable(true);
+    m_table->setSortingEnabled(true);
+    for (int column = 0; column < TrackFieldCount; ++column)
+        m_table->setColumnWidth(column,
+                                FirstWidths.at(size_t(column)) * m_table->fontMetrics().averageCharWidth());
+}
+
+void MainWindow::setUpStatusBar()
+{
+    m_counts->setContentsMargins(style()->pixelMetric(QStyle::PM_LayoutLeftMargin), 0, 0, 0);
+    statusBar()->addWidget(m_counts);
+    statusBar()->addWidget(m_problem, 1);
+    statusBar()->addPermanentWidget(m_progress);
+    statusBar()->addPermanentWidget(m_files->progressView());
+    statusBar()->addPermanentWidget(new SizeLabel(&m_model, m_table->selectionModel()));
+}
+
+void MainWindow::watchReader()
+{
+    connect(&m_reader, &FolderReader::tracksRead, &m_model, &TrackTableModel::append);
+    connect(&m_reader, &FolderReader::progressed, this, &MainWindow::showProgress);
+    connect(m_progress, &ProgressView::cancelled, this, &MainWindow::stopReading);
+    connect(&m_reader, &FolderReader::finished, this, &MainWindow::finishReading);
+    connect(&m_reader, &FolderReader::folderSkipped, this, &MainWindow::showSkippedFolder);
+}
+
+void MainWindow::watchTexts()
+{
+    const auto showModified = [this] { setWindowModified(m_model.hasChanges()); };
+    connect(&m_model, &TrackTableModel::dataChanged, this, showModified);
+    connect(&m_model, &TrackTableModel::modelReset, this, showModified);
+    connect(m_editing, &TextEditing::nothingDone, this,
+            [this](const QString &message) { statusBar()->showMessage(message, MessageDuration); });
+    connect(m_files, &FileActions::reported, m_problem, &MessageLabel::showMessage);
+    connect(m_watch, &FileWatch::noticed, this, &MainWindow::showNoticed);
+    connect(m_folders, &FolderMenus::folderChosen, this, &MainWindow::openFolder);
+    connect(m_quickOpen, &QuickOpen::trackChosen, this, &MainWindow::selectTrack);
+}
+
+void MainWindow::openFolder(const QString &folder)
+{
+    m_inspector->commit();
+    if (m_model.hasChanges() && !m_mayDiscard())
+        return;
+    m_folder = QDir::cleanPath(QDir(folder).absolutePath());
+    m_folders->setFolder(m_folder);
+    setWindowTitle(withModifiedMarker(QDir(m_folder).dirName()));
+    m_skippedFolders = 0;
+    m_firstSkipped.clear();
+    m_problem->showMessage({}, false);
+    m_editing->clear();
+    m_model.clear();
+    m_progress->show();
+    m_reader.readFolder(m_folder);
+}
+
+void MainWindow::chooseFolder()
+{
+    const QString folder = QFileDialog::getExistingDirectory(this, tr("Open Folder"), m_folder);
+    if (!folder.isEmpty())
+        openFolder(folder);
+}
+
+bool MainWindow::askToDiscard()
+{
+    QMessageBox question(QMessageBox::Warning, tr("Save Changes"), tr("Save the changes?"),
+                         QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
+    question.setInformativeText(tr("Texts were changed. They will be lost if they are not saved."));
+    question.setDefaultButton(QMessageBox::Save);
+    const int answer = question.exec();
+    return answer == QMessageBox::Discard || (answer == QMessageBox::Save && save());
+}
+
+bool MainWindow::save()
+{
+    m_inspector->commit();
+    return TrackSaving::save(&m_model, this);
+}
+
+/// The whole row, with the cursor in the title.
+void MainWindow::selectTrack(int trackId)
+{
+    const int row = m_model.rowOfTrack(trackId);
+    if (row < 0)
+        return;
+    const QModelIndex title = m_model.index(row, int(TrackField::Title));
+    m_table->selectionModel()->setCurrentIndex(
+        title, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    m_table->scrollTo(title, QAbstractItemView::PositionAtCenter);
+    m_table->setFocus(Qt::OtherFocusReason);
+}
+
+void MainWindow::showProgress(qsizetype read, qsizetype total)
+{
+    m_progress->bar()->setRange(0, int(total)); // the bar of an empty range tells that it is not known yet
+    m_progress->bar()->setValue(int(read));
+    showCounts();
+}
+
+void MainWindow::showSkippedFolder(const QString &folder, const QString &reason)
+{
+    if (++m_skippedFolders == 1)
+        m_firstSkipped = tr("Not read: %1 (%2)").arg(folder, reason);
+    const QString text = m_skippedFolders == 1
+        ? m_firstSkipped
+        : tr("%1 and other folders (%2 in all)").arg(m_firstSkipped, QLocale().toString(m_skippedFolders));
+    m_problem->showMessage(text, true);
+}
+
+void MainWindow::finishReading(const QString &failure)
+{
+    m_progress->hide();
+    const QHeaderView *header = m_table->horizontalHeader();
+    if (header->sortIndicatorSection() >= 0)
+        m_model.sort(header->sortIndicatorSection(), header->sortIndicatorOrder());
+    m_find->actor().searchAgainSoon();
+    showCounts();
+    if (!m_hasOwnColumns)
+        fitColumns();
+    if (!failure.isEmpty())
+        m_problem->showMessage(
+            tr("The folder “%1” could not be read: %2").arg(QDir::toNativeSeparators(m_folder), failure),
+            true);
+    Q_EMIT folderRead(failure);
+}
+
+/// What was read so far stays.
+void MainWindow::stopReading()
+{
+    m_reader.cancel();
+    finishReading({});
+    m_problem->showMessage(tr("Reading was stopped: tracks are missing"), true);
+}
+
+void MainWindow::showNoticed(int changed, int gone)
+{
+    QStringList texts;
+    if (changed > 0)
+        texts.append(tr("%Ln files were changed by another program and read again", nullptr, changed));
+    if (gone > 0)
+        texts.append(tr("%Ln files are not there any more", nullptr, gone));
+    m_problem->showMessage(texts.join(u"; "_s), gone > 0);
+    showCounts();
+}
+
+void MainWindow::showCounts()
+{
+    QString text = tr("%Ln tracks", nullptr, m_model.rowCount());
+    if (m_model.numberOfUnreadable() > 0)
+        text = tr("%1, %Ln unreadable", nullptr, m_model.numberOfUnreadable()).arg(text);
+    m_counts->setText(text);
+}
+
+void MainWindow::fitColumns()
+{
+    const int character = m_table->fontMetrics().averageCharWidth();
+    m_table->resizeColumnsToContents();
+    for (int column = 0; column < TrackFieldCount - 1; ++column) {
+        const int width = m_table->columnWidth(column) + ColumnPadding * character;
+        m_table->setColumnWidth(column,
+                                std::clamp(width, NarrowestColumn * character, WidestColumn * character));
+    }
+}
+
+void MainWindow::restoreFromDefaults()
+{
+    const ZEVUserDefaults *defaults = ZEVUserDefaults::standardUserDefaults();
+    m_hasOwnColumns = TableColumns::restore(m_table);
+    restoreState(defaults->objectForKey(StateKey).toByteArray());
+    if (restoreGeometry(defaults->objectForKey(GeometryKey).toByteArray()))
+        return;
+    const QSize wanted(fontMetrics().averageCharWidth() * 200, fontMetrics().height() * 40);
+    resize(wanted.boundedTo(screen()->availableSize() * 9 / 10));
+}
+
+void MainWindow::remember() const
+{
+    ZEVUserDefaults *defaults = ZEVUserDefaults::standardUserDefaults();
+    defaults->setObject(saveGeometry(), GeometryKey);
+    defaults->setObject(saveState(), StateKey);
+    defaults->setObject(m_folder, FolderKey);
+    TableColumns::remember(m_table);
+}
+
+QString MainWindow::lastFolder()
+{
+    const QString folder = ZEVUserDefaults::standardUserDefaults()->objectForKey(FolderKey).toString();
+    return QDir(folder).exists() ? folder : QString();
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    m_inspector->commit();
+    if (m_model.hasChanges() && !m_mayDiscard()) {
+        event->ignore();
+        return;
+    }
+    m_files->cancelAndWait();
+    m_reader.cancel();
+    remember();
+    QMainWindow::closeEvent(event);
+}

@@ -1,0 +1,118 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#include <tageditor/artwork/ArtworkDock.h>
+#include <tageditor/files/FileActions.h>
+#include <tageditor/find/TrackFind.h>
+#include <tageditor/inspector/Inspector.h>
+#include <tageditor/menus/FolderMenus.h>
+#include <tageditor/menus/TrackMenus.h>
+#include <tageditor/text/TextEditing.h>
+#include <tageditor/tracks/TableColumns.h>
+#include <tageditor/window/MainWindow.h>
+#include <tageditor/window/QuickOpen.h>
+
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderMenu.h>
+
+#include <QAction>
+#include <QDockWidget>
+#include <QMenuBar>
+#include <QScrollArea>
+#include <QTableView>
+#include <QToolBar>
+
+using namespace Qt::StringLiterals;
+
+void MainWindow::addDocks()
+{
+    m_inspector = new Inspector(&m_model, m_table->selectionModel(), m_editing);
+    auto *dock = new QDockWidget(tr("Tags"), this);
+    dock->setObjectName(u"TagsDock"_s);
+    auto *scrolled = new QScrollArea; // the window may be low
+    scrolled->setWidget(m_inspector);
+    scrolled->setWidgetResizable(true);
+    scrolled->setFrameShape(QFrame::NoFrame);
+    dock->setWidget(scrolled);
+    addDockWidget(Qt::RightDockWidgetArea, dock);
+    addDockWidget(Qt::RightDockWidgetArea, new ArtworkDock(&m_model, m_table, m_editing->undoStack()));
+}
+
+void MainWindow::addFolderBar()
+{
+    m_folderBar = m_folders->makeToolBar();
+    addToolBar(m_folderBar);
+}
+
+void MainWindow::makeMenus()
+{
+    QMenu *file = menuBar()->addMenu(tr("&File"));
+    file->addAction(tr("&Open Folder…"), QKeySequence(u"Ctrl+O"_s), this, &MainWindow::chooseFolder);
+    m_folders->addRecents(file);
+    file->addAction(tr("&Reload Folder"), QKeySequence(u"F5"_s), this, [this] { openFolder(m_folder); });
+    file->addAction(tr("&Save"), QKeySequence(u"Ctrl+S"_s), this, &MainWindow::save);
+    file->addSeparator();
+    m_files->addActions(file);
+    file->addSeparator();
+    file->addAction(tr("&Quit"), QKeySequence(u"Ctrl+Q"_s), this, &QWidget::close);
+
+    QMenu *edit = menuBar()->addMenu(tr("&Edit"));
+    m_editing->addUndoActions(edit);
+    edit->addSeparator();
+    addSelectActions(edit);
+    edit->addSeparator();
+    addFindActions(edit);
+    m_editing->addTransforms(menuBar()->addMenu(tr("Te&xt")));
+    addPanes(menuBar()->addMenu(tr("&View")));
+    m_trackMenus->addGenreMenu(menuBar());
+}
+
+void MainWindow::addFindActions(QMenu *menu)
+{
+    ZEVTextFinderMenu::addItems(menu, [this] { return currentFinder(); });
+    menu->addAction(tr("Find in Fi&elds…"), QKeySequence(u"Ctrl+Shift+F"_s), m_find, &TrackFind::showPanel);
+    menu->addAction(tr("Preview Replace&ments…"), QKeySequence(u"Ctrl+Shift+H"_s), m_find,
+                    &TrackFind::reviewReplacements);
+    m_folderBar->addAction(
+        menu->addAction(tr("&Quick Open…"), QKeySequence(u"Ctrl+K"_s), m_quickOpen, &QuickOpen::open));
+}
+
+/// What stands around the table can be hidden, and comes back from here.
+void MainWindow::addPanes(QMenu *menu)
+{
+    for (const QDockWidget *dock : findChildren<QDockWidget *>())
+        menu->addAction(dock->toggleViewAction());
+    menu->addAction(m_folderBar->toggleViewAction());
+    TableColumns::setMenu(m_table, menu->addMenu(tr("&Columns")));
+}
+
+/// A click on a header sorts, so rows and columns are selected from the cell that has the cursor, by the keys
+/// that spreadsheets have for it. Elsewhere than in the table these keys keep their meaning.
+void MainWindow::addSelectActions(QMenu *menu)
+{
+    QAction *all = menu->addAction(tr("Select &All"), m_table, &QTableView::selectAll);
+    all->setShortcuts(QKeySequence::SelectAll);
+    QAction *row = menu->addAction(tr("Select Ro&w"), QKeySequence(u"Shift+Space"_s), this,
+                                   [this] { selectAroundCurrent(QItemSelectionModel::Rows); });
+    QAction *column = menu->addAction(tr("Select &Column"), QKeySequence(u"Ctrl+Space"_s), this,
+                                      [this] { selectAroundCurrent(QItemSelectionModel::Columns); });
+    for (QAction *action : {all, row, column}) {
+        action->setShortcutContext(Qt::WidgetShortcut);
+        m_table->addAction(action);
+    }
+}
+
+void MainWindow::selectAroundCurrent(QItemSelectionModel::SelectionFlag extent)
+{
+    QItemSelectionModel *selection = m_table->selectionModel();
+    QItemSelection around = selection->selection();
+    if (!selection->isSelected(m_table->currentIndex()))
+        around.select(m_table->currentIndex(), m_table->currentIndex());
+    selection->select(around, QItemSelectionModel::ClearAndSelect | extent);
+}
+
+/// The keys for finding belong to the editor of comments while one is in it, and to the table elsewhere.
+ZEVTextFinder *MainWindow::currentFinder()
+{
+    FindPlace &comment = m_inspector->commentFind();
+    return comment.hasFocusWithin() ? &comment.finder() : &m_find->finder();
+}
