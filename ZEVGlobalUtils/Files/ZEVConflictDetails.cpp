@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/Files/ZEVConflictDetails_p.h>
 
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVWorkspace.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVWorkspace_p.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 #include <ZEVGlobalUtils/Transforms/ZEVByteCountFormatter.h>

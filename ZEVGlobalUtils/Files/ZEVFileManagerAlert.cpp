@@ -4,12 +4,12 @@
 #include <ZEVGlobalUtils/Files/ZEVFileManager.h>
 
 #include <ZEVGlobalUtils/Files/ZEVConflictDetails_p.h>
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVWorkspace.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVWorkspace_p.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileErrors.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
 #include <ZEVGlobalUtils/Platform/Questions/ZEVAlert.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
-#include <ZEVGlobalUtils/Platform/Values/ZEVMainThread.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVMainThread_p.h>
 
 using namespace Qt::StringLiterals;
 

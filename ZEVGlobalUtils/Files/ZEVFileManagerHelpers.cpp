@@ -4,7 +4,7 @@
 #include <ZEVGlobalUtils/Files/ZEVFileManagerHelpers.h>
 
 #include <ZEVGlobalUtils/Files/ZEVURLFileAccess.h>
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVWorkspace.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVWorkspace_p.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileErrors.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVPlainFileManager.h>

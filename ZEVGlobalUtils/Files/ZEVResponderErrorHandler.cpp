@@ -4,7 +4,7 @@
 #include <ZEVGlobalUtils/Files/ZEVResponderErrorHandler.h>
 
 #include <ZEVGlobalUtils/Files/ZEVErrorSolver_p.h>
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVWorkspace.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVWorkspace_p.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileErrors.h>
 #include <ZEVGlobalUtils/Platform/Questions/ZEVAlert.h>
 #include <ZEVGlobalUtils/Platform/Questions/ZEVErrorPresentation.h>

@@ -8,7 +8,7 @@
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileOperations_p.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
 #include <ZEVGlobalUtils/Platform/Questions/ZEVOpenPanel.h>
-#include <ZEVGlobalUtils/Platform/Values/ZEVMainThread.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVMainThread_p.h>
 
 #include <QDir>
 

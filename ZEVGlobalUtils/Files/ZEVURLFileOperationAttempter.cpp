@@ -4,7 +4,7 @@
 #include <ZEVGlobalUtils/Files/ZEVURLFileOperationAttempter.h>
 
 #include <ZEVGlobalUtils/Files/ZEVErrorFileErrorHelpers.h>
-#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileName.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileName_p.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVError.h>
 

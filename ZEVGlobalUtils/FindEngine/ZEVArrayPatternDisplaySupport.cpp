@@ -4,7 +4,7 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVArrayPatternDisplaySupport.h>
 
 #include <ZEVGlobalUtils/FindEngine/ZEVPattern_p.h>
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedColors.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedColors_p.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVAttributedString.h>
 
 #include <QGuiApplication>

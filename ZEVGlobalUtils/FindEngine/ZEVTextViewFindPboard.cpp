@@ -4,8 +4,8 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVTextViewFindPboard.h>
 
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderAction.h>
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVApplicationActivity.h>
-#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFindPasteboard.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVApplicationActivity_p.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFindPasteboard_p.h>
 
 #include <QLineEdit>
 #include <QPlainTextEdit>

@@ -4,7 +4,7 @@
 #include <ZEVGlobalUtils/ImageViews/ZEVArtFocusView.h>
 
 #include <ZEVGlobalUtils/ImageViews/ZEVViewAnimation_p.h>
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVApplicationActivity.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVApplicationActivity_p.h>
 
 #include <QApplication>
 #include <QGraphicsOpacityEffect>

@@ -6,7 +6,7 @@
 #include <ZEVGlobalUtils/Images/ZEVImageFile_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDragImageView.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVLocalFile_p.h>
-#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFilePromiseReceiver.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFilePromiseReceiver_p.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVError.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVLog_p.h>
 

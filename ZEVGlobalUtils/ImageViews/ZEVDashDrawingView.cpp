@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/ImageViews/ZEVDashDrawingView.h>
 
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedColors.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedColors_p.h>
 
 #include <QPainter>
 #include <QPainterPath>

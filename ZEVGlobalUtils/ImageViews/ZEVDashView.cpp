@@ -8,7 +8,7 @@
 #include <ZEVGlobalUtils/ImageViews/ZEVViewEffect_p.h>
 #include <ZEVGlobalUtils/Menus/Layout/ZEVViewEasyConstraints.h>
 #include <ZEVGlobalUtils/Platform/Desktop/ZEVAppearanceHelpers.h>
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedColors.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedColors_p.h>
 
 #include <QEvent>
 #include <QLabel>

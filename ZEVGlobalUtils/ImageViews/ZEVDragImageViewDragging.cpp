@@ -13,7 +13,7 @@
 #include <ZEVGlobalUtils/ImageViews/ZEVInnerImageView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVViewAnimation_p.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVLocalFile_p.h>
-#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFilePromiseReceiver.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFilePromiseReceiver_p.h>
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboard.h>
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVUniformType.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>

@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/ImageViews/ZEVViewAnimation_p.h>
 
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVReducedMotion.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVReducedMotion_p.h>
 
 #include <QPropertyAnimation>
 #include <QWidget>

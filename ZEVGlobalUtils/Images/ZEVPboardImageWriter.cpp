@@ -7,7 +7,7 @@
 #include <ZEVGlobalUtils/Files/ZEVURLFileOperationAttempter.h>
 #include <ZEVGlobalUtils/Images/ZEVDataBitmapData.h>
 #include <ZEVGlobalUtils/Images/ZEVImageIdentification.h>
-#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileName.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileName_p.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVPlainFileManager.h>
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboard.h>

@@ -3,9 +3,9 @@
 
 #include <ZEVGlobalUtils/Transforms/ZEVCaseRules.h>
 
-#include <ZEVGlobalUtils/Platform/Text/ZEVCaseMapping.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVCaseMapping_p.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVTextLocale.h>
-#include <ZEVGlobalUtils/Platform/Text/ZEVWordIterator.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVWordIterator_p.h>
 #include <ZEVGlobalUtils/Transforms/ZEVCaseRules_p.h>
 
 #include <algorithm>

@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/Transforms/ZEVCountedCharacters_p.h>
 
-#include <ZEVGlobalUtils/Platform/Text/ZEVCanonicalDecomposition.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVCanonicalDecomposition_p.h>
 
 char32_t ZEVCountedCharacters::countedCharacter(char32_t character)
 {

@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/Transforms/ZEVTitleCase_p.h>
 
-#include <ZEVGlobalUtils/Platform/Text/ZEVCaseMapping.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVCaseMapping_p.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVCharacterSet.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpressionMatcher.h>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/Platform/Text/ZEVCaseMapping.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVCaseMapping_p.h>
 #include <ZEVGlobalUtils/Transforms/ZEVWordWalk_p.h>
 
 /// Appends \a word capitalised, or in capitals where that makes it one of the upper-case terms.

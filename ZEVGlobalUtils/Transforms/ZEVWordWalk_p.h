@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/Platform/Text/ZEVWordIterator.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVWordIterator_p.h>
 #include <ZEVGlobalUtils/Transforms/ZEVCaseRules_p.h>
 
 /// Walks the words of a text with what the case rules ask about each of them.

@@ -14,8 +14,8 @@
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderMenu.h>
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderViewController.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVApplicationActivity.h>
-#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFindPasteboard.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVApplicationActivity_p.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFindPasteboard_p.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVUserDefaults.h>
 

@@ -5,7 +5,7 @@
 #include "../Rows.h"
 
 #include <ZEVGlobalUtils/ImageViews/ZEVDragImageView.h>
-#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFilePromiseReceiver.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFilePromiseReceiver_p.h>
 
 #include <QMimeData>
 #include <QStandardPaths>

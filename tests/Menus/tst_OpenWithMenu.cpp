@@ -5,7 +5,7 @@
 
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
 #include <ZEVGlobalUtils/Menus/Locations/ZEVWorkspaceOpenWithMenu.h>
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVApplications.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVApplications_p.h>
 #include <ZEVGlobalUtils/Platform/Questions/ZEVOpenPanel.h>
 
 #include <QDialog>

@@ -6,7 +6,7 @@
 #include "../Trees.h"
 
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileErrors.h>
-#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileName.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileName_p.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVPlainFileManager.h>
 
 #include <QLoggingCategory>

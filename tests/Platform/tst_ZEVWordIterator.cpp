@@ -3,9 +3,9 @@
 
 #include "../Rows.h"
 
-#include <ZEVGlobalUtils/Platform/Text/ZEVCaseMapping.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVCaseMapping_p.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVTextLocale.h>
-#include <ZEVGlobalUtils/Platform/Text/ZEVWordIterator.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVWordIterator_p.h>
 
 #include <QLocale>
 

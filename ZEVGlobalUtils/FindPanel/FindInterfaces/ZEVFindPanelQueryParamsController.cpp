@@ -8,7 +8,7 @@
 #include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenField.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItemHeadings.h>
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedImages.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedImages_p.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVAttributedString.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVUserDefaults.h>

@@ -7,8 +7,8 @@
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/InterfaceLoader_p.h>
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFocusTokenFieldCell.h>
 #include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenField.h>
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVApplicationActivity.h>
-#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFindPasteboard.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVApplicationActivity_p.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFindPasteboard_p.h>
 #include <ZEVGlobalUtils/Platform/Questions/ZEVErrorCatcher.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>

@@ -7,7 +7,7 @@
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderBorderlessPopUpButton.h>
 #include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenField.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedImages.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedImages_p.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 
 #include <QAbstractButton>

@@ -5,7 +5,7 @@
 
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuTitles_p.h>
-#include <ZEVGlobalUtils/Platform/Text/ZEVCaseMapping.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVCaseMapping_p.h>
 
 #include <QMenu>
 

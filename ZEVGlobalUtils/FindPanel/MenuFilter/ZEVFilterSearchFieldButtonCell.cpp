@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVFilterSearchFieldButtonCell.h>
 
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedImages.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedImages_p.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGeometry.h>
 
 #include <QPainter>

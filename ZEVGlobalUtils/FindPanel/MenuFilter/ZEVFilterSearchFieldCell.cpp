@@ -4,8 +4,8 @@
 #include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVFilterSearchFieldCell.h>
 
 #include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVFilterSearchFieldButtonCell.h>
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedColors.h>
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedImages.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedColors_p.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedImages_p.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVPlatformVersion.h>
 

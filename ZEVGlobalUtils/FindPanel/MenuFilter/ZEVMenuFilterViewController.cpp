@@ -8,7 +8,7 @@
 #include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVMenuFilterClient.h>
 #include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVMenuFilterView.h>
 #include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVMoreButtonCell.h>
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedImages.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedImages_p.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpressionMatcher.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 

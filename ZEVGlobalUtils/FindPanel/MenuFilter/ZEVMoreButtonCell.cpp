@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVMoreButtonCell.h>
 
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedColors.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedColors_p.h>
 
 #include <QPainter>
 #include <QPainterPath>

@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenFieldCell.h>
 
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedImages.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedImages_p.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 
 #include <QStyle>

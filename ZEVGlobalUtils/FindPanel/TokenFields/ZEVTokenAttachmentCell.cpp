@@ -6,7 +6,7 @@
 #include <ZEVGlobalUtils/FindPanel/TokenFields/ZEVGreenTokenAttachmentCell.h>
 #include <ZEVGlobalUtils/FindPanel/TokenFields/ZEVRoundTokenAttachmentCell.h>
 #include <ZEVGlobalUtils/FindPanel/TokenFields/ZEVSelectedRanges.h>
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedColors.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedColors_p.h>
 
 #include <QFontMetricsF>
 #include <QGuiApplication>

@@ -3,9 +3,9 @@
 
 #include <ZEVGlobalUtils/Menus/Locations/ZEVApplicationChooser_p.h>
 
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVApplications.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVApplications_p.h>
 #include <ZEVGlobalUtils/Platform/Questions/ZEVOpenPanel.h>
-#include <ZEVGlobalUtils/Platform/Text/ZEVLocalizedStandardCompare.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVLocalizedStandardCompare_p.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 
 #include <QApplication>

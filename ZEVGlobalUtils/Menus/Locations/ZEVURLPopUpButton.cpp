@@ -10,7 +10,7 @@
 #include <ZEVGlobalUtils/Menus/Locations/ZEVRecentURLs_p.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileReference.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
-#include <ZEVGlobalUtils/Platform/Text/ZEVLocalizedStandardCompare.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVLocalizedStandardCompare_p.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVUserDefaults.h>
 

@@ -4,7 +4,7 @@
 #include <ZEVGlobalUtils/Menus/Observing/ZEVKeyValueObserver.h>
 
 #include <ZEVGlobalUtils/Menus/Observing/ZEVResponder.h>
-#include <ZEVGlobalUtils/Platform/Values/ZEVKeyValueCoding.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVKeyValueCoding_p.h>
 
 #include <QMetaProperty>
 

@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/Menus/Observing/ZEVObjectKeyValue.h>
 
-#include <ZEVGlobalUtils/Platform/Values/ZEVKeyValueCoding.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVKeyValueCoding_p.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVVariantValues_p.h>
 
 using namespace ZEVKeyValueCoding;

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVApplications.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVApplications_p.h>
 
 #include <ZEVGlobalUtils/Platform/Desktop/ZEVStartupNotification_p.h>
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVWorkspace.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVWorkspace_p.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
 
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVReducedMotion.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVReducedMotion_p.h>
 
 #include <QStyle>
 #include <QWidget>

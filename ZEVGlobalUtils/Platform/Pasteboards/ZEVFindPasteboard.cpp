@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFindPasteboard.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFindPasteboard_p.h>
 
 #include <ZEVGlobalUtils/Platform/Values/ZEVKeyedArchiver.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVKeyedUnarchiver.h>

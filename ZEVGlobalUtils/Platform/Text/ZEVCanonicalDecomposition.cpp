@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Platform/Text/ZEVCanonicalDecomposition.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVCanonicalDecomposition_p.h>
 
 #include <unicode/normalizer2.h>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Platform/Text/ZEVCaseMapping.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVCaseMapping_p.h>
 
 #include <unicode/casemap.h>
 #include <unicode/stringoptions.h>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Platform/Text/ZEVLocalizedStandardCompare.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVLocalizedStandardCompare_p.h>
 
 #include <ZEVGlobalUtils/Platform/Text/ZEVTextLocale.h>
 

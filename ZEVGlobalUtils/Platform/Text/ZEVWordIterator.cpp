@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Platform/Text/ZEVWordIterator.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVWordIterator_p.h>
 
 #include <ZEVGlobalUtils/Platform/Values/ZEVLog_p.h>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Platform/Values/ZEVMainThread.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVMainThread_p.h>
 
 #include <QCoreApplication>
 #include <QThread>

@@ -3,8 +3,6 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/Export.h>
-
 #include <QStringView>
 
 class QColor;
@@ -17,9 +15,9 @@ class QRectF;
 namespace ZEVNamedImages {
 
 /// Null for an unknown name.
-ZEV_EXPORT QIcon imageNamed(QStringView name);
+QIcon imageNamed(QStringView name);
 
 /// Draws nothing for an unknown name.
-ZEV_EXPORT void drawImageNamed(QStringView name, QPainter *painter, const QRectF &rect, const QColor &color);
+void drawImageNamed(QStringView name, QPainter *painter, const QRectF &rect, const QColor &color);
 
 } // namespace ZEVNamedImages

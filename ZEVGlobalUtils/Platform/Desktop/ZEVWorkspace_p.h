@@ -3,8 +3,6 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/Export.h>
-
 #include <QIcon>
 
 class QUrl;
@@ -13,7 +11,7 @@ class QUrl;
 namespace ZEVWorkspace {
 
 /// By the item's kind, or by its name where there is no item.
-ZEV_EXPORT QIcon iconForFile(const QUrl &url);
-ZEV_EXPORT QIcon folderIcon();
+QIcon iconForFile(const QUrl &url);
+QIcon folderIcon();
 
 } // namespace ZEVWorkspace

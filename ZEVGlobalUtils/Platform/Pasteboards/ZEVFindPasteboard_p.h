@@ -3,15 +3,13 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/Export.h>
-
 #include <QString>
 
 #include <optional>
 
 /// The text to find, which all programs of the user share. It lives in a small file of the user's own, in the
 /// runtime directory; a damaged file is an empty pasteboard. Main thread.
-class ZEV_EXPORT ZEVFindPasteboard {
+class ZEVFindPasteboard {
 public:
     /// The shared one; nil where the user has no runtime directory.
     static std::optional<ZEVFindPasteboard> findPasteboard();

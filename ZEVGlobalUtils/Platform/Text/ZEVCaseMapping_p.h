@@ -3,8 +3,6 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/Export.h>
-
 #include <QByteArray>
 #include <QString>
 #include <QVarLengthArray>
@@ -25,10 +23,10 @@ inline void append(Buffer &result, QStringView text) { result.append(text.utf16(
 /// the same when they differ in case alone, in no language: both "ß" and "SS" give "ss".
 enum class Form { Lower, Upper, Capitalized, Folded };
 
-ZEV_EXPORT void append(Buffer &result, QStringView text, Form form, const QByteArray &localeIdentifier = {});
+void append(Buffer &result, QStringView text, Form form, const QByteArray &localeIdentifier = {});
 
-ZEV_EXPORT QString lowerCased(QStringView text, const QByteArray &localeIdentifier = {});
-ZEV_EXPORT QString upperCased(QStringView text, const QByteArray &localeIdentifier = {});
-ZEV_EXPORT QString caseFolded(QStringView text);
+QString lowerCased(QStringView text, const QByteArray &localeIdentifier = {});
+QString upperCased(QStringView text, const QByteArray &localeIdentifier = {});
+QString caseFolded(QStringView text);
 
 } // namespace ZEVCaseMapping

@@ -3,8 +3,6 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/Export.h>
-
 #include <QStringView>
 
 class QColor;
@@ -14,9 +12,9 @@ class QPalette;
 namespace ZEVNamedColors {
 
 /// For the appearance that \a palette has; an invalid colour for an unknown name.
-ZEV_EXPORT QColor colorNamed(QStringView name, const QPalette &palette);
+QColor colorNamed(QStringView name, const QPalette &palette);
 
 /// \a color on its way to white by \a level (0 to 1), alpha included.
-ZEV_EXPORT QColor highlightWithLevel(const QColor &color, float level);
+QColor highlightWithLevel(const QColor &color, float level);
 
 } // namespace ZEVNamedColors

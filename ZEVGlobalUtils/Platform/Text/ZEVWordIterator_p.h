@@ -15,7 +15,7 @@
 /// Walks the words of a text (Unicode Standard Annex #29, with the dictionaries of the scripts that are
 /// written without spaces); white space, punctuation and symbols between them are none. What breaks the words
 /// is kept by each thread for its next walk, so a walk is cheap to begin. One thread at a time.
-class ZEV_EXPORT ZEVWordIterator {
+class ZEVWordIterator {
 public:
     /// The characters of \a text must stay where they are. \a localeIdentifier is one of ZEVTextLocale.
     ZEVWordIterator(QStringView text, const QByteArray &localeIdentifier);

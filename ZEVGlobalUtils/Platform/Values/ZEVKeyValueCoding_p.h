@@ -3,8 +3,6 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/Export.h>
-
 #include <QVariant>
 
 class QObject;
@@ -15,16 +13,16 @@ namespace ZEVKeyValueCoding {
 
 /// Nil (an invalid variant) where an object on the way is null or has no such property. A key of a list is
 /// the list of its elements' values, in which a null pointer stands for nil.
-ZEV_EXPORT QVariant valueForKeyPath(const QObject *object, const QString &keyPath);
+QVariant valueForKeyPath(const QObject *object, const QString &keyPath);
 
 /// False where there is no such property, or it does not take \a value; nothing has changed then.
-ZEV_EXPORT bool setValue(QObject *object, const QVariant &value, const QString &keyPath);
+bool setValue(QObject *object, const QVariant &value, const QString &keyPath);
 
 /// Calls the object's own invokable setNilValueForKey(QString), else resets the property. False where it has
 /// neither.
-ZEV_EXPORT bool setNilValueForKey(QObject *object, const QString &key);
+bool setNilValueForKey(QObject *object, const QString &key);
 
 /// An invalid variant, a null pointer, and what Qt's properties hold for no value: a null string, null bytes.
-ZEV_EXPORT bool isNil(const QVariant &value);
+bool isNil(const QVariant &value);
 
 } // namespace ZEVKeyValueCoding

@@ -3,13 +3,11 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/Export.h>
-
 #include <QByteArray>
 
 /// A file's name in two halves. An extension is not empty and holds no white space: "Vol. 2" has none, nor
 /// have "Name." and ".hidden".
-struct ZEV_EXPORT ZEVFileName {
+struct ZEVFileName {
     enum class Dot {
         BeforeAnyExtension, ///< kept: also before an empty one, so that "Name" becomes "Name 2."
         BeforeExtensionOnly,

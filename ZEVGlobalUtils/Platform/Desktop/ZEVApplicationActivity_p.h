@@ -3,12 +3,10 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/Export.h>
-
 #include <QObject>
 
 /// Says when the application comes to the front and when it leaves it.
-class ZEV_EXPORT ZEVApplicationActivity : public QObject {
+class ZEVApplicationActivity : public QObject {
     Q_OBJECT
 
 public:

@@ -3,12 +3,10 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/Export.h>
-
 namespace ZEVCanonicalDecomposition {
 
 /// What a character begins with once it is decomposed (Unicode Standard Annex #15, NFD): "e" of "é", and the
 /// character itself where it has no parts. Any thread.
-ZEV_EXPORT char32_t baseCharacter(char32_t character);
+char32_t baseCharacter(char32_t character);
 
 } // namespace ZEVCanonicalDecomposition

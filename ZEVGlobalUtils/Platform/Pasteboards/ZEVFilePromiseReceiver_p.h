@@ -13,7 +13,7 @@ class ZEVError;
 
 /// A file that the source of a drag will write once it is told where: the receiving side of the X Direct Save
 /// protocol (freedesktop.org, XDS version 0).
-class ZEV_EXPORT ZEVFilePromiseReceiver {
+class ZEVFilePromiseReceiver {
 public:
     /// In bytes; what is larger is an error.
     static constexpr qint64 LargestFile = 256LL * 1024 * 1024;

@@ -3,8 +3,6 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/Export.h>
-
 #include <QIcon>
 #include <QList>
 #include <QUrl>
@@ -17,24 +15,24 @@
 namespace ZEVApplications {
 
 /// The user's choice for the kind of file that \a url is; invalid where there is none.
-ZEV_EXPORT QUrl URLForApplicationToOpenURL(const QUrl &url);
+QUrl URLForApplicationToOpenURL(const QUrl &url);
 
 /// All that can show or edit it, in the order of the user's associations.
-ZEV_EXPORT QList<QUrl> applicationURLsForURL(const QUrl &url);
+QList<QUrl> applicationURLsForURL(const QUrl &url);
 
 /// All that menus of applications show.
-ZEV_EXPORT QList<QUrl> applicationURLs();
+QList<QUrl> applicationURLs();
 
 /// The running application; invalid where it has no desktop entry.
-ZEV_EXPORT QUrl mainApplicationURL();
+QUrl mainApplicationURL();
 
 /// In the user's language; the file's name for what is no entry.
-ZEV_EXPORT QString displayName(const QUrl &application);
+QString displayName(const QUrl &application);
 
 /// Empty where the entry names none. The key "Version" does not: it is that of the entry's format.
-ZEV_EXPORT QString version(const QUrl &application);
+QString version(const QUrl &application);
 
-ZEV_EXPORT QIcon icon(const QUrl &application);
+QIcon icon(const QUrl &application);
 
 /// Why an application did not start.
 struct LaunchFailure {
@@ -44,6 +42,6 @@ struct LaunchFailure {
 
 /// Starts the application, without a shell, with all that it can take at once; the desktop is told that it
 /// comes up.
-ZEV_EXPORT std::optional<LaunchFailure> open(const QList<QUrl> &urls, const QUrl &application);
+std::optional<LaunchFailure> open(const QList<QUrl> &urls, const QUrl &application);
 
 } // namespace ZEVApplications

@@ -3,13 +3,11 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/Export.h>
-
 class QWidget;
 
 namespace ZEVReducedMotion {
 
 /// Whether the user's desktop asks for no animations: the style says so for all widgets alike.
-ZEV_EXPORT bool isRequested(const QWidget *view);
+bool isRequested(const QWidget *view);
 
 } // namespace ZEVReducedMotion

@@ -3,17 +3,15 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/Export.h>
-
 #include <functional>
 
 namespace ZEVMainThread {
 
-ZEV_EXPORT bool isMainThread();
+bool isMainThread();
 
 /// Runs \a work on the main thread and returns when it is done: at once when called there, else through the
 /// main thread's events, so that it must not wait for the caller. False when \a work was not and will not be
 /// run, because there is no application or it quits: nobody waits for a loop that has ended.
-ZEV_EXPORT bool callAndWait(const std::function<void()> &work);
+bool callAndWait(const std::function<void()> &work);
 
 } // namespace ZEVMainThread
