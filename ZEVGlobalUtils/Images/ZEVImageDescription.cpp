@@ -16,7 +16,6 @@
 #include <ZEVGlobalUtils/Transforms/ByteSizeTransformer.h>
 #include <ZEVGlobalUtils/Transforms/ResolutionTransformer.h>
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -50,10 +49,8 @@ std::optional<ZEVError> writePreview(const QByteArray &data, const QString &path
 /// Kept: that something is already there is swallowed without a word.
 void presentOnMainThread(const ZEVError &error)
 {
-    QCoreApplication *const application = QCoreApplication::instance();
-    if (application && error.code() != ZEVFileErrors::FileWriteFileExists)
-        QMetaObject::invokeMethod(
-            application, [error] { ZEVErrorPresentation::presentError(error); }, Qt::QueuedConnection);
+    if (error.code() != ZEVFileErrors::FileWriteFileExists)
+        ZEVErrorPresentation::presentErrorLater(error);
 }
 
 } // namespace

@@ -15,20 +15,7 @@
 #include <ZEVGlobalUtils/Platform/Questions/ZEVErrorPresentation.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVError.h>
 
-#include <QCoreApplication>
-
 using namespace Qt::StringLiterals;
-
-namespace {
-
-void presentLater(const ZEVError &error)
-{
-    if (QCoreApplication *const application = QCoreApplication::instance())
-        QMetaObject::invokeMethod(
-            application, [error] { ZEVErrorPresentation::presentError(error); }, Qt::QueuedConnection);
-}
-
-} // namespace
 
 void ZEVPboardImageWriter::setFileName(const QString &name)
 {
@@ -86,6 +73,6 @@ QByteArray ZEVPboardImageWriter::writePromisedFile() const
         || (ZEVErrorFileErrorHelpers::ZEV_isFileWriteFileExistsError(error)
             && ZEVURLFileOperationAttempter::attemptFWFERecoveryWithError(target, &written, write, &error)))
         return written.toEncoded();
-    presentLater(error);
+    ZEVErrorPresentation::presentErrorLater(error);
     return {};
 }

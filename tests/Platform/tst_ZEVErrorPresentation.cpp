@@ -5,7 +5,7 @@
 #include <ZEVGlobalUtils/Platform/Values/ZEVError.h>
 
 #include <QApplication>
-#include <QMessageBox>
+#include <QLabel>
 #include <QTest>
 #include <QTimer>
 
@@ -19,8 +19,9 @@ private Q_SLOTS:
     {
         bool seen = false;
         QTimer::singleShot(0, this, [&] {
-            auto *const alert = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-            seen = alert && alert->text() == u"<b>(a</b> & co" && alert->textFormat() == Qt::PlainText;
+            QWidget *const alert = QApplication::activeModalWidget();
+            for (const QLabel *label : alert->findChildren<QLabel *>())
+                seen |= label->text() == u"<b>(a</b> & co" && label->textFormat() == Qt::PlainText;
             QTest::keyClick(alert, Qt::Key_Escape);
         });
         ZEVErrorPresentation::presentError(

@@ -83,8 +83,11 @@ private Q_SLOTS:
 
     void foldersAreOpenedAgain()
     {
-        const QTemporaryDir one, other;
-        const QString first = QDir(one.path()).dirName(), second = QDir(other.path()).dirName();
+        const QTemporaryDir place;
+        const QString first = u"Sea"_s, second = u"Hills"_s; // short ones: a button shortens what is long
+        const QDir one(place.filePath(first)), other(place.filePath(second));
+        QVERIFY(one.mkpath(u"."_s));
+        QVERIFY(other.mkpath(u"."_s));
         Shown shown;
         auto *button = shown.window.findChild<ZEVURLPopUpButton *>();
         QCOMPARE(titles(*button->menu()), u"Choose…"_s);
@@ -108,7 +111,8 @@ private Q_SLOTS:
         });
         button->otherItem()->trigger();
         QCoreApplication::processEvents();
-        QVERIFY(shown.window.folder() == one.path() && button->text() == first); // its texts were kept
+        QCOMPARE(shown.window.folder(), one.path());
+        QCOMPARE(button->text(), first); // its texts were kept
         ZEVOpenPanel::setRunner({});
     }
 };

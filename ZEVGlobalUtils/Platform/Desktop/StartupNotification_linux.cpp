@@ -3,34 +3,20 @@
 
 #include <ZEVGlobalUtils/Platform/Desktop/ZEVStartupNotification_p.h>
 
-#include <QGuiApplication>
+#include <ZEVGlobalUtils/Platform/Values/ZEVX11_p.h>
+
 #include <QSysInfo>
 #include <QWindow>
 
 #include <algorithm>
-#include <cstdlib>
 #include <cstring>
-#include <memory>
 #include <unistd.h>
-#include <xcb/xcb.h>
+
+using namespace ZEVX11;
 
 namespace {
 
 constexpr qsizetype BytesInMessage = 20;
-
-xcb_connection_t *connection()
-{
-    const auto *const x11 = qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
-    return x11 ? x11->connection() : nullptr;
-}
-
-xcb_atom_t atom(xcb_connection_t *server, QByteArrayView name)
-{
-    const auto cookie = xcb_intern_atom(server, false, quint16(name.size()), name.data());
-    const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> reply(
-        xcb_intern_atom_reply(server, cookie, nullptr), &std::free);
-    return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
-}
 
 /// When the user did what the application is started for: a desktop does not let older windows come up.
 quint32 lastUserTime(xcb_connection_t *server)
@@ -40,8 +26,7 @@ quint32 lastUserTime(xcb_connection_t *server)
         return 0;
     const auto cookie = xcb_get_property(server, false, xcb_window_t(window->winId()),
                                          atom(server, "_NET_WM_USER_TIME"), XCB_ATOM_CARDINAL, 0, 1);
-    const std::unique_ptr<xcb_get_property_reply_t, decltype(&std::free)> reply(
-        xcb_get_property_reply(server, cookie, nullptr), &std::free);
+    const auto reply = owned(xcb_get_property_reply(server, cookie, nullptr));
     quint32 time = 0;
     if (reply && xcb_get_property_value_length(reply.get()) == sizeof time)
         std::memcpy(&time, xcb_get_property_value(reply.get()), sizeof time);

@@ -3,35 +3,11 @@
 
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVDirectSave_p.h>
 
-#include <QGuiApplication>
+#include <ZEVGlobalUtils/Platform/Values/ZEVX11_p.h>
 
-#include <cstdlib>
-#include <memory>
-#include <xcb/xcb.h>
+using namespace ZEVX11;
 
 namespace {
-
-template <typename Reply>
-using ReplyOf = std::unique_ptr<Reply, decltype(&std::free)>;
-
-template <typename Reply>
-ReplyOf<Reply> owned(Reply *reply)
-{
-    return {reply, &std::free};
-}
-
-xcb_connection_t *connection()
-{
-    const auto *const x11 = qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
-    return x11 ? x11->connection() : nullptr;
-}
-
-xcb_atom_t atom(xcb_connection_t *server, QByteArrayView name)
-{
-    const auto cookie = xcb_intern_atom(server, false, quint16(name.size()), name.data());
-    const auto reply = owned(xcb_intern_atom_reply(server, cookie, nullptr));
-    return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
-}
 
 /// The window that owns the drag: the protocol's property lives on it.
 xcb_window_t dragOwner(xcb_connection_t *server)

@@ -9,7 +9,7 @@
 #include <ZEVGlobalUtils/Platform/Values/ZEVLog_p.h>
 
 #include <QApplication>
-#include <QMessageBox>
+#include <QStyle>
 
 namespace {
 
@@ -21,11 +21,10 @@ ZEVErrorPresentation::Presenter &hostPresenter()
 
 void showAlert(const ZEVError &error)
 {
-    QMessageBox alert(QMessageBox::Critical, QGuiApplication::applicationDisplayName(),
-                      error.localizedDescription(), QMessageBox::Ok, QApplication::activeWindow());
-    // Expressions and file names stand in these texts: none of them may be taken for rich text.
-    alert.setTextFormat(Qt::PlainText);
-    alert.exec();
+    ZEVAlert alert = ZEVAlert::alertWithError(error);
+    alert.icon = QApplication::style()->standardIcon(QStyle::SP_MessageBoxCritical);
+    alert.escapeButton = 0;
+    alert.runModal();
 }
 
 bool askForRecovery(const ZEVError &error, ZEVErrorRecoveryAttempting &attempter)
@@ -48,6 +47,12 @@ bool ZEVErrorPresentation::presentError(const ZEVError &error)
     else
         qCWarning(zevLog).noquote() << error.localizedDescription();
     return false;
+}
+
+void ZEVErrorPresentation::presentErrorLater(const ZEVError &error)
+{
+    if (QCoreApplication *const application = QCoreApplication::instance())
+        QMetaObject::invokeMethod(application, [error] { presentError(error); }, Qt::QueuedConnection);
 }
 
 ZEVErrorPresentation::Presenter ZEVErrorPresentation::setPresenter(Presenter presenter)
