@@ -6,7 +6,7 @@
 
 #include "MusicTitles.h"
 
-#include <ZEVGlobalUtils/Transforms/ZEVStringScorer.h>
+#include <ZEVGlobalUtils/Transforms/Texts/ZEVStringScorer.h>
 
 #include <benchmark/benchmark.h>
 

@@ -6,7 +6,7 @@
 
 #include "MusicTitles.h"
 
-#include <ZEVGlobalUtils/Transforms/ZEVStringTransforms.h>
+#include <ZEVGlobalUtils/Transforms/Texts/ZEVStringTransforms.h>
 
 #include <benchmark/benchmark.h>
 #include <unicode/brkiter.h>

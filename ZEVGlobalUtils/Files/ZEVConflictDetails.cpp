@@ -6,7 +6,7 @@
 #include <ZEVGlobalUtils/Platform/Desktop/ZEVWorkspace_p.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
-#include <ZEVGlobalUtils/Transforms/ZEVByteCountFormatter.h>
+#include <ZEVGlobalUtils/Transforms/Formatters/ZEVByteCountFormatter.h>
 
 #include <QDateTime>
 #include <QFileInfo>

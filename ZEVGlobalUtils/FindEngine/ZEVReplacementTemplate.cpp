@@ -7,7 +7,7 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVOrvCaptureMatch.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVPattern_p.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpressionMatcher.h>
-#include <ZEVGlobalUtils/Transforms/ZEVValueTransformer.h>
+#include <ZEVGlobalUtils/Transforms/Formatters/ZEVValueTransformer.h>
 
 #include <QHash>
 

@@ -13,8 +13,8 @@
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboard.h>
 #include <ZEVGlobalUtils/Platform/Questions/ZEVErrorPresentation.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVDataMD5.h>
-#include <ZEVGlobalUtils/Transforms/ByteSizeTransformer.h>
-#include <ZEVGlobalUtils/Transforms/ResolutionTransformer.h>
+#include <ZEVGlobalUtils/Transforms/Formatters/ByteSizeTransformer.h>
+#include <ZEVGlobalUtils/Transforms/Formatters/ResolutionTransformer.h>
 
 #include <QDir>
 #include <QFileInfo>

@@ -3,12 +3,12 @@
 
 #include "../Rows.h"
 
-#include <ZEVGlobalUtils/Transforms/FileSizeTransformer.h>
-#include <ZEVGlobalUtils/Transforms/ZEVByteCountFormatter.h>
-#include <ZEVGlobalUtils/Transforms/ZEVISO8601DateFormatter.h>
-#include <ZEVGlobalUtils/Transforms/ZEVShortDateFormatter.h>
-#include <ZEVGlobalUtils/Transforms/ZEVValueTransformer.h>
-#include <ZEVGlobalUtils/Transforms/ZEVZeroAsNilNumericEnforcer.h>
+#include <ZEVGlobalUtils/Transforms/Formatters/FileSizeTransformer.h>
+#include <ZEVGlobalUtils/Transforms/Formatters/ZEVByteCountFormatter.h>
+#include <ZEVGlobalUtils/Transforms/Formatters/ZEVISO8601DateFormatter.h>
+#include <ZEVGlobalUtils/Transforms/Formatters/ZEVShortDateFormatter.h>
+#include <ZEVGlobalUtils/Transforms/Formatters/ZEVValueTransformer.h>
+#include <ZEVGlobalUtils/Transforms/Formatters/ZEVZeroAsNilNumericEnforcer.h>
 
 #include <QLineEdit>
 #include <QSet>

@@ -4,14 +4,14 @@
 #include "../Rows.h"
 
 #include <ZEVGlobalUtils/Platform/Text/ZEVCharacterSet.h>
-#include <ZEVGlobalUtils/Transforms/FileSizeTransformer.h>
-#include <ZEVGlobalUtils/Transforms/ZEVISO8601DateFormatter.h>
-#include <ZEVGlobalUtils/Transforms/ZEVShortDateFormatter.h>
-#include <ZEVGlobalUtils/Transforms/ZEVStringScorer.h>
-#include <ZEVGlobalUtils/Transforms/ZEVStringStrip.h>
-#include <ZEVGlobalUtils/Transforms/ZEVStringTransforms.h>
-#include <ZEVGlobalUtils/Transforms/ZEVValueTransformer.h>
-#include <ZEVGlobalUtils/Transforms/ZEVZeroAsNilNumericEnforcer.h>
+#include <ZEVGlobalUtils/Transforms/Formatters/FileSizeTransformer.h>
+#include <ZEVGlobalUtils/Transforms/Formatters/ZEVISO8601DateFormatter.h>
+#include <ZEVGlobalUtils/Transforms/Formatters/ZEVShortDateFormatter.h>
+#include <ZEVGlobalUtils/Transforms/Formatters/ZEVValueTransformer.h>
+#include <ZEVGlobalUtils/Transforms/Formatters/ZEVZeroAsNilNumericEnforcer.h>
+#include <ZEVGlobalUtils/Transforms/Texts/ZEVStringScorer.h>
+#include <ZEVGlobalUtils/Transforms/Texts/ZEVStringStrip.h>
+#include <ZEVGlobalUtils/Transforms/Texts/ZEVStringTransforms.h>
 
 #include <QLocale>
 #include <QProcess>

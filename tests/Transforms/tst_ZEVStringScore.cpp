@@ -3,8 +3,8 @@
 
 #include "../Rows.h"
 
-#include <ZEVGlobalUtils/Transforms/ZEVStringScore.h>
-#include <ZEVGlobalUtils/Transforms/ZEVStringScorer.h>
+#include <ZEVGlobalUtils/Transforms/Texts/ZEVStringScore.h>
+#include <ZEVGlobalUtils/Transforms/Texts/ZEVStringScorer.h>
 
 #include <algorithm>
 #include <cmath>

@@ -4,8 +4,8 @@
 #include "../Rows.h"
 
 #include <ZEVGlobalUtils/Platform/Text/ZEVCharacterSet.h>
-#include <ZEVGlobalUtils/Transforms/ZEVStringStrip.h>
-#include <ZEVGlobalUtils/Transforms/ZEVStringTransforms.h>
+#include <ZEVGlobalUtils/Transforms/Texts/ZEVStringStrip.h>
+#include <ZEVGlobalUtils/Transforms/Texts/ZEVStringTransforms.h>
 
 using namespace Qt::StringLiterals;
 using namespace ZEVStringStrip;

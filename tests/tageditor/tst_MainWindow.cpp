@@ -6,7 +6,7 @@
 #include <tageditor/inspector/Inspector.h>
 #include <tageditor/window/ProgressView.h>
 
-#include <ZEVGlobalUtils/Transforms/FileSizeTransformer.h>
+#include <ZEVGlobalUtils/Transforms/Formatters/FileSizeTransformer.h>
 
 #include <QAccessible>
 #include <QApplication>

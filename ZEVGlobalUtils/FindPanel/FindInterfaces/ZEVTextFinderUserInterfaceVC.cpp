@@ -12,7 +12,7 @@
 #include <ZEVGlobalUtils/Platform/Questions/ZEVErrorCatcher.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
-#include <ZEVGlobalUtils/Transforms/ZEVMatchesCountDisplayTransformer.h>
+#include <ZEVGlobalUtils/Transforms/Formatters/ZEVMatchesCountDisplayTransformer.h>
 
 #include <QComboBox>
 #include <QFontDatabase>

@@ -11,8 +11,8 @@
 #include <tageditor/tracks/TrackTableModel.h>
 
 #include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVTextEditFinderClient.h>
-#include <ZEVGlobalUtils/Transforms/FileSizeTransformer.h>
-#include <ZEVGlobalUtils/Transforms/ZEVShortDateFormatter.h>
+#include <ZEVGlobalUtils/Transforms/Formatters/FileSizeTransformer.h>
+#include <ZEVGlobalUtils/Transforms/Formatters/ZEVShortDateFormatter.h>
 
 #include <QApplication>
 #include <QFormLayout>

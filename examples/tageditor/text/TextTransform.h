@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/Transforms/ZEVCaseRules.h>
+#include <ZEVGlobalUtils/Transforms/Texts/ZEVCaseRules.h>
 
 #include <QCoreApplication>
 #include <QList>

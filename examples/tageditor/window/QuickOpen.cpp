@@ -4,7 +4,7 @@
 #include <tageditor/window/QuickOpen.h>
 
 #include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVHighlightDelegate.h>
-#include <ZEVGlobalUtils/Transforms/ZEVValueTransformer.h>
+#include <ZEVGlobalUtils/Transforms/Formatters/ZEVValueTransformer.h>
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/Transforms/ZEVStringScorer.h>
+#include <ZEVGlobalUtils/Transforms/Texts/ZEVStringScorer.h>
 
 #include <QAbstractListModel>
 

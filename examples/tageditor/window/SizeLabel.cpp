@@ -5,7 +5,7 @@
 
 #include <tageditor/tracks/TableSelection.h>
 
-#include <ZEVGlobalUtils/Transforms/ZEVValueTransformer.h>
+#include <ZEVGlobalUtils/Transforms/Formatters/ZEVValueTransformer.h>
 
 #include <QItemSelectionModel>
 
