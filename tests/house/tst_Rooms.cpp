@@ -94,7 +94,8 @@ private Q_SLOTS:
             {u"#include <unicode/regex.h>"_s, {}},
         };
         for (const auto &[line, forbidden] : rows)
-            COMPARE_ROW(line, forbiddenIncludes(line, u"Transforms/Texts"_s, allowedRooms()).join(u' '), forbidden);
+            COMPARE_ROW(line, forbiddenIncludes(line, u"Transforms/Texts"_s, allowedRooms()).join(u' '),
+                        forbidden);
     }
 
     void theTableHasNoCircle()
