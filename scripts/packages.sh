@@ -6,7 +6,7 @@
 build_packages=(
     g++ cmake ninja-build ccache pkg-config
     qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6opengl6-dev libgl1-mesa-dev
-    qt6-translations-l10n libicu-dev libglib2.0-dev libtag1-dev libxcb1-dev qt6-image-formats-plugins
+    qt6-translations-l10n libicu-dev libglib2.0-dev libtag1-dev libxcb1-dev libjpeg62-turbo-dev qt6-image-formats-plugins
 )
 # Without a display of its own, a machine also lacks the server and the fonts.
 display_packages=(xvfb xauth fonts-dejavu-core fonts-ipafont-gothic fonts-noto-color-emoji)

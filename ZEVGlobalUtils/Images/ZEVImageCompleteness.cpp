@@ -6,10 +6,21 @@
 #include <ZEVGlobalUtils/Images/ZEVByteReader_p.h>
 #include <ZEVGlobalUtils/Images/ZEVJPEGMarkers_p.h>
 
+#include <limits>
+
 namespace {
 
-/// A progressive picture has about ten scans; thousands of them keep a decoder busy for minutes.
-constexpr int MostScans = 100;
+/// Pixels that are decoded at all; JPEGs are read at a fraction of their size.
+constexpr quint64 MostPixels = 128'000'000, MostJpegPixels = 500'000'000;
+/// A progressive picture has about ten scans, each of which runs over all pixels; thousands of them keep a
+/// decoder busy for minutes.
+constexpr quint64 MostPixelsOfAllScans = 400'000'000;
+/// What has several scans is held as coefficients, two bytes each, until the last one has come.
+constexpr quint64 MostCoefficientBytes = 192ULL * 1024 * 1024;
+/// A block of 64 pixels takes at least two bits where every block is coded.
+constexpr quint64 MostPixelsInByte = 256;
+
+quint64 pixels(const QSize &size) { return quint64(size.width()) * quint64(size.height()); }
 
 /// The length of the colour table that the packed field announces.
 int colorTableSize(quint8 packed) { return (packed & 0x80) != 0 ? 3 << ((packed & 7) + 1) : 0; }
@@ -22,18 +33,84 @@ quint64 subBlocksEnd(ZEVByteReader &reader, quint64 at)
     return at + 1;
 }
 
-/// GIF89a specification: extensions may come before the first image.
+/// GIF89a specification: the position of the next image behind the extensions; something else stands there
+/// behind the last one.
+quint64 nextGifImage(ZEVByteReader &reader, quint64 at)
+{
+    while (reader.byte(at) == 0x21)
+        at = subBlocksEnd(reader, at + 2);
+    return at;
+}
+
+bool isGifImage(ZEVByteReader &reader, quint64 at) { return reader.byte(at) == 0x2C; }
+
+quint64 gifImageEnd(ZEVByteReader &reader, quint64 at)
+{
+    return subBlocksEnd(reader, at + 10 + colorTableSize(reader.byte(at + 9)) + 1);
+}
+
+quint64 firstGifImage(ZEVByteReader &reader)
+{
+    return nextGifImage(reader, 13ULL + colorTableSize(reader.byte(10)));
+}
+
 bool isGifComplete(QByteArrayView bytes)
 {
     ZEVByteReader reader(bytes, ZEVByteReader::LittleEndian);
-    quint64 at = 13ULL + colorTableSize(reader.byte(10));
-    while (reader.byte(at) == 0x21)
-        at = subBlocksEnd(reader, at + 2);
-    if (reader.byte(at) != 0x2C)
+    const quint64 first = firstGifImage(reader);
+    if (!isGifImage(reader, first))
         return false;
-    const quint64 data = at + 10 + colorTableSize(reader.byte(at + 9)) + 1;
-    subBlocksEnd(reader, data);
+    gifImageEnd(reader, first);
     return !reader.hasReadPastEnd();
+}
+
+bool isGifAnimated(QByteArrayView bytes)
+{
+    ZEVByteReader reader(bytes, ZEVByteReader::LittleEndian);
+    const quint64 first = firstGifImage(reader);
+    return isGifImage(reader, first) && isGifImage(reader, nextGifImage(reader, gifImageEnd(reader, first)));
+}
+
+/// PNG specification, third edition: the chunk acTL comes before the pixels.
+bool isPngAnimated(QByteArrayView bytes)
+{
+    ZEVByteReader reader(bytes, ZEVByteReader::BigEndian);
+    for (quint64 at = 8; !reader.hasReadPastEnd() && !reader.isTag(at + 4, "IDAT");
+         at += 12ULL + reader.longWord(at)) {
+        if (reader.isTag(at + 4, "acTL"))
+            return true;
+    }
+    return false;
+}
+
+/// RFC 9649: a flag of the extended form.
+bool isWebpAnimated(QByteArrayView bytes)
+{
+    ZEVByteReader reader(bytes, ZEVByteReader::LittleEndian);
+    return reader.isTag(12, "VP8X") && (reader.byte(20) & 2) != 0;
+}
+
+/// Every encoder ends with the marker, but some programs cut it off; what counts is that no pixel is missing.
+bool isJpegComplete(const QSize &pixelSize, QByteArrayView bytes)
+{
+    const auto frame = ZEVJPEGMarkers::frame(bytes);
+    if (!frame || (frame->isSequential && pixels(pixelSize) / MostPixelsInByte > quint64(bytes.size())))
+        return false;
+    const auto scans = ZEVJPEGMarkers::scans(bytes, std::numeric_limits<int>::max());
+    return scans.count > 0 && (scans.areEnded || ZEVJPEGMarkers::hasAllPixels(bytes));
+}
+
+bool isJpegWorthDecoding(const QSize &pixelSize, QByteArrayView bytes)
+{
+    const auto frame = ZEVJPEGMarkers::frame(bytes);
+    const quint64 all = pixels(pixelSize);
+    if (!frame || all > MostJpegPixels)
+        return !frame;
+    const int most = int(MostPixelsOfAllScans / std::max<quint64>(all, 1));
+    const int scans = ZEVJPEGMarkers::scans(bytes, std::max(most, 1)).count;
+    if (frame->isSequential && scans <= 1)
+        return true;
+    return scans <= most && all * 2 * quint64(frame->components) <= MostCoefficientBytes;
 }
 
 /// Rows without compression, or with colour masks, have a length that is known beforehand.
@@ -56,12 +133,33 @@ bool ZEVImageCompleteness::isComplete(const ZEVImageIdentification &identificati
 {
     switch (identification.format) {
     case ZEVImageIdentification::JPEG:
-        return ZEVJPEGMarkers::endsAfterScans(bytes, MostScans);
+        return isJpegComplete(identification.pixelSize, bytes);
     case ZEVImageIdentification::GIF:
         return isGifComplete(bytes);
     case ZEVImageIdentification::BMP:
         return isBmpComplete(identification.pixelSize, bytes);
     default:
         return identification.format != ZEVImageIdentification::Unknown;
+    }
+}
+
+bool ZEVImageCompleteness::isWorthDecoding(const ZEVImageIdentification &identification, QByteArrayView bytes)
+{
+    return identification.format == ZEVImageIdentification::JPEG
+        ? isJpegWorthDecoding(identification.pixelSize, bytes)
+        : pixels(identification.pixelSize) <= MostPixels;
+}
+
+bool ZEVImageCompleteness::isAnimated(const ZEVImageIdentification &identification, QByteArrayView bytes)
+{
+    switch (identification.format) {
+    case ZEVImageIdentification::GIF:
+        return isGifAnimated(bytes);
+    case ZEVImageIdentification::PNG:
+        return isPngAnimated(bytes);
+    case ZEVImageIdentification::WebP:
+        return isWebpAnimated(bytes);
+    default:
+        return false;
     }
 }

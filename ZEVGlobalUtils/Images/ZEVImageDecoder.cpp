@@ -4,47 +4,192 @@
 #include <ZEVGlobalUtils/Images/ZEVImageDecoder_p.h>
 
 #include <ZEVGlobalUtils/Images/ZEVImageCompleteness_p.h>
+#include <ZEVGlobalUtils/Images/ZEVImageOrientation_p.h>
 
 #include <QBuffer>
+#include <QColorSpace>
 #include <QImageReader>
+#include <QPainter>
 #include <QPixelFormat>
+
+#include <cmath>
 
 namespace {
 
 /// Qt's limit belongs to the process and a host may have lifted it; this one is ours. It is enough for 33
-/// million pixels of 8 bits a channel.
+/// million pixels of 8 bits a channel. What is made of a picture may take as much again.
 constexpr qint64 MostDecodedBytes = 128LL * 1024 * 1024;
+/// Larger pictures are kept scaled down to this many pixels.
+constexpr qint64 MostKeptPixels = 16LL * 1024 * 1024;
 
-/// Palettes are decoded to true colour at times, so nothing counts as less than 32 bits. Only these two
-/// formats can have more, and the reader of JPEG has no right answer where the header is damaged.
-int bitsPerPixel(const QImageReader &reader, ZEVImageIdentification::Format format)
+qint64 pixels(const QSize &size) { return qint64(size.width()) * size.height(); }
+
+QByteArray formatName(const ZEVImageIdentification &identification)
 {
-    const bool mayBeDeep = format == ZEVImageIdentification::PNG || format == ZEVImageIdentification::TIFF;
-    const QImage::Format decoded = mayBeDeep ? reader.imageFormat() : QImage::Format_Invalid;
-    return std::max(32, int(QImage::toPixelFormat(decoded).bitsPerPixel()));
+    return identification.mimeType().section(u'/', 1).toLatin1();
 }
 
-bool fits(const QSize &size, int bits)
+bool hasDecoder(const ZEVImageIdentification &identification)
 {
-    return qint64(size.width()) * size.height() <= MostDecodedBytes / (bits / 8);
+    return ZEVImageDecoder::isDecodedMimeType(identification.mimeType());
+}
+
+/// Reads one picture from the bytes of one format, as far as our limits allow.
+class Reader {
+public:
+    Reader(const ZEVImageIdentification &identification, const QByteArray &data)
+        : m_identification(identification)
+        , m_data(data)
+    {
+        m_buffer.setData(data);
+        m_reader.setDevice(&m_buffer);
+        m_reader.setFormat(formatName(identification));
+        m_reader.setAutoDetectImageFormat(false);
+        m_reader.setAutoTransform(false); // some formats know of it, and some do not
+    }
+
+    /// Nil when the whole picture does not fit and the format is not read in parts.
+    std::optional<QImage> read()
+    {
+        const QSize size = m_identification.pixelSize;
+        // Asked twice, since the reader has to look into the file for its answer.
+        if (pixels(size) * 4 > MostDecodedBytes || pixels(size) * bitsPerPixel() / 8 > MostDecodedBytes) {
+            const QSize part = partSize();
+            if (part.isEmpty())
+                return std::nullopt;
+            m_reader.setScaledSize(part);
+        }
+        return m_reader.read();
+    }
+
+private:
+    /// Palettes are decoded to true colour at times, and Qt's own limit counts so, too: nothing is less than 32
+    /// bits. Only these two formats can have more, and the decoder of JPEG has no right answer where the header
+    /// is damaged.
+    int bitsPerPixel()
+    {
+        const bool mayBeDeep = m_identification.format == ZEVImageIdentification::PNG
+            || m_identification.format == ZEVImageIdentification::TIFF;
+        const QImage::Format decoded = mayBeDeep ? m_reader.imageFormat() : QImage::Format_Invalid;
+        return std::max(32, int(QImage::toPixelFormat(decoded).bitsPerPixel()));
+    }
+
+    /// The size in which the decoder can read without having the whole; empty where it cannot.
+    QSize partSize() const
+    {
+        const QSize size = m_identification.pixelSize;
+        switch (m_identification.format) {
+        case ZEVImageIdentification::JPEG: // by the powers of two of its transform, without a step in between
+            for (int divisor = 2; divisor <= 8; divisor *= 2) {
+                const QSize part((size.width() + divisor - 1) / divisor,
+                                 (size.height() + divisor - 1) / divisor);
+                if (pixels(part) * 4 <= MostDecodedBytes)
+                    return part;
+            }
+            return {};
+        case ZEVImageIdentification::PNG:
+            return readsByRows() ? size.scaled(keptEdges(size), Qt::KeepAspectRatio).expandedTo({1, 1})
+                                 : QSize();
+        default:
+            return {};
+        }
+    }
+
+    /// Rows of true colour with 8 bits, from the top to the bottom.
+    bool readsByRows() const
+    {
+        constexpr qsizetype Depth = 24, ColorType = 25, Interlace = 28;
+        return m_data.size() > Interlace && m_data[Depth] == 8
+            && (m_data[ColorType] == 2 || m_data[ColorType] == 6) && m_data[Interlace] == 0;
+    }
+
+    static QSize keptEdges(const QSize &size)
+    {
+        const double scale = std::sqrt(double(MostKeptPixels) / double(pixels(size)));
+        return {int(size.width() * scale), int(size.height() * scale)};
+    }
+
+    ZEVImageIdentification m_identification;
+    QByteArray m_data;
+    QBuffer m_buffer;
+    QImageReader m_reader;
+};
+
+/// One band after the other in the same place, since what is scaled has to be in true colour.
+QImage scaledDown(const QImage &image)
+{
+    const double scale = std::sqrt(double(MostKeptPixels) / double(pixels(image.size())));
+    if (scale >= 1)
+        return image;
+    constexpr int Rows = 64;
+    const QImage::Format format =
+        image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
+    const QSize size = QSize(int(image.width() * scale), int(image.height() * scale)).expandedTo({1, 1});
+    QImage scaled(size, format), band(image.width(), int(std::ceil(Rows / scale)), format);
+    scaled.setColorSpace(image.colorSpace());
+    QPainter painter(&scaled);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    for (int top = 0; top < size.height(); top += Rows) {
+        QPainter source(&band);
+        source.setCompositionMode(QPainter::CompositionMode_Source);
+        source.drawImage(QPoint(0, -int(top / scale)), image);
+        painter.drawImage(0, top,
+                          band.scaled(size.width(), Rows, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    }
+    return scaled;
+}
+
+/// In the colours that windows are drawn in.
+QImage inStandardColors(QImage image)
+{
+    const QColorSpace standard = QColorSpace::SRgb;
+    if (image.colorSpace().isValid() && image.colorSpace() != standard)
+        image.convertToColorSpace(standard);
+    return image;
+}
+
+ZEVImageDecoder::Outcome outcomeBeforeReading(const ZEVImageIdentification &identification,
+                                              const QByteArray &data)
+{
+    using ZEVImageDecoder::Outcome;
+    if (identification.format == ZEVImageIdentification::Unknown)
+        return Outcome::NoImage;
+    if (!hasDecoder(identification))
+        return Outcome::NoDecoder;
+    if (!identification.pixelSize.isValid())
+        return Outcome::Damaged;
+    if (!ZEVImageCompleteness::isWorthDecoding(identification, data))
+        return Outcome::TooLarge;
+    return ZEVImageCompleteness::isComplete(identification, data) ? Outcome::Shown : Outcome::Damaged;
 }
 
 } // namespace
 
-QImage ZEVImageDecoder::imageWithData(const QByteArray &data)
+ZEVImageDecoder::Picture ZEVImageDecoder::pictureWithData(const QByteArray &data)
 {
     const auto identification = ZEVImageIdentification::identificationWithData(data);
-    if (!identification.pixelSize.isValid() || !ZEVImageCompleteness::isComplete(identification, data))
-        return {};
-    QBuffer buffer;
-    buffer.setData(data);
-    QImageReader reader(&buffer, identification.mimeType().section(u'/', 1).toLatin1());
-    reader.setAutoDetectImageFormat(false);
-    // Asked twice, since the reader has to look into the file for its answer.
-    if (!fits(identification.pixelSize, 32)
-        || !fits(identification.pixelSize, bitsPerPixel(reader, identification.format)))
-        return {};
-    QImage image = reader.read();
-    image.setDevicePixelRatio(1);
-    return image;
+    const int orientation = ZEVImageOrientation::orientation(identification, data);
+    Picture picture;
+    picture.outcome = outcomeBeforeReading(identification, data);
+    picture.storedSize = identification.pixelSize.expandedTo({0, 0});
+    picture.isAnimated = ZEVImageCompleteness::isAnimated(identification, data);
+    if (picture.outcome == Outcome::Shown) {
+        const auto image = Reader(identification, data).read();
+        picture.outcome = !image ? Outcome::TooLarge : image->isNull() ? Outcome::Damaged : Outcome::Shown;
+        if (image && !image->isNull())
+            picture.image = ZEVImageOrientation::upright(inStandardColors(scaledDown(*image)), orientation);
+        picture.image.setDevicePixelRatio(1);
+    }
+    if (picture.outcome == Outcome::Damaged)
+        picture.storedSize = {0, 0};
+    picture.shownSize =
+        ZEVImageOrientation::isTransposed(orientation) ? picture.storedSize.transposed() : picture.storedSize;
+    return picture;
+}
+
+bool ZEVImageDecoder::isDecodedMimeType(const QString &mimeType)
+{
+    static const QList<QByteArray> decoded = QImageReader::supportedImageFormats();
+    return ZEVImageIdentification::mimeTypes().contains(mimeType)
+        && decoded.contains(mimeType.section(u'/', 1).toLatin1());
 }

@@ -7,12 +7,14 @@
 #include <ZEVGlobalUtils/Images/ZEVDataBitmapData.h>
 #include <ZEVGlobalUtils/Images/ZEVImageDecoder_p.h>
 #include <ZEVGlobalUtils/Images/ZEVImageFile_p.h>
+#include <ZEVGlobalUtils/Images/ZEVImageIdentification.h>
 #include <ZEVGlobalUtils/Images/ZEVPreviewPanel.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileErrors.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVPrivateFolder_p.h>
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboard.h>
 #include <ZEVGlobalUtils/Platform/Questions/ZEVErrorPresentation.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVDataMD5.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 #include <ZEVGlobalUtils/Transforms/Formatters/ByteSizeTransformer.h>
 #include <ZEVGlobalUtils/Transforms/Formatters/ResolutionTransformer.h>
 
@@ -53,14 +55,49 @@ void presentOnMainThread(const ZEVError &error)
         ZEVErrorPresentation::presentErrorLater(error);
 }
 
+QString remarkOn(const ZEVImageDecoder::Picture &picture, const QByteArray &data)
+{
+    using ZEVImageDecoder::Outcome;
+    switch (picture.outcome) {
+    case Outcome::Shown:
+        return picture.isAnimated ? ZEVGlobalHelper::localizedStringForKey(u"animated") : QString();
+    case Outcome::NoImage:
+        return ZEVGlobalHelper::localizedStringForKey(u"no known image format");
+    case Outcome::NoDecoder:
+        return ZEVGlobalHelper::localizedStringForKey(u"no decoder for %1")
+            .arg(ZEVImageIdentification::identificationWithData(data).formatName());
+    case Outcome::Damaged:
+        return ZEVGlobalHelper::localizedStringForKey(u"damaged");
+    case Outcome::TooLarge:
+        break;
+    }
+    return ZEVGlobalHelper::localizedStringForKey(u"too large to be shown");
+}
+
 } // namespace
 
 ZEVImageDescription::ZEVImageDescription(const QByteArray &bitmapData)
     : m_bitmapData(bitmapData)
-    , m_image(ZEVImageDecoder::imageWithData(bitmapData))
     , m_type(ZEVDataBitmapData::bitmapImageType(bitmapData))
-    , m_dimensions(ResolutionTransformer().transformedValue(QSizeF(m_image.size())).toString())
 {
+    const ZEVImageDecoder::Picture picture = ZEVImageDecoder::pictureWithData(bitmapData);
+    m_image = picture.image;
+    m_size = picture.storedSize;
+    m_shownSize = picture.shownSize;
+    m_remark = remarkOn(picture, bitmapData);
+    m_dimensions = ResolutionTransformer().transformedValue(m_size).toString();
+}
+
+QUrl ZEVImageDescription::originURL() const
+{
+    const QMutexLocker lock(&m_originLock);
+    return m_originURL;
+}
+
+void ZEVImageDescription::setOriginURL(const QUrl &url)
+{
+    const QMutexLocker lock(&m_originLock);
+    m_originURL = url;
 }
 
 QString ZEVImageDescription::imageDescription() const

@@ -7,20 +7,23 @@
 
 #include <QByteArray>
 #include <QImage>
+#include <QMutex>
 
-/// A summary of one piece of artwork, made once from its encoded bytes. Bytes that cannot be decoded, or
-/// would take more memory than any artwork needs, have no picture and a size of 0 by 0; the rest still tells
-/// of them. Different threads may read the same description.
+/// A summary of one piece of artwork, made once from its encoded bytes. What is damaged or no image has no
+/// picture and a size of 0 by 0, what cannot be shown for another reason has the size that it says it has; the
+/// rest tells of it all the same. Making it decodes the picture, which may take a while: any thread. Different
+/// threads may read and set the same description.
 class ZEV_EXPORT ZEVImageDescription : public ZEVPreviewItem {
 public:
     explicit ZEVImageDescription(const QByteArray &bitmapData);
 
     /// Where the artwork came from, invalid when that is not known.
-    const QUrl &originURL() const { return m_originURL; }
-    void setOriginURL(const QUrl &url) { m_originURL = url; }
+    QUrl originURL() const;
+    void setOriginURL(const QUrl &url);
 
     const QByteArray &bitmapData() const { return m_bitmapData; }
-    /// The first frame or page as it is stored, one point a pixel; null when it cannot be decoded.
+    /// The first frame or page, upright and in sRGB, one point a pixel; scaled down to 16 million pixels where it
+    /// has more. Null when it cannot be shown.
     const QImage &image() const { return m_image; }
     /// The name of the format by the first byte, "PNG" and the like.
     const QString &type() const { return m_type; }
@@ -28,8 +31,14 @@ public:
     const QString &dimensions() const { return m_dimensions; }
     /// In bytes.
     quint64 byteSize() const { return quint64(m_bitmapData.size()); }
-    /// In pixels.
-    QSizeF size() const { return m_image.size(); }
+    /// In pixels, as the picture is stored.
+    QSizeF size() const { return m_size; }
+    /// In pixels, as it stands upright: width and height may have changed places.
+    QSizeF shownSize() const { return m_shownSize; }
+
+    /// Why it is not shown ("damaged", "no decoder for AVIF") or what of it is not ("animated"), in the user's
+    /// language; empty when there is nothing to say.
+    const QString &remark() const { return m_remark; }
 
     /// One line: dimensions, type and the size in bytes.
     QString imageDescription() const;
@@ -51,9 +60,13 @@ public:
     static void cleanupTemporaryDirectory();
 
 private:
+    mutable QMutex m_originLock;
     QUrl m_originURL;
     QByteArray m_bitmapData;
     QImage m_image;
+    QSizeF m_size;
+    QSizeF m_shownSize;
+    QString m_remark;
     QString m_type;
     QString m_dimensions;
 };

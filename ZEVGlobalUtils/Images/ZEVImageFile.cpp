@@ -4,21 +4,21 @@
 #include <ZEVGlobalUtils/Images/ZEVImageFile_p.h>
 
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileErrors.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVWholeFile_p.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace {
 
 constexpr qint64 LargestFile = 256LL * 1024 * 1024;
 
-qint64 codeOf(const QFileDevice &file, const QString &path)
+qint64 codeOf(QFileDevice::FileError error, const QString &path)
 {
     if (QFileInfo(path).isDir())
         return ZEVFileErrors::FileWriteFileExists;
     const bool isDenied =
-        file.error() == QFileDevice::PermissionsError || !QFileInfo(QFileInfo(path).path()).isWritable();
+        error == QFileDevice::PermissionsError || !QFileInfo(QFileInfo(path).path()).isWritable();
     return isDenied ? ZEVFileErrors::FileWriteNoPermission : ZEVFileErrors::FileWriteUnknown;
 }
 
@@ -44,8 +44,7 @@ ZEVError ZEVImageFile::writeError(qint64 code, const QString &path, const QStrin
 
 std::optional<ZEVError> ZEVImageFile::writeAtomically(const QByteArray &data, const QString &path)
 {
-    QSaveFile file(path);
-    if (file.open(QFile::WriteOnly) && file.write(data) == data.size() && file.commit())
-        return std::nullopt;
-    return writeError(codeOf(file, path), path, file.errorString());
+    if (const auto failure = ZEVWholeFile::write(path, data))
+        return writeError(codeOf(failure->error, path), path, failure->reason);
+    return std::nullopt;
 }

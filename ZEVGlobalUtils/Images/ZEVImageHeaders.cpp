@@ -8,16 +8,6 @@
 
 #include <limits>
 
-namespace {
-
-/// A value of an entry of a TIFF directory, which is a SHORT (3) or a LONG (4).
-quint32 tiffValue(ZEVByteReader &reader, quint64 entry)
-{
-    return reader.word(entry + 2) == 3 ? reader.word(entry + 8) : reader.longWord(entry + 8);
-}
-
-} // namespace
-
 QSize ZEVImageHeaders::checkedSize(qint64 width, qint64 height)
 {
     constexpr qint64 Largest = std::numeric_limits<int>::max();
@@ -25,23 +15,28 @@ QSize ZEVImageHeaders::checkedSize(qint64 width, qint64 height)
     return fits ? QSize(int(width), int(height)) : QSize();
 }
 
-/// TIFF 6.0: the first directory, its entries ImageWidth (256) and ImageLength (257).
-QSize ZEVImageHeaders::tiffSize(QByteArrayView bytes)
+/// TIFF 6.0: an entry of the first directory, which is a SHORT (3) or a LONG (4).
+std::optional<quint32> ZEVImageHeaders::tiffValue(QByteArrayView bytes, quint16 tag)
 {
     ZEVByteReader reader(bytes,
                          bytes.startsWith('I') ? ZEVByteReader::LittleEndian : ZEVByteReader::BigEndian);
     const quint64 directory = reader.longWord(4);
     const int count = reader.word(directory);
-    qint64 width = 0, height = 0;
     for (int index = 0; index < count && !reader.hasReadPastEnd(); ++index) {
         const quint64 entry = directory + 2 + 12ULL * index;
-        const quint16 tag = reader.word(entry);
-        if (tag == 256)
-            width = tiffValue(reader, entry);
-        else if (tag == 257)
-            height = tiffValue(reader, entry);
+        if (reader.word(entry) != tag)
+            continue;
+        const quint32 value =
+            reader.word(entry + 2) == 3 ? reader.word(entry + 8) : reader.longWord(entry + 8);
+        return reader.hasReadPastEnd() ? std::nullopt : std::optional(value);
     }
-    return checkedSize(width, height);
+    return std::nullopt;
+}
+
+QSize ZEVImageHeaders::tiffSize(QByteArrayView bytes)
+{
+    constexpr quint16 ImageWidth = 256, ImageLength = 257;
+    return checkedSize(tiffValue(bytes, ImageWidth).value_or(0), tiffValue(bytes, ImageLength).value_or(0));
 }
 
 /// The oldest header (12 bytes) has words, all others have long words and a height that is negative where the

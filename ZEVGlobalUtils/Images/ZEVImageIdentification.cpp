@@ -15,6 +15,7 @@ struct Kind {
     bool (*hasSignature)(QByteArrayView);
     QSize (*pixelSize)(QByteArrayView);
     const char *mimeType;
+    const char *name;
 };
 
 bool isTiff(QByteArrayView bytes)
@@ -41,27 +42,31 @@ bool isWebp(QByteArrayView bytes)
 }
 
 /// ISO/IEC 14496-12: the brand, or one of those that the file says it is compatible with.
-bool isAvif(QByteArrayView bytes)
+bool hasBrand(QByteArrayView bytes, const char (&one)[5], const char (&other)[5])
 {
     ZEVByteReader reader(bytes, ZEVByteReader::BigEndian);
     if (!reader.isTag(4, "ftyp"))
         return false;
     const quint64 end = std::min<quint64>(reader.longWord(0), reader.size());
     for (quint64 brand = 8; brand + 4 <= end; brand += brand == 8 ? 8 : 4) { // a version follows the first
-        if (reader.isTag(brand, "avif") || reader.isTag(brand, "avis"))
+        if (reader.isTag(brand, one) || reader.isTag(brand, other))
             return true;
     }
     return false;
 }
 
+bool isAvif(QByteArrayView bytes) { return hasBrand(bytes, "avif", "avis"); }
+bool isHeic(QByteArrayView bytes) { return hasBrand(bytes, "heic", "heix"); }
+
 constexpr Kind Kinds[] = {
-    {ZEVImageIdentification::TIFF, isTiff, ZEVImageHeaders::tiffSize, "image/tiff"},
-    {ZEVImageIdentification::BMP, isBmp, ZEVImageHeaders::bmpSize, "image/bmp"},
-    {ZEVImageIdentification::GIF, isGif, ZEVImageHeaders::gifSize, "image/gif"},
-    {ZEVImageIdentification::JPEG, isJpeg, ZEVImageHeaders::jpegSize, "image/jpeg"},
-    {ZEVImageIdentification::PNG, isPng, ZEVImageHeaders::pngSize, "image/png"},
-    {ZEVImageIdentification::WebP, isWebp, ZEVImageHeaders::webpSize, "image/webp"},
-    {ZEVImageIdentification::AVIF, isAvif, ZEVImageHeaders::avifSize, "image/avif"},
+    {ZEVImageIdentification::TIFF, isTiff, ZEVImageHeaders::tiffSize, "image/tiff", "TIFF"},
+    {ZEVImageIdentification::BMP, isBmp, ZEVImageHeaders::bmpSize, "image/bmp", "BMP"},
+    {ZEVImageIdentification::GIF, isGif, ZEVImageHeaders::gifSize, "image/gif", "GIF"},
+    {ZEVImageIdentification::JPEG, isJpeg, ZEVImageHeaders::jpegSize, "image/jpeg", "JPEG"},
+    {ZEVImageIdentification::PNG, isPng, ZEVImageHeaders::pngSize, "image/png", "PNG"},
+    {ZEVImageIdentification::WebP, isWebp, ZEVImageHeaders::webpSize, "image/webp", "WebP"},
+    {ZEVImageIdentification::AVIF, isAvif, ZEVImageHeaders::avifSize, "image/avif", "AVIF"},
+    {ZEVImageIdentification::HEIC, isHeic, ZEVImageHeaders::avifSize, "image/heic", "HEIC"},
 };
 
 } // namespace
@@ -77,9 +82,20 @@ ZEVImageIdentification ZEVImageIdentification::identificationWithData(QByteArray
 
 QString ZEVImageIdentification::mimeType() const
 {
-    for (const Kind &kind : Kinds) {
-        if (kind.format == format)
-            return QString::fromLatin1(kind.mimeType);
-    }
-    return {};
+    const auto kind = std::ranges::find(Kinds, format, &Kind::format);
+    return kind == std::end(Kinds) ? QString() : QString::fromLatin1(kind->mimeType);
+}
+
+QString ZEVImageIdentification::formatName() const
+{
+    const auto kind = std::ranges::find(Kinds, format, &Kind::format);
+    return kind == std::end(Kinds) ? QString() : QString::fromLatin1(kind->name);
+}
+
+QStringList ZEVImageIdentification::mimeTypes()
+{
+    QStringList types;
+    for (const Kind &kind : Kinds)
+        types.append(QString::fromLatin1(kind.mimeType));
+    return types;
 }

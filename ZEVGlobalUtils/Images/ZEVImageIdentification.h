@@ -8,11 +8,12 @@
 #include <QByteArrayView>
 #include <QSize>
 #include <QString>
+#include <QStringList>
 
 /// What encoded image bytes really are, by their whole signature and their header. No pixel is decoded and
 /// nothing is read past the bytes, whatever they say of themselves. Any thread.
 struct ZEV_EXPORT ZEVImageIdentification {
-    enum Format { Unknown, TIFF, BMP, GIF, JPEG, PNG, WebP, AVIF };
+    enum Format { Unknown, TIFF, BMP, GIF, JPEG, PNG, WebP, AVIF, HEIC };
 
     static ZEVImageIdentification identificationWithData(QByteArrayView data);
 
@@ -24,6 +25,12 @@ struct ZEV_EXPORT ZEVImageIdentification {
 
     /// The registered media type (IANA), "image/webp" and the like; empty when unknown.
     QString mimeType() const;
+
+    /// "PNG", "WebP" and the like; empty when unknown.
+    QString formatName() const;
+
+    /// Those of all formats that are known here. What of them can be shown is the system's matter.
+    static QStringList mimeTypes();
 
     friend bool operator==(const ZEVImageIdentification &, const ZEVImageIdentification &) = default;
 };

@@ -16,7 +16,8 @@ enum Marker : quint8 {
     RST0 = 0xD0,
     SOI = 0xD8,
     EOI = 0xD9,
-    SOS = 0xDA
+    SOS = 0xDA,
+    APP1 = 0xE1,
 };
 
 /// Stands on one marker after the other, skipping what lies between them.
@@ -44,6 +45,14 @@ public:
 
     /// Where the current segment has its length.
     quint64 segment() const { return m_at; }
+
+    /// What stands in the segment behind its length; empty when the bytes end within it.
+    QByteArrayView content()
+    {
+        const quint64 length = m_reader.word(m_at);
+        const bool isWhole = length >= 2 && m_at + length <= m_reader.size();
+        return isWhole ? m_bytes.sliced(qsizetype(m_at) + 2, qsizetype(length) - 2) : QByteArrayView();
+    }
 
 private:
     bool isSegment() const { return m_code != None && m_code != TEM && m_code != SOI && m_code != EOI; }
@@ -80,14 +89,37 @@ std::optional<quint64> ZEVJPEGMarkers::frameHeader(QByteArrayView bytes)
     return std::nullopt;
 }
 
-bool ZEVJPEGMarkers::endsAfterScans(QByteArrayView bytes, int mostScans)
+std::optional<ZEVJPEGMarkers::Frame> ZEVJPEGMarkers::frame(QByteArrayView bytes)
+{
+    const auto header = frameHeader(bytes);
+    if (!header)
+        return std::nullopt;
+    ZEVByteReader reader(bytes, ZEVByteReader::BigEndian);
+    constexpr quint8 Baseline = 0xC0, Extended = 0xC1;
+    const quint8 code = reader.byte(*header - 1);
+    return Frame{code == Baseline || code == Extended, reader.byte(*header + 7)};
+}
+
+QByteArrayView ZEVJPEGMarkers::applicationData(QByteArrayView bytes, QByteArrayView prefix)
 {
     Markers markers(bytes);
-    int scans = 0;
-    for (quint8 code = markers.next(); code != None && scans <= mostScans; code = markers.next()) {
-        if (code == EOI)
-            return scans > 0;
-        scans += code == SOS ? 1 : 0;
+    for (quint8 code = markers.next(); code != None && code != SOS && code != EOI; code = markers.next()) {
+        if (code == APP1 && markers.content().startsWith(prefix))
+            return markers.content();
     }
-    return false;
+    return {};
+}
+
+ZEVJPEGMarkers::Scans ZEVJPEGMarkers::scans(QByteArrayView bytes, int most)
+{
+    Markers markers(bytes);
+    Scans scans;
+    for (quint8 code = markers.next(); code != None && scans.count <= most; code = markers.next()) {
+        if (code == EOI) {
+            scans.areEnded = true;
+            break;
+        }
+        scans.count += code == SOS ? 1 : 0;
+    }
+    return scans;
 }

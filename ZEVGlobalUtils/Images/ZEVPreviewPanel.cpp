@@ -83,7 +83,7 @@ void ZEVPreviewPanel::showCurrentItem()
     const ZEVPreviewItem *const item = m_current < 0 ? nullptr : m_items.at(size_t(m_current)).get();
     const auto path = item ? ZEVLocalFile::path(item->previewItemURL()) : std::nullopt;
     const QString title = item ? item->previewItemTitle().value_or(QString()) : QString();
-    m_picture->setImage(path ? ZEVImageDecoder::imageWithData(ZEVImageFile::read(*path)) : QImage());
+    m_picture->setImage(path ? ZEVImageDecoder::pictureWithData(ZEVImageFile::read(*path)).image : QImage());
     m_picture->setAccessibleName(title);
     m_title->setText(title);
     setWindowTitle(title);

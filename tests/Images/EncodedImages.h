@@ -68,4 +68,53 @@ inline QByteArray avif(quint32 width, quint32 height)
         + box("meta", none + box("pitm", none + item7) + properties);
 }
 
+/// A little-endian TIFF with nothing but an orientation.
+inline QByteArray exif(char orientation)
+{
+    return QByteArray("II*\0\x08\0\0\0\1\0\x12\1\3\0\1\0\0\0", 18) + orientation + QByteArray(7, '\0');
+}
+
+/// PNG specification, annex D.
+inline quint32 pngChecksum(const QByteArray &bytes)
+{
+    quint32 sum = 0xFFFFFFFF;
+    for (const char byte : bytes) {
+        sum ^= uchar(byte);
+        for (int bit = 0; bit < 8; ++bit)
+            sum = sum >> 1 ^ ((sum & 1) != 0 ? 0xEDB88320 : 0);
+    }
+    return ~sum;
+}
+
+inline QByteArray littleEndian(quint32 number)
+{
+    const quint32 swapped = qToLittleEndian(number);
+    return {reinterpret_cast<const char *>(&swapped), 4};
+}
+
+/// The encoded picture with an orientation where its format has one.
+inline QByteArray turned(const QImage &image, const QByteArray &format, char orientation)
+{
+    QByteArray bytes = encoded(image, format.constData());
+    const QByteArray tiff = exif(orientation);
+    if (format == "JPG")
+        return bytes.insert(2,
+                            QByteArray("\xFF\xE1\0\x22"
+                                       "Exif\0\0",
+                                       10)
+                                + tiff);
+    if (format == "PNG")
+        return bytes.insert(
+            33, bigEndian(quint32(tiff.size())) + "eXIf" + tiff + bigEndian(pngChecksum("eXIf" + tiff)));
+    if (format == "WEBP") {
+        const QByteArray size = littleEndian(quint32(image.width() - 1)).first(3)
+            + littleEndian(quint32(image.height() - 1)).first(3);
+        const QByteArray chunks = "WEBPVP8X" + littleEndian(10) + QByteArray("\x08\0\0\0", 4) + size
+            + bytes.sliced(12) + "EXIF" + littleEndian(quint32(tiff.size())) + tiff;
+        return "RIFF" + littleEndian(quint32(chunks.size())) + chunks;
+    }
+    const qsizetype entry = bytes.indexOf(QByteArray("\x12\1\3\0\1\0\0\0", 8));
+    return bytes.replace(entry + 8, 1, QByteArray(1, orientation));
+}
+
 } // namespace EncodedImages

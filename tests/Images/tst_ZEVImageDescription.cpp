@@ -12,13 +12,17 @@
 #include <ZEVGlobalUtils/Platform/Questions/ZEVErrorPresentation.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVError.h>
 
+#include <QColorSpace>
 #include <QImageReader>
 #include <QImageWriter>
+#include <QPainter>
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/time.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace EncodedImages;
@@ -59,12 +63,12 @@ QList<Bomb> bombs()
 {
     QList<Bomb> bombs{
         {u"nothing"_s, {}, {0, 0}},
-        {u"8000 x 8000"_s, encoded(QImage(8000, 8000, QImage::Format_Mono), "PNG"), {0, 0}},
-        {u"huge JPEG"_s, hugeJpeg(), {0, 0}},
-        {u"huge GIF"_s, gif(65535, 65535, 1), {0, 0}},
+        {u"8000 x 8000"_s, encoded(QImage(8000, 8000, QImage::Format_Mono), "PNG"), {8000, 8000}},
+        {u"huge JPEG"_s, hugeJpeg(), {65535, 65535}},
+        {u"huge GIF"_s, gif(65535, 65535, 1), {65535, 65535}},
         {u"cut GIF"_s, gif(300, 300, 1).chopped(3), {0, 0}},
         {u"100,000 frames"_s, gif(3, 2, 100'000), {3, 2}},
-        {u"thousands of scans"_s, endlessJpeg(), {0, 0}},
+        {u"thousands of scans"_s, endlessJpeg(), {2000, 2000}},
     };
     for (const char *format : {"JPG", "PNG", "BMP", "TIFF", "WEBP", "GIF"}) {
         const QByteArray whole = qstrcmp(format, "GIF") == 0 ? gif(300, 300, 1) : encoded(300, 300, format);
@@ -98,6 +102,7 @@ private Q_SLOTS:
 
     void init()
     {
+        m_errors.clear();
         ZEVImageDescription::cleanupTemporaryDirectory();
         ZEVPreviewPanel::sharedPreviewPanel()->show();
     }
@@ -112,14 +117,104 @@ private Q_SLOTS:
         QCOMPARE(ZEVImageDescription("Banana").imageDescription(), u"0\u2006×\u20060 px, BMP, 6 bytes"_s);
     }
 
-    /// TIFF 6.0: orientation 6 says that the picture is to be turned.
-    void aTurnedPictureHasItsStoredSize()
+    /// Where the corners go, by the tag Orientation of TIFF 6.0. Red lies at the stored top left, blue right of
+    /// it.
+    void everyPictureStandsUpright()
     {
-        QByteArray tiff = encoded(40, 30, "TIFF");
-        const QByteArray orientation("\x12\1\3\0\1\0\0\0", 8);
-        QVERIFY(tiff.contains(orientation));
-        tiff[tiff.indexOf(orientation) + 8] = 6;
-        QCOMPARE(ZEVImageDescription(tiff).size(), QSizeF(40, 30));
+        QImage stored(48, 32, QImage::Format_RGB32);
+        stored.fill(Qt::white);
+        QPainter painter(&stored);
+        painter.fillRect(0, 0, 16, 16, Qt::red);
+        painter.fillRect(32, 0, 16, 16, Qt::blue);
+        painter.end();
+        enum { TopLeft, TopRight, BottomLeft, BottomRight };
+        constexpr std::pair<int, int> corners[] = {{TopLeft, TopRight},       {TopRight, TopLeft},
+                                                   {BottomRight, BottomLeft}, {BottomLeft, BottomRight},
+                                                   {TopLeft, BottomLeft},     {TopRight, BottomRight},
+                                                   {BottomRight, TopRight},   {BottomLeft, TopLeft}};
+        const auto isAt = [](const QImage &image, int corner, const QColor &color) {
+            const QPoint place(corner % 2 == 0 ? 4 : image.width() - 5, corner < 2 ? 4 : image.height() - 5);
+            const QColor seen = image.pixelColor(place);
+            return std::abs(seen.red() - color.red()) + std::abs(seen.blue() - color.blue()) < 40;
+        };
+        for (const char *format : {"JPG", "PNG", "WEBP", "TIFF"}) {
+            for (char orientation = 1; orientation <= 8; ++orientation) {
+                const ZEVImageDescription seen(turned(stored, format, orientation));
+                const QByteArray row = QByteArray(format) + ' ' + QByteArray::number(orientation);
+                const QSizeF shown = orientation < 5 ? QSizeF(48, 32) : QSizeF(32, 48);
+                COMPARE_ROW(row, seen.size(), QSizeF(48, 32));
+                COMPARE_ROW(row, seen.shownSize(), shown);
+                COMPARE_ROW(row, QSizeF(seen.image().size()), shown);
+                const auto [red, blue] = corners[orientation - 1];
+                QVERIFY2(isAt(seen.image(), red, Qt::red), row.constData());
+                QVERIFY2(isAt(seen.image(), blue, Qt::blue), row.constData());
+            }
+        }
+    }
+
+    void whatIsSaidOfPicturesThatAreNotWhole()
+    {
+        QBuffer buffer;
+        QImageWriter writer(&buffer, "JPG");
+        writer.setProgressiveScanWrite(true);
+        QVERIFY(writer.write(picture(300, 300)));
+        const QByteArray jpeg = encoded(300, 300, "JPG"), progressive = buffer.data();
+        const QByteArray large = encoded(QImage(6000, 6000, QImage::Format_Grayscale8), "JPG");
+        const std::tuple<const char *, QByteArray, QSize, QSize, QString> rows[] = {
+            {"whole", jpeg, {300, 300}, {300, 300}, {}},
+            {"without its end marker", jpeg.chopped(2), {300, 300}, {300, 300}, {}},
+            {"the same, progressive", progressive.chopped(2), {300, 300}, {300, 300}, {}},
+            {"cut", jpeg.chopped(40), {0, 0}, {0, 0}, u"damaged"_s},
+            {"cut, progressive", progressive.chopped(40), {0, 0}, {0, 0}, u"damaged"_s},
+            {"36 million pixels", large, {6000, 6000}, {3000, 3000}, {}},
+            {"many frames", gif(9, 8, 3), {9, 8}, {9, 8}, u"animated"_s},
+            {"no decoder", avif(4000, 3000), {4000, 3000}, {0, 0}, u"no decoder for AVIF"_s},
+            {"a text", "Banana", {0, 0}, {0, 0}, u"no known image format"_s},
+        };
+        for (const auto &[name, bytes, size, shown, remark] : rows) {
+            const ZEVImageDescription seen(bytes);
+            COMPARE_ROW(name, seen.size(), QSizeF(size));
+            COMPARE_ROW(name, seen.image().size(), shown);
+            COMPARE_ROW(name, seen.remark(), remark);
+        }
+    }
+
+    void coloursAreThoseOfTheProfile()
+    {
+        QImage image(8, 8, QImage::Format_RGB32);
+        image.fill(QColor(200, 100, 50));
+        const QColorSpace wide = QColorSpace::DisplayP3;
+        const QColor wanted = wide.transformationToColorSpace(QColorSpace::SRgb).map(QColor(200, 100, 50));
+        QVERIFY(wanted.red() > 205);
+        image.setColorSpace(wide);
+        for (const char *format : {"JPG", "PNG", "TIFF"}) {
+            const QColor seen = ZEVImageDescription(encoded(image, format)).image().pixelColor(4, 4);
+            QVERIFY2(std::abs(seen.red() - wanted.red()) < 4, format);
+            QVERIFY2(std::abs(seen.blue() - wanted.blue()) < 4, format);
+        }
+    }
+
+    /// A disk that takes nothing more leaves no file under the name, and somebody is told.
+    void aFullDiskLeavesNoHalfPreview()
+    {
+        const QTemporaryDir disk;
+        if (geteuid() != 0 || mount("none", qPrintable(disk.path()), "tmpfs", 0, "size=64k,mode=700") < 0)
+            QSKIP("No right to mount a volume");
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(disk.path()));
+        QVERIFY(ZEVImageDescription::quickLookTemporaryDirectoryURL(true).isValid());
+        QFile filler(disk.filePath(u"filler"_s));
+        QVERIFY(filler.open(QFile::WriteOnly | QFile::Unbuffered));
+        while (filler.write(QByteArray(1024, 'x')) > 0) { }
+        for (const int size : {1, 8'000, 16'384, 40'000}) {
+            m_errors.clear();
+            QVERIFY2(!ZEVImageDescription(QByteArray(size, 'B')).previewItemURL().isValid(),
+                     qPrintable(QString::number(size)));
+            QTRY_COMPARE(m_errors.size(), 1);
+            QCOMPARE(QDir(folder()).entryList(QDir::Files), QStringList());
+        }
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_runtime.path()));
+        filler.close();
+        QCOMPARE(umount(qPrintable(disk.path())), 0);
     }
 
     /// Each in a process of its own, which is killed when it takes more than half a second of processor time.

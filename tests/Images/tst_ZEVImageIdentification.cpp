@@ -38,6 +38,13 @@ QByteArray extendedWebp()
     return QByteArray("RIFF\x16\0\0\0WEBPVP8X\x0A\0\0\0\0\0\0\0", 24) + QByteArray("\x3F\1\0\x8F\0\1", 6);
 }
 
+QByteArray losslessWebp(quint32 width, quint32 height)
+{
+    QByteArray bytes("RIFF\x11\0\0\0WEBPVP8L\x05\0\0\0\x2F\0\0\0\0\0", 26);
+    qToLittleEndian((width - 1) | (height - 1) << 14, bytes.data() + 21);
+    return bytes;
+}
+
 } // namespace
 
 class tst_ZEVImageIdentification : public QObject {
@@ -77,6 +84,7 @@ private Q_SLOTS:
             {jpegWithThumbnail(), u"image/jpeg"_s, {300, 200}},
             {EncodedImages::gif(640, 480, 1), u"image/gif"_s, {640, 480}},
             {extendedWebp(), u"image/webp"_s, {320, 65680}},
+            {losslessWebp(300, 16384), u"image/webp"_s, {300, 16384}},
             {EncodedImages::avif(4000, 3000), u"image/avif"_s, {4000, 3000}},
             {bigTiff, u"image/tiff"_s, {37, 65536}},
             {endlessPng, u"image/png"_s, {}}, // more than an int

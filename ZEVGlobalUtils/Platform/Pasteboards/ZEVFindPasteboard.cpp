@@ -3,13 +3,13 @@
 
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFindPasteboard_p.h>
 
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVWholeFile_p.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVKeyedArchiver.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVKeyedUnarchiver.h>
 
 #include <QDateTime>
 #include <QDir>
 #include <QLockFile>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
@@ -56,9 +56,6 @@ bool ZEVFindPasteboard::setString(const std::optional<QString> &string)
     QVariantMap map{{ChangeCountKey, count}};
     if (string)
         map.insert(StringKey, string->isNull() ? u""_s : *string); // nil would be no text
-    QSaveFile file(m_file);
-    if (!file.open(QIODevice::WriteOnly) || !file.setPermissions(QFile::ReadOwner | QFile::WriteOwner))
-        return false;
-    file.write(ZEVKeyedArchiver::archivedDataWithRootObject(map));
-    return file.commit();
+    return !ZEVWholeFile::write(m_file, ZEVKeyedArchiver::archivedDataWithRootObject(map),
+                                QFile::ReadOwner | QFile::WriteOwner);
 }

@@ -527,5 +527,25 @@
         <source>Other…</source>
         <translation>Anderes …</translation>
     </message>
+    <message>
+        <source>animated</source>
+        <translation>animiert</translation>
+    </message>
+    <message>
+        <source>no known image format</source>
+        <translation>kein bekanntes Bildformat</translation>
+    </message>
+    <message>
+        <source>no decoder for %1</source>
+        <translation>kein Decoder für %1</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>beschädigt</translation>
+    </message>
+    <message>
+        <source>too large to be shown</source>
+        <translation>zu groß, um gezeigt zu werden</translation>
+    </message>
 </context>
 </TS>

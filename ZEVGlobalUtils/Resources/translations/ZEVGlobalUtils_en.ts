@@ -527,5 +527,25 @@
         <source>Other…</source>
         <translation>Other…</translation>
     </message>
+    <message>
+        <source>animated</source>
+        <translation>animated</translation>
+    </message>
+    <message>
+        <source>no known image format</source>
+        <translation>no known image format</translation>
+    </message>
+    <message>
+        <source>no decoder for %1</source>
+        <translation>no decoder for %1</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>damaged</translation>
+    </message>
+    <message>
+        <source>too large to be shown</source>
+        <translation>too large to be shown</translation>
+    </message>
 </context>
 </TS>

@@ -527,5 +527,25 @@
         <source>Other…</source>
         <translation>Autre…</translation>
     </message>
+    <message>
+        <source>animated</source>
+        <translation>animée</translation>
+    </message>
+    <message>
+        <source>no known image format</source>
+        <translation>format d’image inconnu</translation>
+    </message>
+    <message>
+        <source>no decoder for %1</source>
+        <translation>pas de décodeur pour %1</translation>
+    </message>
+    <message>
+        <source>damaged</source>
+        <translation>endommagée</translation>
+    </message>
+    <message>
+        <source>too large to be shown</source>
+        <translation>trop grande pour être affichée</translation>
+    </message>
 </context>
 </TS>
