@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Images/ZEVDrawingTrait.h>
-#include <ZEVGlobalUtils/Images/ZEVImageCrop.h>
-#include <ZEVGlobalUtils/Images/ZEVImageDescription.h>
-#include <ZEVGlobalUtils/Images/ZEVImageDrawingTraits.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVImageDescription.h>
+#include <ZEVGlobalUtils/Images/Drawing/ZEVDrawingTrait.h>
+#include <ZEVGlobalUtils/Images/Drawing/ZEVImageCrop.h>
+#include <ZEVGlobalUtils/Images/Drawing/ZEVImageDrawingTraits.h>
 
 #include <QBuffer>
 #include <QGuiApplication>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Images/ZEVDataBitmapData.h>
-#include <ZEVGlobalUtils/Images/ZEVImageIdentification.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVDataBitmapData.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVImageIdentification.h>
 
 #include <QLoggingCategory>
 

@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/ImageViews/ZEVArtworkImporter_p.h>
 
-#include <ZEVGlobalUtils/Images/ZEVImageFile_p.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVImageFile_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDragImageView.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVLocalFile_p.h>
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFilePromiseReceiver_p.h>

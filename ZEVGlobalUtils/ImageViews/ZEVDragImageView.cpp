@@ -3,8 +3,8 @@
 
 #include <ZEVGlobalUtils/ImageViews/ZEVDragImageView.h>
 
-#include <ZEVGlobalUtils/Images/ZEVImageCrop.h>
-#include <ZEVGlobalUtils/Images/ZEVImageDescription.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVImageDescription.h>
+#include <ZEVGlobalUtils/Images/Drawing/ZEVImageCrop.h>
 #include <ZEVGlobalUtils/ImageViews/DragImageViewAccessible_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVArtworkImporter_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDashView.h>

@@ -3,10 +3,10 @@
 
 #include <ZEVGlobalUtils/ImageViews/ZEVDragImageView.h>
 
-#include <ZEVGlobalUtils/Images/ZEVDataBitmapData.h>
-#include <ZEVGlobalUtils/Images/ZEVImageDescription.h>
-#include <ZEVGlobalUtils/Images/ZEVPasteboardRawBitmapData.h>
-#include <ZEVGlobalUtils/Images/ZEVPboardImageWriter.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVImageDescription.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVPasteboardRawBitmapData.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVPboardImageWriter.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVDataBitmapData.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVArtworkImporter_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDashView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVImageDragging_p.h>

@@ -3,10 +3,10 @@
 
 #include <ZEVGlobalUtils/ImageViews/ZEVDragImageView.h>
 
-#include <ZEVGlobalUtils/Images/ZEVCopiedArtwork_p.h>
-#include <ZEVGlobalUtils/Images/ZEVImageDescription.h>
-#include <ZEVGlobalUtils/Images/ZEVPasteboardRawBitmapData.h>
-#include <ZEVGlobalUtils/Images/ZEVPreviewPanel.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVCopiedArtwork_p.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVImageDescription.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVPasteboardRawBitmapData.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVPreviewPanel.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVArtworkImporter_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVFocusFrame_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVInnerImageView.h>

@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/ImageViews/ZEVImageView.h>
 
-#include <ZEVGlobalUtils/Images/ZEVSmoothDrawing_p.h>
+#include <ZEVGlobalUtils/Images/Drawing/ZEVSmoothDrawing_p.h>
 
 #include <QPainter>
 

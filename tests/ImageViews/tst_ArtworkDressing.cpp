@@ -5,7 +5,7 @@
 #include "../Rows.h"
 #include "Motion.h"
 
-#include <ZEVGlobalUtils/Images/ZEVPboardImageWriter.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVPboardImageWriter.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVArtFocusView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDashDrawingView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDashView.h>

@@ -3,8 +3,8 @@
 
 #include "../Rows.h"
 
-#include <ZEVGlobalUtils/Images/ZEVImageCrop.h>
-#include <ZEVGlobalUtils/Images/ZEVImageInsets.h>
+#include <ZEVGlobalUtils/Images/Drawing/ZEVImageCrop.h>
+#include <ZEVGlobalUtils/Images/Drawing/ZEVImageInsets.h>
 
 using namespace Qt::StringLiterals;
 using namespace ZEVImageCrop;

@@ -4,9 +4,9 @@
 #include "../Rows.h"
 #include "EncodedImages.h"
 
-#include <ZEVGlobalUtils/Images/ZEVImageDescription.h>
-#include <ZEVGlobalUtils/Images/ZEVPasteboardRawBitmapData.h>
-#include <ZEVGlobalUtils/Images/ZEVPreviewPanel.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVImageDescription.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVPasteboardRawBitmapData.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVPreviewPanel.h>
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboard.h>
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVUniformType.h>
 #include <ZEVGlobalUtils/Platform/Questions/ZEVErrorPresentation.h>

@@ -3,8 +3,8 @@
 
 #include "../Rows.h"
 
-#include <ZEVGlobalUtils/Images/ZEVDrawingTrait.h>
-#include <ZEVGlobalUtils/Images/ZEVImageDrawingTraits.h>
+#include <ZEVGlobalUtils/Images/Drawing/ZEVDrawingTrait.h>
+#include <ZEVGlobalUtils/Images/Drawing/ZEVImageDrawingTraits.h>
 
 #include <cmath>
 

@@ -4,8 +4,8 @@
 #include "../Rows.h"
 #include "EncodedImages.h"
 
-#include <ZEVGlobalUtils/Images/ZEVPasteboardRawBitmapData.h>
-#include <ZEVGlobalUtils/Images/ZEVPboardImageWriter.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVPasteboardRawBitmapData.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVPboardImageWriter.h>
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboard.h>
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboardItem.h>
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVUniformType.h>

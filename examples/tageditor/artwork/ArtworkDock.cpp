@@ -6,7 +6,7 @@
 #include <tageditor/artwork/ArtworkCommand.h>
 #include <tageditor/artwork/ArtworkTag.h>
 
-#include <ZEVGlobalUtils/Images/ZEVImageDescription.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVImageDescription.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDashView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDragImageView.h>
 #include <ZEVGlobalUtils/Menus/Observing/ZEVObjectUserDefaultsBindings.h>

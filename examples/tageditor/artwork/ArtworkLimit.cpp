@@ -3,8 +3,8 @@
 
 #include <tageditor/artwork/ArtworkLimit.h>
 
-#include <ZEVGlobalUtils/Images/ZEVImageDescription.h>
-#include <ZEVGlobalUtils/Images/ZEVImageIdentification.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVImageDescription.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVImageIdentification.h>
 
 #include <QBuffer>
 #include <QImage>

@@ -3,7 +3,7 @@
 
 #include <tageditor/artwork/ArtworkTag.h>
 
-#include <ZEVGlobalUtils/Images/ZEVImageIdentification.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVImageIdentification.h>
 
 #include <attachedpictureframe.h>
 #include <fileref.h>

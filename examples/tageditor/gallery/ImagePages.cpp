@@ -3,10 +3,10 @@
 
 #include <tageditor/gallery/ImagePages.h>
 
-#include <ZEVGlobalUtils/Images/ZEVDrawingTrait.h>
-#include <ZEVGlobalUtils/Images/ZEVImageCrop.h>
-#include <ZEVGlobalUtils/Images/ZEVImageDrawingTraits.h>
-#include <ZEVGlobalUtils/Images/ZEVImageInsets.h>
+#include <ZEVGlobalUtils/Images/Drawing/ZEVDrawingTrait.h>
+#include <ZEVGlobalUtils/Images/Drawing/ZEVImageCrop.h>
+#include <ZEVGlobalUtils/Images/Drawing/ZEVImageDrawingTraits.h>
+#include <ZEVGlobalUtils/Images/Drawing/ZEVImageInsets.h>
 
 #include <QGridLayout>
 #include <QLabel>

@@ -3,7 +3,7 @@
 
 #include <tageditor/gallery/ImageViewPages.h>
 
-#include <ZEVGlobalUtils/Images/ZEVPboardImageWriter.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVPboardImageWriter.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVArtBarSeparatorView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVArtBarToolTipView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVArtBarView.h>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Images/ZEVImageCrop.h>
+#include <ZEVGlobalUtils/Images/Drawing/ZEVImageCrop.h>
 
-#include <ZEVGlobalUtils/Images/ZEVSmoothDrawing_p.h>
+#include <ZEVGlobalUtils/Images/Drawing/ZEVSmoothDrawing_p.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGeometry.h>
 
 #include <QColorSpace>

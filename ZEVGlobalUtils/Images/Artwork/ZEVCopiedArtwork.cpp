@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Images/ZEVCopiedArtwork_p.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVCopiedArtwork_p.h>
 
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVUniformType.h>
 

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Images/ZEVPreviewPicture_p.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVPreviewPicture_p.h>
 
-#include <ZEVGlobalUtils/Images/ZEVImageCrop.h>
+#include <ZEVGlobalUtils/Images/Drawing/ZEVImageCrop.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGeometry.h>
 
 #include <QPainter>

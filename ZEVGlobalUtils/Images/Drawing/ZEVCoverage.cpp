@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Images/ZEVCoverage_p.h>
+#include <ZEVGlobalUtils/Images/Drawing/ZEVCoverage_p.h>
 
 #include <QColor>
 

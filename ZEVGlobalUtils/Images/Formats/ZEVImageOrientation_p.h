@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/Images/ZEVImageIdentification.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVImageIdentification.h>
 
 #include <QImage>
 

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Images/ZEVImageDrawingTraits.h>
+#include <ZEVGlobalUtils/Images/Drawing/ZEVImageDrawingTraits.h>
 
-#include <ZEVGlobalUtils/Images/ZEVCoverage_p.h>
-#include <ZEVGlobalUtils/Images/ZEVDrawingTrait.h>
+#include <ZEVGlobalUtils/Images/Drawing/ZEVCoverage_p.h>
+#include <ZEVGlobalUtils/Images/Drawing/ZEVDrawingTrait.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVLog_p.h>
 
 #include <cmath>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/Images/ZEVPboardImageWriter.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVPboardImageWriter.h>
 
 #include <QImage>
 

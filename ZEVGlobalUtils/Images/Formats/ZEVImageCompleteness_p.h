@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/Images/ZEVImageIdentification.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVImageIdentification.h>
 
 /// What the structure of a file tells before a decoder is let at it.
 namespace ZEVImageCompleteness {

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/Images/ZEVPreviewItem.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVPreviewItem.h>
 
 #include <QByteArray>
 #include <QImage>

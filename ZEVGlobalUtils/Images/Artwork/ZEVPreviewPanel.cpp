@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Images/ZEVPreviewPanel.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVPreviewPanel.h>
 
-#include <ZEVGlobalUtils/Images/ZEVImageDecoder_p.h>
-#include <ZEVGlobalUtils/Images/ZEVImageFile_p.h>
-#include <ZEVGlobalUtils/Images/ZEVPreviewItem.h>
-#include <ZEVGlobalUtils/Images/ZEVPreviewPicture_p.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVImageFile_p.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVPreviewItem.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVPreviewPicture_p.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVImageDecoder_p.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVLocalFile_p.h>
 
 #include <QApplication>

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Images/ZEVImageOrientation_p.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVImageOrientation_p.h>
 
-#include <ZEVGlobalUtils/Images/ZEVByteReader_p.h>
-#include <ZEVGlobalUtils/Images/ZEVImageHeaders_p.h>
-#include <ZEVGlobalUtils/Images/ZEVJPEGMarkers_p.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVByteReader_p.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVImageHeaders_p.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVJPEGMarkers_p.h>
 
 namespace {
 

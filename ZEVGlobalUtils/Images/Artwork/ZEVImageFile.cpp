@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Images/ZEVImageFile_p.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVImageFile_p.h>
 
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileErrors.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVWholeFile_p.h>

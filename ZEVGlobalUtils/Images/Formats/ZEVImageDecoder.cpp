@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Images/ZEVImageDecoder_p.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVImageDecoder_p.h>
 
-#include <ZEVGlobalUtils/Images/ZEVImageCompleteness_p.h>
-#include <ZEVGlobalUtils/Images/ZEVImageOrientation_p.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVImageCompleteness_p.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVImageOrientation_p.h>
 
 #include <QBuffer>
 #include <QColorSpace>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Images/ZEVImageIdentification.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVImageIdentification.h>
 
-#include <ZEVGlobalUtils/Images/ZEVByteReader_p.h>
-#include <ZEVGlobalUtils/Images/ZEVImageHeaders_p.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVByteReader_p.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVImageHeaders_p.h>
 
 using namespace Qt::StringLiterals;
 

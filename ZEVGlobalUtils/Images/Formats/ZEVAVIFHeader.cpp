@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Images/ZEVByteReader_p.h>
-#include <ZEVGlobalUtils/Images/ZEVImageHeaders_p.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVByteReader_p.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVImageHeaders_p.h>
 
 #include <optional>
 

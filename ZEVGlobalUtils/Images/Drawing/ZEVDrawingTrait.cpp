@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Images/ZEVDrawingTrait.h>
+#include <ZEVGlobalUtils/Images/Drawing/ZEVDrawingTrait.h>
 
 namespace {
 

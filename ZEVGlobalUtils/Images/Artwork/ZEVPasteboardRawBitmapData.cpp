@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Images/ZEVPasteboardRawBitmapData.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVPasteboardRawBitmapData.h>
 
-#include <ZEVGlobalUtils/Images/ZEVImageFile_p.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVImageFile_p.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVLocalFile_p.h>
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboard.h>
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVUniformType.h>

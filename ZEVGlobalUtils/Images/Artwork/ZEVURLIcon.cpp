@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Images/ZEVURLIcon.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVURLIcon.h>
 
 #include <QFileIconProvider>
 #include <QUrl>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Images/ZEVImageCompleteness_p.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVImageCompleteness_p.h>
 
-#include <ZEVGlobalUtils/Images/ZEVByteReader_p.h>
-#include <ZEVGlobalUtils/Images/ZEVJPEGMarkers_p.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVByteReader_p.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVJPEGMarkers_p.h>
 
 #include <limits>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Images/ZEVJPEGMarkers_p.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVJPEGMarkers_p.h>
 
 #include <QByteArray>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Images/ZEVDataBitmapData.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVDataBitmapData.h>
 
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVUniformType.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Images/ZEVPboardImageWriter.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVPboardImageWriter.h>
 
 #include <ZEVGlobalUtils/Files/ZEVErrorFileErrorHelpers.h>
 #include <ZEVGlobalUtils/Files/ZEVURLFileOperationAttempter.h>
-#include <ZEVGlobalUtils/Images/ZEVDataBitmapData.h>
-#include <ZEVGlobalUtils/Images/ZEVImageIdentification.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVDataBitmapData.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVImageIdentification.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileName_p.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVPlainFileManager.h>

@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Images/ZEVImageDescription.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVImageDescription.h>
 
-#include <ZEVGlobalUtils/Images/ZEVCopiedArtwork_p.h>
-#include <ZEVGlobalUtils/Images/ZEVDataBitmapData.h>
-#include <ZEVGlobalUtils/Images/ZEVImageDecoder_p.h>
-#include <ZEVGlobalUtils/Images/ZEVImageFile_p.h>
-#include <ZEVGlobalUtils/Images/ZEVImageIdentification.h>
-#include <ZEVGlobalUtils/Images/ZEVPreviewPanel.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVCopiedArtwork_p.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVImageFile_p.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVPreviewPanel.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVDataBitmapData.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVImageDecoder_p.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVImageIdentification.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileErrors.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVPrivateFolder_p.h>
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboard.h>
