@@ -65,7 +65,10 @@ void ZEVArtFocusView::setAlphaWithAnimation(qreal alpha)
 
 bool ZEVArtFocusView::isMouseInsideForCurrentEvent(bool isCurrent) const
 {
-    return isCurrent ? rect().contains(mapFromGlobal(QCursor::pos())) : underMouse();
+    // Wayland tells no program where the mouse is outside its windows; that it came and went is told.
+    static const bool isPositionKnown =
+        !QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
+    return isCurrent && isPositionKnown ? rect().contains(mapFromGlobal(QCursor::pos())) : underMouse();
 }
 
 bool ZEVArtFocusView::isFocusInToolbar() const

@@ -3,6 +3,7 @@
 
 #include <ZEVGlobalUtils/ImageViews/ZEVArtworkImporter_p.h>
 
+#include <ZEVGlobalUtils/Images/Artwork/ZEVImageDescription.h>
 #include <ZEVGlobalUtils/Images/Artwork/ZEVImageFile_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDragImageView.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVLocalFile_p.h>
@@ -31,32 +32,63 @@ ZEVArtworkImporter::~ZEVArtworkImporter()
 void ZEVArtworkImporter::cancel()
 {
     m_settled = begin();
-    Q_EMIT readingEnded();
+    Q_EMIT workEnded();
 }
 
-/// Whether what comes of it may be shown. There is no second answer.
-bool ZEVArtworkImporter::settle(quint64 import)
+void ZEVArtworkImporter::decode(quint64 import, const QByteArray &bytes, const Apply &then)
 {
-    if (import <= m_settled)
-        return false;
-    m_settled = import;
-    return true;
+    beginWork();
+    m_queue.start([=, this] {
+        const auto description = std::make_shared<ZEVImageDescription>(bytes);
+        QMetaObject::invokeMethod(this, [=, this] {
+            endWork();
+            if (import < m_settled)
+                return;
+            if (description->image().isNull())
+                Q_EMIT refused(description->remark());
+            else
+                then(description);
+        });
+    });
+}
+
+void ZEVArtworkImporter::vet(quint64 import, const QByteArray &bytes, const Apply &apply)
+{
+    if (!bytes.isEmpty() && import > m_settled)
+        decode(import, bytes, [=, this](const Description &offered) { ask(import, offered, apply); });
+}
+
+void ZEVArtworkImporter::take(quint64 import, const QByteArray &bytes, const Apply &apply)
+{
+    decode(import, bytes,
+           [=, this](const Description &offered) { answer(import, offered, offered->bitmapData(), apply); });
 }
 
 /// The answer may come from any thread and at any time, and the well may have gone.
-void ZEVArtworkImporter::vet(quint64 import, const QByteArray &bytes, const Apply &apply)
+void ZEVArtworkImporter::ask(quint64 import, const Description &offered, const Apply &apply)
 {
-    if (bytes.isEmpty() || import <= m_settled)
-        return;
-    const auto answer = [importer = QPointer(this), import, apply](const QByteArray &accepted) {
+    const auto reply = [importer = QPointer(this), import, offered, apply](const QByteArray &accepted) {
         QMetaObject::invokeMethod(qApp, [=] {
-            if (importer && !accepted.isEmpty() && importer->settle(import))
-                apply(accepted);
+            if (importer)
+                importer->answer(import, offered, accepted, apply);
         });
     };
     const ZEVWeakRef<ZEVDragImageViewDelegate> delegate = m_well->delegate();
-    if (!delegate || !delegate->acceptBitmapData(m_well, bytes, answer))
-        answer(bytes);
+    if (!delegate || !delegate->acceptImageDescription(m_well, offered, reply))
+        reply(offered->bitmapData());
+}
+
+/// There is no second answer.
+void ZEVArtworkImporter::answer(quint64 import, const Description &offered, const QByteArray &accepted,
+                                const Apply &apply)
+{
+    if (accepted.isEmpty() || import <= m_settled)
+        return;
+    m_settled = import;
+    if (accepted == offered->bitmapData())
+        apply(offered);
+    else
+        decode(import, accepted, apply);
 }
 
 /// The disk may be slow, or far away.
@@ -65,10 +97,13 @@ bool ZEVArtworkImporter::readFile(quint64 import, const QUrl &file, const Apply 
     const auto path = ZEVLocalFile::path(file);
     if (!path || !QFileInfo(*path).isFile())
         return false;
-    beginReading();
+    beginWork();
     m_queue.start([=, this] {
         const QByteArray bytes = ZEVImageFile::read(*path);
-        QMetaObject::invokeMethod(this, [=, this] { endReading(import, bytes, apply); });
+        QMetaObject::invokeMethod(this, [=, this] {
+            endWork();
+            vet(import, bytes, apply);
+        });
     });
     return true;
 }
@@ -79,25 +114,27 @@ bool ZEVArtworkImporter::receivePromisedFile(quint64 import, const ZEVPasteboard
     const auto promises = ZEVFilePromiseReceiver::receiversFromPasteboard(pasteboard);
     if (promises.isEmpty())
         return false;
-    beginReading();
+    beginWork();
     promises.first().receivePromisedFiles(
         &m_queue, [=, this](const QByteArray &bytes, const ZEVError *error) {
             if (error)
                 qCWarning(zevLog).noquote() << "File promise error:" << error->localizedDescription();
-            QMetaObject::invokeMethod(this, [=, this] { endReading(import, bytes, apply); });
+            QMetaObject::invokeMethod(this, [=, this] {
+                endWork();
+                vet(import, bytes, apply);
+            });
         });
     return true;
 }
 
-void ZEVArtworkImporter::beginReading()
+void ZEVArtworkImporter::beginWork()
 {
-    ++m_filesBeingRead;
-    Q_EMIT readingBegan();
+    ++m_works;
+    Q_EMIT workBegan();
 }
 
-void ZEVArtworkImporter::endReading(quint64 import, const QByteArray &bytes, const Apply &apply)
+void ZEVArtworkImporter::endWork()
 {
-    if (--m_filesBeingRead == 0)
-        Q_EMIT readingEnded();
-    vet(import, bytes, apply);
+    if (--m_works == 0)
+        Q_EMIT workEnded();
 }

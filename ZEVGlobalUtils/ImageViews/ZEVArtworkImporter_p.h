@@ -7,18 +7,23 @@
 #include <QThreadPool>
 
 #include <functional>
+#include <memory>
 
 class QUrl;
 class ZEVDragImageView;
+class ZEVImageDescription;
 class ZEVPasteboard;
 
-/// Brings artwork into a well: waits for files, asks the well's delegate, and drops what comes too late.
-/// Imports are numbered as the user began them; one is too late when a newer one is shown already.
+/// Brings artwork into a well: waits for files, decodes, refuses what cannot be shown, asks the well's delegate, and
+/// drops what comes too late. Imports are numbered as the user began them; one is too late when a newer one
+/// has been accepted.
 class ZEVArtworkImporter : public QObject {
     Q_OBJECT
 
 public:
-    using Apply = std::function<void(const QByteArray &accepted)>;
+    using Description = std::shared_ptr<ZEVImageDescription>;
+    /// Gets what is to be shown; never null.
+    using Apply = std::function<void(const Description &accepted)>;
 
     explicit ZEVArtworkImporter(ZEVDragImageView *well);
     /// Waits for the file that is being read.
@@ -31,8 +36,11 @@ public:
     /// Gives up all that has been begun.
     void cancel();
 
-    /// Asks the delegate, and calls \a apply with what it accepts unless that comes too late.
+    /// Decodes in the queue, asks the delegate, and calls \a apply with what it accepts.
     void vet(quint64 import, const QByteArray &bytes, const Apply &apply);
+
+    /// The same without asking the delegate.
+    void take(quint64 import, const QByteArray &bytes, const Apply &apply);
 
     /// Reads in the queue, then vets. False for what is no local file.
     bool readFile(quint64 import, const QUrl &file, const Apply &apply);
@@ -40,20 +48,24 @@ public:
     /// The same with a promised file; only while the drop is being handled. False without a promise.
     bool receivePromisedFile(quint64 import, const ZEVPasteboard &pasteboard, const Apply &apply);
 
-    bool isReading() const { return m_filesBeingRead > 0; }
+    bool isWorking() const { return m_works > 0; }
 
 Q_SIGNALS:
-    void readingBegan();
-    void readingEnded();
+    void workBegan();
+    void workEnded();
+    /// With the reason for the user.
+    void refused(const QString &reason);
 
 private:
-    void beginReading();
-    void endReading(quint64 import, const QByteArray &bytes, const Apply &apply);
-    bool settle(quint64 import);
+    void beginWork();
+    void endWork();
+    void decode(quint64 import, const QByteArray &bytes, const Apply &then);
+    void ask(quint64 import, const Description &offered, const Apply &apply);
+    void answer(quint64 import, const Description &offered, const QByteArray &accepted, const Apply &apply);
 
     ZEVDragImageView *m_well;
     quint64 m_last = 0;
-    quint64 m_settled = 0;
-    int m_filesBeingRead = 0;
+    quint64 m_settled = 0; ///< the newest one that was accepted or given up
+    int m_works = 0;
     QThreadPool m_queue;
 };

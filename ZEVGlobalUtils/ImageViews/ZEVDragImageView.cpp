@@ -4,33 +4,77 @@
 #include <ZEVGlobalUtils/ImageViews/ZEVDragImageView.h>
 
 #include <ZEVGlobalUtils/Images/Artwork/ZEVImageDescription.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVPboardImageWriter.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVPreviewPanel.h>
 #include <ZEVGlobalUtils/Images/Drawing/ZEVImageCrop.h>
+#include <ZEVGlobalUtils/ImageViews/ArtworkActions_p.h>
+#include <ZEVGlobalUtils/ImageViews/ArtworkTransfer_p.h>
 #include <ZEVGlobalUtils/ImageViews/DragImageViewAccessible_p.h>
-#include <ZEVGlobalUtils/ImageViews/ZEVArtworkImporter_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDashView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDropProgressView_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVFocusFrame_p.h>
+#include <ZEVGlobalUtils/ImageViews/ZEVImageDragging_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVInnerImageView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVViewAnimation_p.h>
 #include <ZEVGlobalUtils/Menus/Layout/ZEVViewEasyConstraints.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboard.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVUniformType.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 
+#include <QBuffer>
+#include <QContextMenuEvent>
+#include <QDropEvent>
+#include <QPageLayout>
 #include <QPainter>
+#include <QPdfWriter>
 #include <QPropertyAnimation>
 #include <QResizeEvent>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qreal DashPadding = 5;
+constexpr qreal HoveredOpacity = 0.55;
 constexpr int LiveResizePause = 150; ///< milliseconds without a further change end a resize
 
-QPropertyAnimation *animation(ZEVInnerImageView *view, const QByteArray &property, qreal from)
+QPropertyAnimation *animation(ZEVInnerImageView *view, const QByteArray &property, const QString &key)
 {
     auto *const animation = new QPropertyAnimation(view, property, view);
-    animation->setStartValue(from);
+    animation->setObjectName(key);
     animation->setEndValue(1.0);
     return animation;
+}
+
+void answer(QDropEvent *event, Qt::DropAction action)
+{
+    event->setDropAction(action);
+    event->setAccepted(action != Qt::IgnoreAction);
+}
+
+/// As the beginning of a label.
+QString capitalized(const QString &text) { return text.left(1).toUpper() + text.mid(1); }
+
+QByteArray tiffOf(const QImage &image)
+{
+    QBuffer buffer;
+    return image.save(&buffer, "TIFF") ? buffer.data() : QByteArray();
+}
+
+/// A page of the size of the view, a point for a point.
+QByteArray pdfOf(ZEVInnerImageView *view)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter page(&buffer);
+    page.setPageSize(QPageSize(QSizeF(view->size()), QPageSize::Point, {}, QPageSize::ExactMatch));
+    page.setPageMargins({});
+    page.setResolution(72);
+    QPainter painter(&page);
+    view->render(&painter, {}, {}, QWidget::DrawChildren);
+    painter.end();
+    return buffer.data();
 }
 
 } // namespace
@@ -40,6 +84,13 @@ ZEVDragImageViewDelegate::~ZEVDragImageViewDelegate() = default;
 bool ZEVDragImageViewDelegate::acceptBitmapData(ZEVDragImageView *, const QByteArray &, const Completion &)
 {
     return false;
+}
+
+bool ZEVDragImageViewDelegate::acceptImageDescription(ZEVDragImageView *imageView,
+                                                      const std::shared_ptr<ZEVImageDescription> &description,
+                                                      const Completion &completion)
+{
+    return acceptBitmapData(imageView, description->bitmapData(), completion);
 }
 
 std::optional<QString> ZEVDragImageViewDelegate::exportNameForBitmapData(ZEVDragImageView *,
@@ -55,30 +106,44 @@ ZEVDragImageView::ZEVDragImageView(QWidget *parent)
     , m_imageView(new ZEVInnerImageView)
     , m_focusFrame(new ZEVFocusFrame(this))
     , m_progressView(new ZEVDropProgressView(this))
-    , m_alphaAnimation(animation(m_imageView, "opacity", 0.55))
-    , m_scaleAnimation(animation(m_imageView, "scale", 0.9))
-    , m_alphaAnimationOut(new QPropertyAnimation(m_imageView, "opacity", m_imageView))
+    , m_alphaAnimation(animation(m_imageView, "opacity", u"animateAlphas"_s))
+    , m_scaleAnimation(animation(m_imageView, "scale", u"animateScale"_s))
+    , m_alphaAnimationOut(animation(m_imageView, "opacity", u"alphaAnimatonOut"_s)) // kept: spelled so
     , m_liveResize(new QTimer(this))
-    , m_importer(new ZEVArtworkImporter(this))
+    , m_transfer(new ArtworkTransfer(this))
 {
     DragImageViewAccessible::install();
     setAccessibleName(ZEVGlobalHelper::localizedStringForKey(u"Artwork"));
     setFocusPolicy(Qt::StrongFocus);
     setAcceptDrops(true);
+    m_alphaAnimation->setStartValue(HoveredOpacity);
+    m_scaleAnimation->setStartValue(0.9);
     m_liveResize->setSingleShot(true);
     m_liveResize->setInterval(LiveResizePause);
     connect(m_liveResize, &QTimer::timeout, this, &ZEVDragImageView::viewDidEndLiveResize);
-    connect(m_importer, &ZEVArtworkImporter::readingBegan, m_progressView, &ZEVDropProgressView::begin);
-    connect(m_importer, &ZEVArtworkImporter::readingEnded, m_progressView, &ZEVDropProgressView::end);
-    connect(m_progressView, &ZEVDropProgressView::cancelled, this, &ZEVDragImageView::cancelImports);
     setUpViews();
-    makeMenu();
+    setUpTransfer();
+    m_imageView->setMenu(ArtworkActions::makeMenu(this));
     updateDashes();
+}
+
+void ZEVDragImageView::setUpTransfer()
+{
+    const ZEVArtworkImporter *const importer = m_transfer->importer();
+    connect(importer, &ZEVArtworkImporter::workBegan, m_progressView, &ZEVDropProgressView::begin);
+    connect(importer, &ZEVArtworkImporter::workEnded, m_progressView, &ZEVDropProgressView::end);
+    connect(importer, &ZEVArtworkImporter::refused, this, &ZEVDragImageView::importWasRefused);
+    connect(m_progressView, &ZEVDropProgressView::cancelled, this, &ZEVDragImageView::cancelImports);
+    connect(m_transfer, &ArtworkTransfer::imported, this, &ZEVDragImageView::showImported);
+    connect(m_transfer, &ArtworkTransfer::pasted, this,
+            [this](const std::shared_ptr<ZEVImageDescription> &artwork) {
+                showDescription(artwork, true, true);
+            });
 }
 
 void ZEVDragImageView::setUpViews()
 {
-    m_dashView->setLabel(ZEVGlobalHelper::localizedStringForKey(u"Drop Image Here"));
+    updateLabel();
     ZEVViewEasyConstraints::addFittingSubview(m_innerImageViewContainerView, m_imageView);
     ZEVViewEasyConstraints::addFittingSubview(this, m_dashView, DashPadding);
     ZEVViewEasyConstraints::addFittingSubview(this, m_innerImageViewContainerView);
@@ -88,8 +153,9 @@ void ZEVDragImageView::setUpViews()
     connect(m_imageView, &ZEVImageView::imageChanged, this, &ZEVDragImageView::updateDashes);
 }
 
-QThreadPool *ZEVDragImageView::filePromiseQueue() const { return m_importer->queue(); }
-void ZEVDragImageView::cancelImports() { m_importer->cancel(); }
+QThreadPool *ZEVDragImageView::filePromiseQueue() const { return m_transfer->importer()->queue(); }
+bool ZEVDragImageView::isImporting() const { return m_transfer->importer()->isWorking(); }
+void ZEVDragImageView::cancelImports() { m_transfer->importer()->cancel(); }
 
 void ZEVDragImageView::setEditable(bool editable)
 {
@@ -118,17 +184,38 @@ bool ZEVDragImageView::drawDashes() const
 void ZEVDragImageView::updateDashes()
 {
     const bool draws = drawDashes();
-    m_dashView->setDrawLabel(!m_imageDescription && m_editable);
+    const bool isUnseen = m_imageDescription && m_imageDescription->image().isNull();
+    m_dashView->setDrawLabel(isUnseen || (!m_imageDescription && m_editable));
     m_dashView->setDrawDashes(draws);
     if (std::exchange(m_drewDashes, draws) != draws)
         Q_EMIT drawDashesChanged(draws);
 }
 
-/// A host's own artwork is newer than any that is still on its way.
+/// Artwork that cannot be shown says so, and does not look like none.
+void ZEVDragImageView::updateLabel()
+{
+    const bool isUnseen = m_imageDescription && m_imageDescription->image().isNull();
+    m_dashView->setLabel(isUnseen ? capitalized(m_imageDescription->remark())
+                                  : ZEVGlobalHelper::localizedStringForKey(u"Drop Image Here"));
+}
+
+QByteArray ZEVDragImageView::bitmapData() const
+{
+    return m_imageDescription ? m_imageDescription->bitmapData() : QByteArray();
+}
+
 void ZEVDragImageView::setBitmapData(const QByteArray &bytes, bool notify, bool animate)
 {
+    setImageDescription(bytes.isNull() ? nullptr : std::make_shared<ZEVImageDescription>(bytes), notify,
+                        animate);
+}
+
+/// A host's own artwork is newer than any that is still on its way.
+void ZEVDragImageView::setImageDescription(const std::shared_ptr<ZEVImageDescription> &description,
+                                           bool notify, bool animate)
+{
     cancelImports();
-    showBitmapData(bytes, notify, animate);
+    showDescription(description, notify, animate);
 }
 
 void ZEVDragImageView::applyImportedImageData(const QByteArray &bytes, const QUrl &source)
@@ -136,38 +223,47 @@ void ZEVDragImageView::applyImportedImageData(const QByteArray &bytes, const QUr
     if (bytes.isEmpty())
         return;
     cancelImports();
-    showImported(bytes, source);
+    showImported(std::make_shared<ZEVImageDescription>(bytes), source);
 }
 
-void ZEVDragImageView::showImported(const QByteArray &bytes, const QUrl &source)
+void ZEVDragImageView::showImported(const std::shared_ptr<ZEVImageDescription> &description,
+                                    const QUrl &source)
 {
     if (m_imageDescription)
         m_imageDescription->setOriginURL(source); // kept: that of the artwork which goes
-    showBitmapData(bytes, false, true);
-    Q_EMIT didUpdate({});
+    showDescription(description, true, true);
 }
 
-void ZEVDragImageView::showBitmapData(const QByteArray &bytes, bool notify, bool animate)
+void ZEVDragImageView::showDescription(const std::shared_ptr<ZEVImageDescription> &description, bool notifies,
+                                       bool animate)
 {
-    const std::shared_ptr<ZEVImageDescription> previous = m_imageDescription;
-    m_bitmapData = bytes;
-    m_imageDescription = bytes.isNull() ? nullptr : std::make_shared<ZEVImageDescription>(bytes);
+    const std::shared_ptr<ZEVImageDescription> previous = std::exchange(m_imageDescription, description);
     setAccessibleDescription(m_imageDescription ? m_imageDescription->imageDescription() : QString());
+    updateLabel();
     fitImage();
     update();
     if (animate)
         animateImage();
     updatePreviewPanel(previous.get());
+    const QPointer<ZEVDragImageView> guard = this;
     Q_EMIT imageDescriptionChanged();
-    if (notify)
-        Q_EMIT didUpdate({});
+    if (notifies && guard)
+        notify({});
+}
+
+void ZEVDragImageView::notify(const QVariantMap &userInfo)
+{
+    const QPointer<ZEVDragImageView> guard = this;
+    Q_EMIT didUpdate(userInfo);
+    if (guard)
+        Q_EMIT artworkDidUpdate(m_imageDescription);
 }
 
 void ZEVDragImageView::fitImage()
 {
-    m_imageView->setImage(m_imageDescription ? ZEVImageCrop::imageScaledToFitSize(m_imageDescription->image(),
-                                                                                  size(), devicePixelRatioF())
-                                             : QImage());
+    const QImage whole = m_imageDescription ? m_imageDescription->image() : QImage();
+    m_imageView->setImage(
+        whole.isNull() ? whole : ZEVImageCrop::imageScaledToFitSize(whole, size(), devicePixelRatioF()));
 }
 
 void ZEVDragImageView::animateImage()
@@ -179,7 +275,7 @@ void ZEVDragImageView::animateImage()
 
 QRect ZEVDragImageView::drawingImageRectInBounds() const
 {
-    const QSizeF own = m_imageDescription ? m_imageDescription->size() : QSizeF();
+    const QSizeF own = m_imageDescription ? m_imageDescription->shownSize() : QSizeF();
     if (own.isEmpty())
         return {};
     QRectF place({}, own.scaled(size(), Qt::KeepAspectRatio));
@@ -233,7 +329,171 @@ bool ZEVDragImageView::event(QEvent *event)
     if (event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate)
         update();
     if (event->type() == QEvent::ShortcutOverride
-        && !actionForKey(static_cast<const QKeyEvent &>(*event)).isEmpty())
+        && !ArtworkActions::actionForKey(*this, static_cast<const QKeyEvent &>(*event)).isEmpty())
         event->accept();
     return QWidget::event(event);
+}
+
+void ZEVDragImageView::keyPressEvent(QKeyEvent *event)
+{
+    if (!ArtworkActions::perform(this, ArtworkActions::actionForKey(*this, *event)))
+        QWidget::keyPressEvent(event);
+}
+
+void ZEVDragImageView::focusInEvent(QFocusEvent *event)
+{
+    m_focusFrame->show();
+    QWidget::focusInEvent(event);
+}
+
+void ZEVDragImageView::focusOutEvent(QFocusEvent *event)
+{
+    m_focusFrame->hide();
+    QWidget::focusOutEvent(event);
+}
+
+QMenu *ZEVDragImageView::menu() const { return m_imageView->menu(); }
+void ZEVDragImageView::setMenu(QMenu *menu) { m_imageView->setMenu(menu); }
+
+/// The menu key comes to the widget with the focus, the mouse to the image view.
+void ZEVDragImageView::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (menu())
+        menu()->popup(event->globalPos());
+    event->setAccepted(menu());
+}
+
+bool ZEVDragImageView::validateUserInterfaceItem(const QByteArray &action) const
+{
+    return ArtworkActions::isEnabled(*this, action);
+}
+
+void ZEVDragImageView::copy() { m_transfer->copy(); }
+void ZEVDragImageView::paste() { m_transfer->paste(); }
+void ZEVDragImageView::browse() { m_transfer->browse(); }
+
+void ZEVDragImageView::cut()
+{
+    if (!m_imageDescription)
+        return;
+    copy();
+    clearImage();
+}
+
+void ZEVDragImageView::clearImage()
+{
+    const QPointer<ZEVDragImageView> guard = this;
+    setBitmapData({});
+    if (guard)
+        notify({{u"imageCleared"_s, true}});
+}
+
+void ZEVDragImageView::togglePreviewPanel()
+{
+    ZEVPreviewPanel *const panel = ZEVPreviewPanel::sharedPreviewPanel();
+    if (!m_imageDescription && !panel->isVisible())
+        return;
+    panel->setPreviewItems(m_imageDescription ? ZEVPreviewPanel::Items{m_imageDescription}
+                                              : ZEVPreviewPanel::Items());
+    panel->toggle();
+}
+
+/// A panel that shows this well's artwork goes on doing so, from track to track.
+void ZEVDragImageView::updatePreviewPanel(const ZEVImageDescription *previous)
+{
+    if (!ZEVPreviewPanel::sharedPreviewPanelExists())
+        return;
+    ZEVPreviewPanel *const panel = ZEVPreviewPanel::sharedPreviewPanel();
+    const ZEVPreviewPanel::Items &items = panel->previewItems();
+    const bool isOurs = previous ? items.size() == 1 && items.front().get() == previous : m_isPreviewed;
+    m_isPreviewed = isOurs;
+    if (isOurs)
+        panel->setPreviewItems(m_imageDescription ? ZEVPreviewPanel::Items{m_imageDescription}
+                                                  : ZEVPreviewPanel::Items());
+}
+
+bool ZEVDragImageView::canReadDataFromPasteboard(const ZEVPasteboard &pasteboard)
+{
+    return ArtworkTransfer::canRead(pasteboard);
+}
+
+QByteArray ZEVDragImageView::provideDataForType(const ZEVPasteboard &, const ZEVPasteboardItem *,
+                                                QStringView type) const
+{
+    if (m_imageView->image().isNull())
+        return {};
+    if (ZEVUniformType::isEqual(type, ZEVUniformType::TIFF))
+        return tiffOf(m_imageDescription->image());
+    return ZEVUniformType::isEqual(type, u"com.adobe.pdf") ? pdfOf(m_imageView) : QByteArray();
+}
+
+void ZEVDragImageView::mousePressEvent(QMouseEvent *event)
+{
+    m_pressedAt = ZEVImageDragging::pressedPoint(*event);
+    event->setAccepted(m_pressedAt.has_value());
+}
+
+void ZEVDragImageView::mouseMoveEvent(QMouseEvent *event)
+{
+    const auto start = ZEVImageDragging::takeStart(m_pressedAt, *event);
+    if (start && m_imageDescription && !m_imageView->image().isNull())
+        ZEVImageDragging::dragOut(this, m_imageView, m_imageView->rect(), *start, pasteboardWriter());
+}
+
+std::shared_ptr<ZEVPboardImageWriter> ZEVDragImageView::pasteboardWriter() { return m_transfer->writer(); }
+
+/// Without any animation, whatever was going on.
+void ZEVDragImageView::setImageOpacity(qreal opacity)
+{
+    m_alphaAnimation->stop();
+    m_alphaAnimationOut->stop();
+    m_imageView->setOpacity(opacity);
+}
+
+void ZEVDragImageView::dragEnterEvent(QDragEnterEvent *event)
+{
+    const Qt::DropAction action = m_transfer->entered(*event);
+    if (action != Qt::IgnoreAction) {
+        m_dashView->setHighlighted(true);
+        setImageOpacity(HoveredOpacity);
+    }
+    answer(event, action);
+}
+
+void ZEVDragImageView::dragMoveEvent(QDragMoveEvent *event)
+{
+    answer(event, ArtworkTransfer::operation(*event));
+}
+
+void ZEVDragImageView::dragLeaveEvent(QDragLeaveEvent *event)
+{
+    setImageOpacity(1);
+    m_dashView->setHighlighted(false);
+    QWidget::dragLeaveEvent(event);
+}
+
+void ZEVDragImageView::dropEvent(QDropEvent *event)
+{
+    const bool isTaken = prepareForDragOperation(*event) && performDragOperation(*event);
+    answer(event, isTaken ? Qt::CopyAction : Qt::IgnoreAction);
+    draggingEnded();
+}
+
+void ZEVDragImageView::draggingEnded()
+{
+    ZEVViewAnimation::animateTo(*m_alphaAnimationOut, 1.0, ZEVViewAnimation::DefaultSeconds,
+                                ZEVViewAnimation::defaultCurve());
+    m_dashView->setHighlighted(false);
+}
+
+bool ZEVDragImageView::prepareForDragOperation(const QDropEvent &event)
+{
+    m_dashView->setHighlighted(false);
+    return m_editable && canReadDataFromPasteboard(ZEVPasteboard(event.mimeData()));
+}
+
+/// The well's own artwork changes nothing.
+bool ZEVDragImageView::performDragOperation(const QDropEvent &event)
+{
+    return event.source() == this || m_transfer->perform(event);
 }

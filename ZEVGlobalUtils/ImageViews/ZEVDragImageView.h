@@ -18,13 +18,14 @@ class QMenu;
 class QPropertyAnimation;
 class QThreadPool;
 class QTimer;
-class ZEVArtworkImporter;
+class ArtworkTransfer;
 class ZEVDashView;
 class ZEVDropProgressView;
 class ZEVFocusFrame;
 class ZEVImageDescription;
 class ZEVInnerImageView;
 class ZEVPasteboard;
+class ZEVPasteboardItem;
 class ZEVPboardImageWriter;
 
 /// The name of ZEVDragImageView::didUpdate() for hosts that pass events on by name.
@@ -59,12 +60,16 @@ public:
     bool drawDashes() const;
 
     /// The encoded bytes, null for none.
-    const QByteArray &bitmapData() const { return m_bitmapData; }
+    QByteArray bitmapData() const;
     void setBitmapData(const QByteArray &bytes) { setBitmapData(bytes, false, false); }
     /// \a notify emits didUpdate(); \a animate lets the artwork fade in and grow.
     void setBitmapData(const QByteArray &bytes, bool notify, bool animate = false);
     /// Null without artwork.
     const std::shared_ptr<ZEVImageDescription> &imageDescription() const { return m_imageDescription; }
+    /// The same as setBitmapData() with artwork that has been decoded already, on whatever thread: setBitmapData()
+    /// does it at once. Null for none.
+    void setImageDescription(const std::shared_ptr<ZEVImageDescription> &description, bool notify = false,
+                             bool animate = false);
 
     /// Shows artwork that came from \a source (invalid where there is none), and says so. Nothing happens for
     /// no bytes. Kept: the source becomes the origin of the artwork that is replaced.
@@ -85,21 +90,29 @@ public:
     QWidget *innerImageViewContainerView() const { return m_innerImageViewContainerView; }
     QPropertyAnimation *alphaAnimation() const { return m_alphaAnimation; }
     QPropertyAnimation *scaleAnimation() const { return m_scaleAnimation; }
-    /// Where files are read.
+    /// Where files are read and pictures decoded.
     QThreadPool *filePromiseQueue() const;
+    /// Whether artwork is still on its way.
+    bool isImporting() const;
 
-    /// Where the artwork lies, in whole points; empty without any.
+    /// Where the artwork lies, upright, in whole points; empty without any.
     QRect drawingImageRectInBounds() const;
 
     /// The context menu, the image view's.
     QMenu *menu() const;
     void setMenu(QMenu *menu);
 
-    /// Whether there is something to take: image bytes, an image file's address, or the promise of one.
+    /// Whether there is something to take, of a format that can be shown here: image bytes, an image file's
+    /// address, or the promise of one.
     static bool canReadDataFromPasteboard(const ZEVPasteboard &pasteboard);
 
     /// Whether \a action, the name of one of the slots or of another slot of the view, makes sense now.
     bool validateUserInterfaceItem(const QByteArray &action) const;
+
+    /// What \a item of \a pasteboard is to hold of \a type: the picture as TIFF or, as it is shown, as PDF; null for
+    /// other types and without a picture.
+    QByteArray provideDataForType(const ZEVPasteboard &pasteboard, const ZEVPasteboardItem *item,
+                                  QStringView type) const;
 
     QSize sizeHint() const override { return {160, 160}; }
     QSize minimumSizeHint() const override { return {48, 48}; }
@@ -124,6 +137,12 @@ Q_SIGNALS:
     /// The user has changed the artwork, or a host that asked to notify. \a userInfo is empty, after
     /// clearImage() it holds "imageCleared": true.
     void didUpdate(const QVariantMap &userInfo);
+    /// The same with what is shown now, decoded; null for none.
+    void artworkDidUpdate(const std::shared_ptr<ZEVImageDescription> &artwork);
+
+    /// Something was dropped, pasted or chosen that cannot be shown; the artwork is what it was. \a reason is for the
+    /// user ("damaged", "no decoder for AVIF").
+    void importWasRefused(const QString &reason);
 
 protected:
     bool event(QEvent *event) override;
@@ -148,19 +167,18 @@ protected:
 
 private:
     void setUpViews();
-    void makeMenu();
-    void validateMenu();
+    void setUpTransfer();
     void updateDashes();
-    void showBitmapData(const QByteArray &bytes, bool notify, bool animate);
-    void showImported(const QByteArray &bytes, const QUrl &source);
+    void updateLabel();
+    void showDescription(const std::shared_ptr<ZEVImageDescription> &description, bool notifies,
+                         bool animate);
+    void showImported(const std::shared_ptr<ZEVImageDescription> &description, const QUrl &source);
+    void notify(const QVariantMap &userInfo);
     void animateImage();
     void setImageOpacity(qreal opacity);
     void fitImage();
     void updatePreviewPanel(const ZEVImageDescription *previous);
-    QByteArray actionForKey(const QKeyEvent &event) const;
-    bool perform(const QByteArray &action);
 
-    Qt::DropAction draggingEntered(const QDropEvent &event);
     void draggingEnded();
     bool prepareForDragOperation(const QDropEvent &event);
     bool performDragOperation(const QDropEvent &event);
@@ -168,8 +186,8 @@ private:
     ZEVWeakRef<ZEVDragImageViewDelegate> m_delegate;
     bool m_editable = true;
     bool m_drewDashes = false;
+    bool m_isPreviewed = false; ///< the panel showed this well's artwork when it last had any
     uint m_dashDisplayRule = DashesAutomatic;
-    QByteArray m_bitmapData;
     std::shared_ptr<ZEVImageDescription> m_imageDescription;
     QUrl m_browseURL;
     BackgroundDrawingBlock m_backgroundDrawingBlock;
@@ -184,5 +202,5 @@ private:
     QPropertyAnimation *m_scaleAnimation;
     QPropertyAnimation *m_alphaAnimationOut;
     QTimer *m_liveResize;
-    ZEVArtworkImporter *m_importer;
+    ArtworkTransfer *m_transfer;
 };

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr int DelayMilliseconds = 400;
+constexpr int DelayMilliseconds = 300;
 
 } // namespace
 

@@ -32,7 +32,8 @@ void ZEVViewAnimation::animateTo(QPropertyAnimation &animation, const QVariant &
                                  const QEasingCurve &curve)
 {
     animation.stop();
-    animation.setStartValue({});
+    // An invalid start value stands for the present one at every second time only (Qt 6.4).
+    animation.setStartValue(animation.targetObject()->property(animation.propertyName().constData()));
     animation.setEndValue(end);
     run(animation, seconds, curve);
 }

@@ -97,10 +97,13 @@ public:
                 [this](const QVariantMap &info) { updates += info; });
     }
     using ZEVDragImageView::pasteboardWriter;
+    /// Reading, decoding and vetting follow one another.
     void settle()
     {
-        filePromiseQueue()->waitForDone();
-        QCoreApplication::processEvents();
+        do {
+            filePromiseQueue()->waitForDone();
+            QCoreApplication::processEvents();
+        } while (isImporting());
     }
     QList<QVariantMap> updates;
 };
@@ -174,6 +177,48 @@ private Q_SLOTS:
         }
     }
 
+    /// What would only put a blank in the place of good artwork.
+    void whatCannotBeShownIsRefused()
+    {
+        const QString image = u"public.image"_s;
+        const QByteArray icon = EncodedImages::encoded(16, 16, "ICO"),
+                         ppm = EncodedImages::encoded(5, 5, "PPM");
+        const std::tuple<const char *, Offers, QString> rows[] = {
+            {"half a picture", {{u"image/png"_s, png(64).first(60)}}, u"damaged"_s},
+            {"without a decoder", {{image, EncodedImages::avif(40, 30)}}, u"no decoder for AVIF"_s},
+            {"an icon", {{image, icon}}, u"no known image format"_s},
+            {"an icon under its name", {{u"image/vnd.microsoft.icon"_s, icon}}, {}},
+            {"a pixmap under its name", {{u"image/x-portable-pixmap"_s, ppm}}, {}},
+        };
+        for (const auto &[name, offers, reason] : rows) {
+            Well well;
+            Vetter vetter;
+            well.setDelegate(&vetter);
+            well.setBitmapData(png(9));
+            QString said;
+            connect(&well, &ZEVDragImageView::importWasRefused, this,
+                    [&](const QString &why) { said = why; });
+            COMPARE_ROW(name, drop(well, offers), !reason.isEmpty());
+            well.settle();
+            COMPARE_ROW(name, said, reason);
+            COMPARE_ROW(name, well.bitmapData(), png(9));
+            COMPARE_ROW(name, vetter.asked.size(), 0);
+        }
+    }
+
+    void artworkThatCannotBeShownSaysSo()
+    {
+        Well well;
+        well.setBitmapData(EncodedImages::avif(40, 30));
+        QCOMPARE(well.dashView()->label(), u"No decoder for AVIF"_s);
+        QVERIFY(well.drawDashes());
+        well.setEditable(false);
+        QVERIFY(well.dashView()->drawLabel());
+        well.setBitmapData(png(5));
+        QVERIFY(!well.dashView()->drawLabel());
+        QCOMPARE(well.dashView()->label(), u"Drop Image Here"_s);
+    }
+
     void aDragOverTheWell()
     {
         const auto data = offering({{u"image/png"_s, png(5)}});
@@ -206,6 +251,7 @@ private Q_SLOTS:
         QCOMPARE(vetter.asked, QList({png(5), png(6), png(7)}));
         QVERIFY(well.bitmapData().isNull());
         vetter.answers[1](png(16)); // the first never comes, the second twice
+        well.settle();
         QCOMPARE(well.bitmapData(), png(16));
         vetter.answers[1](png(26));
         vetter.answers[0](png(15)); // older than what is shown
@@ -219,6 +265,7 @@ private Q_SLOTS:
         well.settle();
         well.setBitmapData(png(1)); // the host's own
         vetter.answers[3](png(18));
+        well.settle();
         QCOMPARE(well.bitmapData(), png(1));
         QCOMPARE(well.updates.size(), 2);
     }
@@ -288,17 +335,21 @@ private Q_SLOTS:
         QCOMPARE(QImage::fromData(general.dataForType(u"public.tiff"), "TIFF").size(), QSize(5, 8));
         QCOMPARE(general.dataForType(u"org.nspasteboard.source"), "org.example.editor");
         well.paste();
+        well.settle();
         QCOMPARE(well.bitmapData(), png(5)); // vetted before
         QCOMPARE(well.updates, QList<QVariantMap>({{{u"imageCleared"_s, true}}, {}}));
         QGuiApplication::setDesktopFileName(u"org.example.other"_s);
         well.paste();
+        well.settle();
         QCOMPARE(vetter.asked.size(), 1);
         vetter.answers[0](png(15));
+        well.settle();
         QCOMPARE(well.bitmapData(), png(15));
         QGuiApplication::setDesktopFileName({}); // nothing is one's own without a name
         QGuiApplication::clipboard()->setMimeData(
             offering({{u"image/png"_s, png(6)}, {u"org.nspasteboard.source"_s, ""}}).release());
         well.paste();
+        well.settle();
         QCOMPARE(vetter.asked.size(), 2);
     }
 
@@ -331,6 +382,7 @@ private Q_SLOTS:
         QTest::keyClick(&well, Qt::Key_X, Qt::ControlModifier);
         QVERIFY(well.bitmapData().isNull());
         QTest::keyClick(&well, Qt::Key_V, Qt::ControlModifier);
+        well.settle();
         QCOMPARE(well.bitmapData(), png(5));
         Q_EMIT well.menu()->aboutToShow();
         well.menu()->actions().at(4)->trigger();
@@ -406,6 +458,33 @@ private Q_SLOTS:
         enter(well, *data);
         QCoreApplication::processEvents();
         QCOMPARE(well.imageView()->opacity(), 0.55); // the drag has the last word
+    }
+
+    /// An animation goes on from what is seen, at every second time, too.
+    void nothingBlinks()
+    {
+        Well well;
+        setReducedMotion(well.dashView(), false);
+        well.dashView()->setHighlighted(true, false);
+        for (int n = 0; n < 4; ++n) {
+            const qreal before = well.dashView()->alpha();
+            well.dashView()->setHighlighted(n % 2 == 1, true);
+            QVERIFY2(std::abs(well.dashView()->alpha() - before) < 0.1, qPrintable(QString::number(n)));
+            QTRY_COMPARE(well.dashView()->alpha(), n % 2 == 1 ? 1.0 : 0.5);
+        }
+    }
+
+    void whatAPasteboardItemIsGiven()
+    {
+        Well well;
+        const ZEVPasteboard general = ZEVPasteboard::generalPasteboard();
+        QVERIFY(well.provideDataForType(general, nullptr, u"public.tiff").isNull());
+        well.setBitmapData(EncodedImages::turned(EncodedImages::picture(6, 5), "JPG", 6));
+        const QImage tiff =
+            QImage::fromData(well.provideDataForType(general, nullptr, u"public.tiff"), "TIFF");
+        QCOMPARE(tiff.size(), QSize(5, 6)); // upright
+        QVERIFY(well.provideDataForType(general, nullptr, u"com.adobe.pdf").startsWith("%PDF"));
+        QVERIFY(well.provideDataForType(general, nullptr, u"public.png").isNull());
     }
 
     void browsing()

@@ -132,6 +132,7 @@ private Q_SLOTS:
             {u"Cover"_s, "?", u"Cover"_s},
             {u".."_s, jpeg, u"...jpg"_s},
             {u"Cover"_s, {}, u"Cover"_s},
+            {QString(130, u'\u0436'), jpeg, QString(125, u'\u0436') + u".jpg"_s}, // 255 bytes, not 260
         };
         for (const auto &[name, data, promised] : rows)
             COMPARE_ROW(name, writer(data, name, u"")->promisedFileName(), promised);
@@ -147,8 +148,7 @@ private Q_SLOTS:
         const ZEVPasteboardItem item(object, object->pasteboardName());
         QStringList formats{u"text/uri-list"_s, u"image/jpeg"_s, u"public.image"_s};
         if (QGuiApplication::platformName() == u"xcb")
-            formats = QStringList{u"XdndDirectSave0"_s} + formats.sliced(1)
-                + QStringList{u"application/octet-stream"_s};
+            formats = QStringList{u"XdndDirectSave0"_s} + formats.sliced(1);
         QCOMPARE(item.formats(), formats);
         for (const QString &format : formats.sliced(1))
             COMPARE_ROW(format, item.data(format), jpeg);
@@ -175,8 +175,11 @@ private Q_SLOTS:
             const auto object = writer("\xFF.bytes", u"Cover"_s, ZEVPasteboard::DragName);
             const QByteArray address =
                 name.contains(u':') ? name.toUtf8() : folder.address({}) + name.toUtf8();
-            COMPARE_ROW(name, ZEVPasteboardItem(object, object->pasteboardName()).answerToDirectSave(address),
-                        answer);
+            const ZEVPasteboardItem item(object, object->pasteboardName());
+            COMPARE_ROW(name, item.answerToDirectSave(address), answer);
+            // Who is told to make the file gets the bytes; others would take them and leave the promise.
+            COMPARE_ROW(name, item.data(u"application/octet-stream"_s),
+                        answer == "F" ? object->bitmapData() : QByteArray());
             if (!file.isEmpty())
                 COMPARE_ROW(name, contents(folder.path(file)), object->bitmapData());
             COMPARE_ROW(name, contents(folder.path(u"co#ver.jpg"_s)), QByteArray("file"));

@@ -9,6 +9,8 @@
 
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint64 LargestFile = 256LL * 1024 * 1024;
@@ -31,7 +33,8 @@ QByteArray ZEVImageFile::read(const QString &path)
     QFile file(path);
     if (!info.isFile() || info.size() > LargestFile || !file.open(QFile::ReadOnly))
         return {};
-    return file.read(LargestFile);
+    const QByteArray bytes = file.read(LargestFile);
+    return bytes.isNull() && file.error() == QFile::NoError ? ""_ba : bytes;
 }
 
 ZEVError ZEVImageFile::writeError(qint64 code, const QString &path, const QString &reason)

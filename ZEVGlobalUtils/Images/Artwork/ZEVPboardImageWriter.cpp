@@ -34,7 +34,9 @@ QByteArray ZEVPboardImageWriter::pasteboardPropertyListForType(QStringView type)
         return m_bitmapData;
     if (type == PromisedFileContentType)
         return ZEVUniformType::Image.toUtf8(); // kept: the generic type, whatever the artwork is
-    return type == PromisedFileURLType ? writePromisedFile() : QByteArray();
+    const auto location = type == PromisedFileURLType ? ZEVPasteboard::pasteLocation(m_pasteboardName)
+                                                      : std::optional<ZEVPasteboard::PasteLocation>();
+    return location ? writePromisedFile(*location) : QByteArray();
 }
 
 /// Strictly identified, so that no program is told of a JPEG which is none.
@@ -47,7 +49,11 @@ QStringList ZEVPboardImageWriter::mimeTypesForType(QStringView type) const
     return types;
 }
 
-QString ZEVPboardImageWriter::promisedFileName() const { return withExtension(m_fileName); }
+/// No longer than a file system takes, so that the receiver finds it under the name that it was promised.
+QString ZEVPboardImageWriter::promisedFileName() const
+{
+    return QString::fromUtf8(ZEVFileName(withExtension(m_fileName).toUtf8()).fitting());
+}
 
 QString ZEVPboardImageWriter::withExtension(const QString &name) const
 {
@@ -57,13 +63,12 @@ QString ZEVPboardImageWriter::withExtension(const QString &name) const
     return extension ? name + u'.' + *extension : name;
 }
 
-QByteArray ZEVPboardImageWriter::writePromisedFile() const
+QByteArray ZEVPboardImageWriter::writePromisedFile(const ZEVPasteboard::PasteLocation &location) const
 {
-    const auto location = ZEVPasteboard::pasteLocation(m_pasteboardName);
-    if (!location)
+    if (m_bitmapData.isNull())
         return {};
-    const QString name = location->fileName.isEmpty() ? promisedFileName() : location->fileName;
-    const QUrl target = ZEVFileURL::byAppendingPathComponent(location->folder, name.toUtf8());
+    const QString name = location.fileName.isEmpty() ? promisedFileName() : location.fileName;
+    const QUrl target = ZEVFileURL::byAppendingPathComponent(location.folder, name.toUtf8());
     const auto write = [this](const QUrl &, const QUrl &candidate, ZEVError *error) {
         return ZEVPlainFileManager::defaultManager()->createFileAtURL(candidate, m_bitmapData, error);
     };

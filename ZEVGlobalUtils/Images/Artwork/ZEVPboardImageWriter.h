@@ -22,9 +22,8 @@ public:
 
     QStringList writableTypesForPasteboard() const override;
 
-    /// The address of a promised file is that of the file which this call has written, next to one of the
-    /// same name under a numbered one. A failure is presented to the user afterwards, since a drag may be
-    /// waiting.
+    /// The address of a promised file is that of the file which this call has written to the paste location of the
+    /// pasteboard.
     QByteArray pasteboardPropertyListForType(QStringView type) const override;
 
     /// Among them the artwork's own MIME type.
@@ -33,9 +32,12 @@ public:
     /// With the extension that the artwork's first byte calls for, unless the name has one.
     QString promisedFileName() const override;
 
+    /// Next to a file of the same name under a numbered one. A failure is presented to the user afterwards, since a
+    /// drag may be waiting. Nothing is written without artwork.
+    QByteArray writePromisedFile(const ZEVPasteboard::PasteLocation &location) const override;
+
 private:
     QString withExtension(const QString &name) const;
-    QByteArray writePromisedFile() const;
 
     QString m_pasteboardName;
     QByteArray m_bitmapData;

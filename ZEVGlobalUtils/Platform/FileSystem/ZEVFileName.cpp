@@ -43,6 +43,12 @@ ZEVFileName::ZEVFileName(const QByteArray &name)
     extension = name.sliced(dot + 1);
 }
 
+QByteArray ZEVFileName::fitting() const
+{
+    const QByteArray end = extension.isEmpty() ? QByteArray() : '.' + extension;
+    return shortened(base, LongestName - end.size()) + end;
+}
+
 QByteArray ZEVFileName::numbered(int number, Dot dot) const
 {
     QByteArray end = ' ' + QByteArray::number(number);

@@ -19,6 +19,9 @@ struct ZEVFileName {
     /// 255 bytes that a file system takes.
     QByteArray numbered(int number, Dot dot) const;
 
+    /// The name itself, shortened in the same way.
+    QByteArray fitting() const;
+
     QByteArray base;
     QByteArray extension; ///< without its dot
 };

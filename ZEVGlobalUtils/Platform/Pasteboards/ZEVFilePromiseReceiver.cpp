@@ -4,6 +4,7 @@
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFilePromiseReceiver_p.h>
 
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileErrors.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileName_p.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVRegularFile_p.h>
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVDirectSave_p.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVError.h>
@@ -18,11 +19,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What the source says is its wish, and may lead anywhere.
+/// What the source says is its wish, and may lead anywhere or be longer than a file system takes.
 QString lastComponent(const QString &name)
 {
     const QString last = name.section(u'/', -1).remove(QChar::Null);
-    return last == u"." || last == u".." ? QString() : last;
+    return last == u"." || last == u".." ? QString()
+                                         : QString::fromUtf8(ZEVFileName(last.toUtf8()).fitting());
 }
 
 /// The user's alone (0700), and gone with everything in it whatever happens.

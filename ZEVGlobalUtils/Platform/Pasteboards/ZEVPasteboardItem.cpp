@@ -64,12 +64,15 @@ QStringList ZEVPasteboardItem::formats() const
         else if (type == ZEVPasteboardWriting::PromisedFileURLType)
             formats += promiseMimeType();
     }
-    if (formats.contains(ZEVDirectSave::MimeType))
-        formats.append(Bytes);
     return formats;
 }
 
-bool ZEVPasteboardItem::hasFormat(const QString &mimeType) const { return formats().contains(mimeType); }
+/// Plain bytes are not announced, since many receivers would take them and never ask for the file; one that has been
+/// answered that it must make the file itself finds them.
+bool ZEVPasteboardItem::hasFormat(const QString &mimeType) const
+{
+    return formats().contains(mimeType) || (mimeType == Bytes && m_mustSaveItself);
+}
 
 /// Plain bytes are those of the first type that is no promise.
 QString ZEVPasteboardItem::typeForMimeType(const QString &mimeType) const
@@ -104,26 +107,19 @@ Qt::DropAction ZEVPasteboardItem::exec(QDrag *drag)
 QByteArray ZEVPasteboardItem::answerToDirectSave(const QByteArray &address) const
 {
     const auto path = ZEVLocalFile::path(QUrl::fromEncoded(address));
+    m_mustSaveItself = !path;
     if (!path)
         return "F"_ba;
     const QFileInfo file(*path);
     if (file.fileName().isEmpty())
         return "E"_ba;
-    return fileWrittenTo(file.path(), file.fileName()).isEmpty() ? "E"_ba : "S"_ba;
-}
-
-QByteArray ZEVPasteboardItem::fileWrittenTo(const QString &folder, const QString &fileName) const
-{
-    ZEVPasteboard::setPasteLocation(m_pasteboardName,
-                                    ZEVPasteboard::PasteLocation{QUrl::fromLocalFile(folder), fileName});
-    QByteArray written = m_object->pasteboardPropertyListForType(ZEVPasteboardWriting::PromisedFileURLType);
-    ZEVPasteboard::setPasteLocation(m_pasteboardName, std::nullopt);
-    return written;
+    const ZEVPasteboard::PasteLocation location{QUrl::fromLocalFile(file.path()), file.fileName()};
+    return m_object->writePromisedFile(location).isEmpty() ? "E"_ba : "S"_ba;
 }
 
 QByteArray ZEVPasteboardItem::fileInPrivateFolder() const
 {
     if (m_privateFile.isEmpty())
-        m_privateFile = fileWrittenTo(newPrivateFolder(), {});
+        m_privateFile = m_object->writePromisedFile({QUrl::fromLocalFile(newPrivateFolder()), {}});
     return m_privateFile.isEmpty() ? QByteArray() : m_privateFile + "\r\n";
 }

@@ -40,10 +40,10 @@ private:
     bool usesDirectSave() const;
     QString promiseMimeType() const;
     QString typeForMimeType(const QString &mimeType) const;
-    QByteArray fileWrittenTo(const QString &folder, const QString &fileName) const;
     QByteArray fileInPrivateFolder() const;
 
     std::shared_ptr<ZEVPasteboardWriting> m_object;
     QString m_pasteboardName;
     mutable QByteArray m_privateFile;
+    mutable bool m_mustSaveItself = false; ///< the receiver, by the answer that it was given
 };

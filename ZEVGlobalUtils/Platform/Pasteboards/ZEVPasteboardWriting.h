@@ -4,6 +4,7 @@
 #pragma once
 
 #include <ZEVGlobalUtils/Export.h>
+#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboard.h>
 
 #include <QStringList>
 
@@ -30,6 +31,9 @@ public:
 
     /// The name that the promised file would like to have; empty without a promise.
     virtual QString promisedFileName() const { return {}; }
+
+    /// Writes the promised file where the receiver wants it, and answers its address; null for none.
+    virtual QByteArray writePromisedFile(const ZEVPasteboard::PasteLocation &) const { return {}; }
 
     /// Under which name the paste location will be found. Those who promise no file need not know.
     virtual void setPasteboardName(const QString &) { }

@@ -61,6 +61,8 @@ ArtworkDock::ArtworkDock(TrackTableModel *model, QTableView *table, QUndoStack *
     rows->addWidget(makeLimit());
     setWidget(content);
     connect(m_selected, &SelectedArtwork::changed, this, &ArtworkDock::showArtwork);
+    connect(m_well, &ZEVDragImageView::importWasRefused, m_description,
+            [this](const QString &reason) { m_description->setText(tr("Not taken: %1").arg(reason)); });
     connect(m_well, &ZEVDragImageView::didUpdate, this, [this] { changeArtwork(m_well->bitmapData()); });
     showArtwork();
 }
@@ -126,7 +128,11 @@ QString ArtworkDock::description() const
     case SelectedArtwork::Same:
         break;
     }
-    return m_well->imageDescription() ? m_well->imageDescription()->imageDescription() : QString();
+    const auto artwork = m_well->imageDescription();
+    if (!artwork)
+        return {};
+    return artwork->remark().isEmpty() ? artwork->imageDescription()
+                                       : artwork->imageDescription() + u", "_s + artwork->remark();
 }
 
 /// What was dropped is there already, and need not be decoded again.
@@ -134,8 +140,10 @@ void ArtworkDock::showArtwork()
 {
     const SelectedArtwork::State state = m_selected->state();
     const bool isKnown = state != SelectedArtwork::NoTracks && state != SelectedArtwork::Reading;
-    if (state != SelectedArtwork::Reading && m_well->bitmapData() != m_selected->bytes())
-        m_well->setBitmapData(m_selected->bytes().isEmpty() ? QByteArray() : m_selected->bytes());
+    const auto artwork = m_selected->artwork();
+    if (state != SelectedArtwork::Reading
+        && m_well->bitmapData() != (artwork ? artwork->bitmapData() : QByteArray()))
+        m_well->setImageDescription(artwork);
     m_well->setEditable(isKnown);
     m_browse->setEnabled(isKnown);
     m_remove->setEnabled(state == SelectedArtwork::Same || state == SelectedArtwork::Mixed);

@@ -65,13 +65,13 @@ bool ArtworkLimit::isKeptBy(const QByteArray &artwork) const
         && (bytes <= 0 || artwork.size() <= bytes);
 }
 
-QByteArray ArtworkLimit::applied(const QByteArray &artwork) const
+QByteArray ArtworkLimit::applied(const ZEVImageDescription &artwork) const
 {
-    const QImage original = ZEVImageDescription(artwork).image();
-    if (original.isNull() || isKeptBy(artwork))
-        return original.isNull() ? QByteArray() : artwork;
-    QImage image = scaledDown(original, pixels);
-    if (ZEVImageIdentification::identificationWithData(artwork).format == ZEVImageIdentification::PNG) {
+    const QByteArray &original = artwork.bitmapData();
+    if (isKeptBy(original))
+        return original;
+    QImage image = scaledDown(artwork.image(), pixels);
+    if (ZEVImageIdentification::identificationWithData(original).format == ZEVImageIdentification::PNG) {
         if (QByteArray png = encoded(image, "PNG"); isKeptBy(png))
             return png;
     }

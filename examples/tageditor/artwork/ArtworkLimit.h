@@ -5,6 +5,8 @@
 
 #include <QByteArray>
 
+class ZEVImageDescription;
+
 /// How large artwork may be.
 struct ArtworkLimit {
     int pixels = 0; ///< of the longer edge; 0 for no limit
@@ -14,6 +16,6 @@ struct ArtworkLimit {
     bool isKeptBy(const QByteArray &artwork) const;
 
     /// \a artwork as it is where it keeps the limit, else made smaller and encoded anew: as a PNG where it
-    /// was one and that is small enough, else as a JPEG. Null for what is no picture. Any thread.
-    QByteArray applied(const QByteArray &artwork) const;
+    /// was one and that is small enough, else as a JPEG, upright and in sRGB. Only for what can be shown. Any thread.
+    QByteArray applied(const ZEVImageDescription &artwork) const;
 };

@@ -5,11 +5,12 @@
 
 #include <QThreadPool>
 
-bool ArtworkVetting::acceptBitmapData(ZEVDragImageView *, const QByteArray &data,
-                                      const Completion &completion)
+bool ArtworkVetting::acceptImageDescription(ZEVDragImageView *,
+                                            const std::shared_ptr<ZEVImageDescription> &description,
+                                            const Completion &completion)
 {
     QThreadPool::globalInstance()->start(
-        [limit = m_limit, data, completion] { completion(limit.applied(data)); });
+        [limit = m_limit, description, completion] { completion(limit.applied(*description)); });
     return true;
 }
 

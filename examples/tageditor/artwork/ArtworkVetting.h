@@ -9,8 +9,7 @@
 
 #include <QObject>
 
-/// Takes pictures only, and makes those smaller that are larger than the user wants them, on a thread of
-/// their own.
+/// Makes pictures smaller that are larger than the user wants them, on a thread of their own.
 class ArtworkVetting : public QObject, public ZEVDragImageViewDelegate {
     Q_OBJECT
 
@@ -21,8 +20,9 @@ public:
     /// The name of a file that is dragged out, without an extension.
     void setExportName(const QString &name) { m_exportName = name; }
 
-    bool acceptBitmapData(ZEVDragImageView *imageView, const QByteArray &data,
-                          const Completion &completion) override;
+    bool acceptImageDescription(ZEVDragImageView *imageView,
+                                const std::shared_ptr<ZEVImageDescription> &description,
+                                const Completion &completion) override;
     std::optional<QString> exportNameForBitmapData(ZEVDragImageView *imageView,
                                                    const QByteArray &data) override;
 

@@ -7,6 +7,8 @@
 #include <tageditor/tracks/TableSelection.h>
 #include <tageditor/tracks/TrackTableModel.h>
 
+#include <ZEVGlobalUtils/Images/Artwork/ZEVImageDescription.h>
+
 #include <QCoreApplication>
 #include <QItemSelectionModel>
 #include <QPointer>
@@ -23,16 +25,19 @@ struct Source {
     QByteArray bytes() const { return changed ? *changed : ArtworkTag::read(path); }
 };
 
+using Result = std::pair<SelectedArtwork::State, std::shared_ptr<ZEVImageDescription>>;
+
 /// The first difference settles it.
-std::pair<SelectedArtwork::State, QByteArray> common(const QList<Source> &sources,
-                                                     const std::atomic_bool &isStopped)
+Result common(const QList<Source> &sources, const std::atomic_bool &isStopped)
 {
     const QByteArray first = sources.first().bytes();
     for (qsizetype n = 1; n < sources.size() && !isStopped; ++n) {
         if (sources.at(n).bytes() != first)
-            return {SelectedArtwork::Mixed, {}};
+            return {SelectedArtwork::Mixed, nullptr};
     }
-    return {first.isEmpty() ? SelectedArtwork::None : SelectedArtwork::Same, first};
+    if (first.isEmpty() || isStopped)
+        return {SelectedArtwork::None, nullptr};
+    return {SelectedArtwork::Same, std::make_shared<ZEVImageDescription>(first)};
 }
 
 } // namespace
@@ -71,7 +76,7 @@ void SelectedArtwork::readLater()
 {
     stop();
     m_state = Reading;
-    m_bytes.clear();
+    m_artwork.reset();
     Q_EMIT changed();
     if (!std::exchange(m_isPending, true))
         QMetaObject::invokeMethod(this, &SelectedArtwork::read, Qt::QueuedConnection);
@@ -84,7 +89,7 @@ void SelectedArtwork::read()
     for (const Track &track : tracks())
         sources.append({track.path, m_model->changedArtwork(track.id)});
     if (sources.isEmpty())
-        return finish(NoTracks, {});
+        return finish(NoTracks, nullptr);
     const auto isStopped = m_isStopped = std::make_shared<std::atomic_bool>(false);
     QThreadPool::globalInstance()->start([sources, isStopped, reader = QPointer(this)] {
         const auto result = common(sources, *isStopped);
@@ -95,9 +100,9 @@ void SelectedArtwork::read()
     });
 }
 
-void SelectedArtwork::finish(State state, const QByteArray &bytes)
+void SelectedArtwork::finish(State state, const std::shared_ptr<ZEVImageDescription> &artwork)
 {
     m_state = state;
-    m_bytes = bytes;
+    m_artwork = artwork;
     Q_EMIT changed();
 }

@@ -12,8 +12,9 @@
 
 class QTableView;
 class TrackTableModel;
+class ZEVImageDescription;
 
-/// The artwork that the selected tracks have in common. It is read on another thread, anew whenever the
+/// The artwork that the selected tracks have in common. It is read and decoded on another thread, anew whenever the
 /// selection or the artwork of a track has changed.
 class SelectedArtwork : public QObject {
     Q_OBJECT
@@ -30,8 +31,8 @@ public:
         Mixed,
     };
     State state() const { return m_state; }
-    /// Empty unless the state is Same.
-    const QByteArray &bytes() const { return m_bytes; }
+    /// Null unless the state is Same.
+    const std::shared_ptr<ZEVImageDescription> &artwork() const { return m_artwork; }
 
     /// The readable ones among the selected, in the order of the rows.
     QList<Track> tracks() const;
@@ -42,13 +43,13 @@ Q_SIGNALS:
 private:
     void readLater();
     void read();
-    void finish(State state, const QByteArray &bytes);
+    void finish(State state, const std::shared_ptr<ZEVImageDescription> &artwork);
     void stop();
 
     TrackTableModel *m_model;
     QTableView *m_table;
     bool m_isPending = false;
     State m_state = NoTracks;
-    QByteArray m_bytes;
+    std::shared_ptr<ZEVImageDescription> m_artwork;
     std::shared_ptr<std::atomic_bool> m_isStopped;
 };

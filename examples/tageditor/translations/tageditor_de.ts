@@ -55,6 +55,10 @@
         <source>Limit new art&amp;work</source>
         <translation>&amp;Neue Cover begrenzen</translation>
     </message>
+    <message>
+        <source>Not taken: %1</source>
+        <translation>Nicht übernommen: %1</translation>
+    </message>
 </context>
 <context>
     <name>AutomatedRun</name>

@@ -55,6 +55,10 @@
         <source>Limit new art&amp;work</source>
         <translation>&amp;Limiter les nouvelles pochettes</translation>
     </message>
+    <message>
+        <source>Not taken: %1</source>
+        <translation>Refusé : %1</translation>
+    </message>
 </context>
 <context>
     <name>AutomatedRun</name>
