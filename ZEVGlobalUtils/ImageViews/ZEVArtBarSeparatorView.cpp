@@ -7,5 +7,7 @@
 
 void ZEVArtBarSeparatorView::paintEvent(QPaintEvent *)
 {
-    QPainter(this).fillRect(rect(), QColor::fromRgbF(0, 0, 0, 0.22F));
+    QRect line(QPoint(), width() > height() ? QSize(width(), 1) : QSize(1, height()));
+    line.moveCenter(rect().center());
+    QPainter(this).fillRect(line, QColor::fromRgbF(0, 0, 0, 0.22F));
 }

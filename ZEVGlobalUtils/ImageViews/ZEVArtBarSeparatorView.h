@@ -14,7 +14,7 @@ class ZEV_EXPORT ZEVArtBarSeparatorView : public QWidget {
 public:
     using QWidget::QWidget;
 
-    /// As wide or as high as the bar gives it room.
+    /// As long as the bar gives it room, and a point wide in the middle of what there is across.
     QSize sizeHint() const override { return {1, 1}; }
 
 protected:

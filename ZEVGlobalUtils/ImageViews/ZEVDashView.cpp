@@ -48,7 +48,7 @@ void ZEVDashView::setUpLabelField()
     m_labelField->setFont(font);
     m_labelField->setTextFormat(Qt::PlainText);
     m_labelField->setAlignment(Qt::AlignCenter);
-    m_labelField->setMinimumWidth(1); // cut off rather than a hindrance to small wells
+    m_labelField->setMinimumWidth(1); // elided rather than a hindrance to small wells
     QPalette colors = m_labelField->palette();
     colors.setColor(QPalette::WindowText, ZEVNamedColors::highlightWithLevel(m_dashView->dashColor(), 0.1F));
     m_labelField->setPalette(colors);
@@ -66,8 +66,25 @@ void ZEVDashView::setDrawDashes(bool draw)
     m_dashView->setVisible(draw);
 }
 
-QString ZEVDashView::label() const { return m_labelField->text(); }
-void ZEVDashView::setLabel(const QString &label) { m_labelField->setText(label); }
+void ZEVDashView::setLabel(const QString &label)
+{
+    m_label = label;
+    elideLabel();
+}
+
+/// A small view shows how the label begins, not its middle cut off on both sides.
+void ZEVDashView::elideLabel()
+{
+    const int room = std::max(1, width() - int(2 * LabelPadding));
+    m_labelField->setText(m_labelField->fontMetrics().elidedText(m_label, Qt::ElideRight, room));
+    m_labelField->setToolTip(m_labelField->text() == m_label ? QString() : m_label);
+}
+
+void ZEVDashView::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    elideLabel();
+}
 
 qreal ZEVDashView::alpha() const { return m_effect->alpha(); }
 void ZEVDashView::setAlpha(qreal alpha) { m_effect->setAlpha(alpha); }

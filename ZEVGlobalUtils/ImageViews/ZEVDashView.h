@@ -34,7 +34,7 @@ public:
     void setHighlighted(bool highlighted) { setHighlighted(highlighted, true); }
     void setHighlighted(bool highlighted, bool animated);
 
-    QString label() const;
+    const QString &label() const { return m_label; }
     void setLabel(const QString &label);
 
     /// The opacity of all of it, 0.5 at rest, 1 highlighted, and in between on the way.
@@ -49,14 +49,17 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void udpateShadow(); // kept: spelled so
     void setUpLabelField();
+    void elideLabel();
 
     bool m_drawLabel = true;
     bool m_drawDashes = false;
     bool m_highlighted = false;
+    QString m_label;
     ZEVDashDrawingView *m_dashView;
     QLabel *m_labelField;
     ZEVViewEffect *m_effect;

@@ -6,11 +6,13 @@
 #include "Motion.h"
 
 #include <ZEVGlobalUtils/Images/Artwork/ZEVPboardImageWriter.h>
+#include <ZEVGlobalUtils/ImageViews/ZEVArtBarSeparatorView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVArtFocusView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDashDrawingView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDashView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVExportImageView.h>
 
+#include <QLabel>
 #include <QPropertyAnimation>
 #include <QToolButton>
 
@@ -123,6 +125,25 @@ private Q_SLOTS:
         QCOMPARE(dark(4), 0);
         view->setDrawDashes(false);
         QCOMPARE(dark(3), 0);
+    }
+
+    void whatHasLittleRoomOrTooMuch()
+    {
+        ZEVDashView view;
+        view.setLabel(u"Drop Image Here"_s);
+        view.resize(400, 100);
+        view.grab(); // only then is it told of its size
+        QCOMPARE(view.labelField()->text(), u"Drop Image Here"_s);
+        view.resize(80, 80);
+        view.grab();
+        QVERIFY(view.labelField()->text().startsWith(u"D"));
+        QVERIFY(view.labelField()->text().endsWith(u'…'));
+        QCOMPARE(view.label(), u"Drop Image Here"_s);
+        ZEVArtBarSeparatorView separator;
+        separator.resize(9, 60);
+        const QImage picture = drawn(separator);
+        for (int x = 0; x < 9; ++x)
+            COMPARE_ROW(x, picture.pixelColor(x, 30).alpha() > 0, x == 4);
     }
 
     void theToolbarShowsWhileTheMouseIsInside()

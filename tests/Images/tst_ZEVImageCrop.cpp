@@ -89,6 +89,9 @@ private Q_SLOTS:
 
     void aScaledPictureIsLetterboxed()
     {
+        QImage line(1, 4000, QImage::Format_RGB32);
+        line.fill(Qt::red);
+        QVERIFY(imageScaledToFitSize(line, {100, 100}).pixelColor(50, 50).alpha() > 100); // not nothing
         const QImage fitted = imageScaledToFitSize(map({1000, 500}), {100, 100}, 2);
         const std::pair<int, int> rows[] = {{49, 0}, {50, 255}, {149, 255}, {150, 0}};
         for (const auto &[y, alpha] : rows)

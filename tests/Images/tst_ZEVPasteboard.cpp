@@ -106,6 +106,13 @@ private Q_SLOTS:
         const QImage pixels = EncodedImages::picture(5, 4);
         QCOMPARE(QImage::fromData(taken({}, pixels), "PNG").convertToFormat(pixels.format()), pixels);
         QCOMPARE(taken({{jpeg, "j"}}, pixels), "j"); // pixels are for want of bytes
+        QMimeData data;
+        data.setImageData(pixels);
+        const ZEVPasteboard dragged(&data);
+        QVERIFY(dragged.types().contains(u"public.png"_s));
+        QVERIFY(dragged.dataForType(u"public.tiff").isNull());
+        data.setData(jpeg, "j");
+        QVERIFY(!dragged.types().contains(u"public.png"_s));
     }
 
     void addressesAreHandedOver()

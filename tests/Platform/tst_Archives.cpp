@@ -106,6 +106,7 @@ private Q_SLOTS:
             {"case that is a number", archive(object(u"ZEVFindPanelQuery"_s, u"caseInsensitiveSearch"_s, 1))},
             {"damaged item in a query",
              archive(object(u"ZEVFindPanelQuery"_s, u"searchPattern"_s, QCborArray{damagedItem}))},
+            {"a key without a value", archive(QCborMap{{u"$map"_s, QCborArray{text}}})},
             {"half a code unit", archive(QCborMap{{u"$utf16be"_s, "abc"_ba}})},
             {"foreign tag", archive(QCborValue(QCborTag(9), text))},
             {"deep", archive(nested(500))},

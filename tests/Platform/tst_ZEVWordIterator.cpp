@@ -45,6 +45,7 @@ private Q_SLOTS:
             {u"ラジオ on 𐐨𐐩 _a"_s, u"ラジオ|on|𐐨𐐩|_a"_s},
             {{}, {}},
             {u"part:the"_s, u"part|the"_s},
+            {u"In 1999, 3.14 times"_s, u"In|1999|3.14|times"_s},
         };
         for (const auto &[text, expected] : rows)
             COMPARE_ROW(text, words(text), expected);

@@ -81,6 +81,15 @@ QRectF centredRect(const QRectF &rect, FloatSize fitted)
             double(fitted.height)};
 }
 
+/// A picture that is a line is seen as one, however thin it would be.
+QRectF visible(QRectF rect)
+{
+    const QPointF center = rect.center();
+    rect.setSize(rect.size().expandedTo({1, 1}));
+    rect.moveCenter(center);
+    return rect;
+}
+
 } // namespace
 
 void ZEVImageCrop::drawInRect(const QImage &image, QPainter &painter, const QRectF &rect,
@@ -90,7 +99,7 @@ void ZEVImageCrop::drawInRect(const QImage &image, QPainter &painter, const QRec
     if (picture.isEmpty() || outer.isEmpty())
         return;
     const bool fits = method == Fit;
-    const QRectF target = fits ? centredRect(rect, fittedSize(picture, outer, Fit)) : rect;
+    const QRectF target = fits ? visible(centredRect(rect, fittedSize(picture, outer, Fit))) : rect;
     const QRectF points =
         fits ? QRectF(QPointF(), image.deviceIndependentSize()) : visiblePart(picture, outer, method);
     const qreal ratio = image.devicePixelRatio();

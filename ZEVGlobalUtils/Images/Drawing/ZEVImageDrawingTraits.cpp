@@ -233,6 +233,8 @@ void ZEVImageDrawingTraits::drawInRect(const QImage &image, QPainter &painter, c
     painter.save();
     painter.setOpacity(1);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    if (painter.deviceTransform().type() > QTransform::TxScale)
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform); // turned: no steps
     if (!trait.dropShadowOffset.isNull() && !drawing.shadowRect().isEmpty())
         painter.drawImage(grid.points(drawing.shadowRect()), drawing.dropShadow(fraction));
     painter.drawImage(grid.points(pixels), drawing.shape(fraction));
