@@ -11,12 +11,14 @@
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVUniformType.h>
 #include <ZEVGlobalUtils/Platform/Questions/ZEVErrorPresentation.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVError.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVUserDefaults.h>
 
 #include <QColorSpace>
 #include <QImageReader>
 #include <QImageWriter>
 #include <QPainter>
 #include <QProcess>
+#include <QSettings>
 #include <QTemporaryDir>
 
 #include <sys/mount.h>
@@ -96,6 +98,8 @@ private:
 private Q_SLOTS:
     void initTestCase()
     {
+        ZEVUserDefaults::setStandardStore(
+            std::make_unique<QSettings>(m_runtime.filePath(u"defaults.ini"_s), QSettings::IniFormat));
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_runtime.path()));
         ZEVErrorPresentation::setPresenter([this](const ZEVError &error) { m_errors.append(error); });
     }
@@ -308,6 +312,31 @@ private Q_SLOTS:
         QVERIFY(!QFileInfo::exists(secret)); // nothing is written through a link
     }
 
+    /// An item that has only a file is decoded elsewhere, and never shown in the place of a later one.
+    void aFileIsShownWhenItHasBeenDecoded()
+    {
+        struct File : ZEVPreviewItem {
+            QString path;
+            QUrl previewItemURL() const override { return QUrl::fromLocalFile(path); }
+            std::optional<QString> previewItemTitle() const override { return u"a file"_s; }
+        };
+        QImage red(50, 50, QImage::Format_RGB32);
+        red.fill(Qt::red);
+        const auto item = std::make_shared<File>();
+        item->path = m_runtime.filePath(u"red.png"_s);
+        QVERIFY(red.save(item->path));
+        ZEVPreviewPanel *const panel = ZEVPreviewPanel::sharedPreviewPanel();
+        panel->resize(240, 240);
+        const auto middle = [&] { return panel->grab().toImage().pixelColor(120, 105); };
+        panel->setPreviewItems({item});
+        QTRY_COMPARE(middle(), QColor(Qt::red));
+        panel->setPreviewItems({item});
+        panel->setPreviewItems({});
+        QThreadPool::globalInstance()->waitForDone();
+        QCoreApplication::processEvents();
+        QVERIFY(middle() != QColor(Qt::red));
+    }
+
     void thePanelStepsByItsKeysAndShowsWhatThereIs()
     {
         ZEVPreviewPanel *const panel = ZEVPreviewPanel::sharedPreviewPanel();
@@ -335,7 +364,11 @@ private Q_SLOTS:
         }
         QVERIFY(panel->windowTitle().startsWith(u"400"_s));
         QTest::keyClick(panel, Qt::Key_Space);
-        QVERIFY(panel->isHidden() && !ZEVPreviewPanel::sharedPreviewPanelIsVisible());
+        QVERIFY(panel->isHidden());
+        QVERIFY(!ZEVPreviewPanel::sharedPreviewPanelIsVisible());
+        QVERIFY(!panel->testAttribute(Qt::WA_QuitOnClose));
+        QCOMPARE(ZEVUserDefaults::standardUserDefaults()->objectForKey(u"ZEVPreviewPanelSize"_s),
+                 QVariant(QVariantList{240, 240}));
     }
 };
 

@@ -51,6 +51,7 @@ public:
     /// overwrites it. Only while the shared preview panel is visible. A failure is presented to the user
     /// later, on the main thread. Any thread.
     QUrl previewItemURL() const override;
+    QImage previewItemImage() const override { return m_image; }
     /// The imageDescription(), only while the shared preview panel is visible.
     std::optional<QString> previewItemTitle() const override;
 

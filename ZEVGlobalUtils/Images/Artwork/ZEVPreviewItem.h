@@ -5,6 +5,7 @@
 
 #include <ZEVGlobalUtils/Export.h>
 
+#include <QImage>
 #include <QString>
 #include <QUrl>
 
@@ -17,6 +18,8 @@ public:
 
     /// The file with the picture; invalid for none.
     virtual QUrl previewItemURL() const = 0;
+    /// The picture, where it has been decoded already; null to have the file decoded.
+    virtual QImage previewItemImage() const { return {}; }
     /// One line about it; nil for none.
     virtual std::optional<QString> previewItemTitle() const = 0;
 };

@@ -8,18 +8,26 @@
 #include <ZEVGlobalUtils/Images/Artwork/ZEVPreviewPicture_p.h>
 #include <ZEVGlobalUtils/Images/Formats/ZEVImageDecoder_p.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVLocalFile_p.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVUserDefaults.h>
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPointer>
+#include <QScreen>
+#include <QThreadPool>
 #include <QVBoxLayout>
 
 #include <atomic>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 ZEVPreviewPanel *sharedPanel = nullptr;
 std::atomic_bool sharedPanelIsVisible = false;
+
+const QString SizeKey = u"ZEVPreviewPanelSize"_s;
 
 } // namespace
 
@@ -44,9 +52,15 @@ ZEVPreviewPanel::ZEVPreviewPanel()
     m_title->setTextFormat(Qt::PlainText);
     m_title->setAlignment(Qt::AlignCenter);
     setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_QuitOnClose, false);
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(m_picture, 1);
     layout->addWidget(m_title);
+    const QVariantList size = ZEVUserDefaults::standardUserDefaults()->objectForKey(SizeKey).toList();
+    if (size.size() == 2)
+        resize(QSize(size[0].toInt(), size[1].toInt())
+                   .boundedTo(screen()->availableSize())
+                   .expandedTo({160, 160}));
 }
 
 ZEVPreviewPanel::~ZEVPreviewPanel() { sharedPanelIsVisible = false; }
@@ -81,12 +95,29 @@ void ZEVPreviewPanel::toggle()
 void ZEVPreviewPanel::showCurrentItem()
 {
     const ZEVPreviewItem *const item = m_current < 0 ? nullptr : m_items.at(size_t(m_current)).get();
-    const auto path = item ? ZEVLocalFile::path(item->previewItemURL()) : std::nullopt;
+    const QImage image = item && isVisible() ? item->previewItemImage() : QImage();
+    const auto path =
+        item && image.isNull() ? ZEVLocalFile::path(item->previewItemURL()) : std::optional<QString>();
     const QString title = item ? item->previewItemTitle().value_or(QString()) : QString();
-    m_picture->setImage(path ? ZEVImageDecoder::pictureWithData(ZEVImageFile::read(*path)).image : QImage());
+    ++m_shown;
+    m_picture->setImage(image);
+    if (path)
+        showFile(*path);
     m_picture->setAccessibleName(title);
     m_title->setText(title);
     setWindowTitle(title);
+}
+
+/// Nobody knows how large the file is, and what it does to a decoder.
+void ZEVPreviewPanel::showFile(const QString &path)
+{
+    QThreadPool::globalInstance()->start([panel = QPointer(this), path, shown = m_shown] {
+        const QImage image = ZEVImageDecoder::pictureWithData(ZEVImageFile::read(path)).image;
+        QMetaObject::invokeMethod(qApp, [=] {
+            if (panel && panel->m_shown == shown)
+                panel->m_picture->setImage(image);
+        });
+    });
 }
 
 void ZEVPreviewPanel::keyPressEvent(QKeyEvent *event)
@@ -116,5 +147,7 @@ void ZEVPreviewPanel::showEvent(QShowEvent *event)
 void ZEVPreviewPanel::hideEvent(QHideEvent *event)
 {
     sharedPanelIsVisible = event->spontaneous(); // minimized, it is still open
+    if (!event->spontaneous())
+        ZEVUserDefaults::standardUserDefaults()->setObject(QVariantList{width(), height()}, SizeKey);
     QWidget::hideEvent(event);
 }

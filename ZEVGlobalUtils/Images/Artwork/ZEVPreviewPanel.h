@@ -38,7 +38,8 @@ public:
     qsizetype currentPreviewItemIndex() const { return m_current; }
     void setCurrentPreviewItemIndex(qsizetype index);
 
-    /// Opens the panel in front of all windows or closes it: what the space bar does in a view.
+    /// Opens the panel in front of all windows or closes it: what the space bar does in a view. It has the size that
+    /// the user gave it last, and keeps no application running.
     void toggle();
 
 Q_SIGNALS:
@@ -52,9 +53,11 @@ protected:
 private:
     ZEVPreviewPanel();
     void showCurrentItem();
+    void showFile(const QString &path);
 
     Items m_items;
     qsizetype m_current = -1;
+    quint64 m_shown = 0; ///< counts what was to be shown: what is decoded too late is not
     ZEVPreviewPicture *m_picture;
     QLabel *m_title;
 };
