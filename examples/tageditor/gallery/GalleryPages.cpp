@@ -10,6 +10,7 @@
 #include <tageditor/gallery/MenuItemsPage.h>
 #include <tageditor/gallery/TextTransformsPage.h>
 #include <tageditor/gallery/TokenFieldsPage.h>
+#include <tageditor/gallery/UprightPage.h>
 
 using namespace Qt::StringLiterals;
 
@@ -23,6 +24,7 @@ QList<GalleryPage> galleryPages()
         {u"Stencils"_s, &stencilsPage},
         {u"Picture fitting"_s, &pictureFittingPage},
         {u"Artwork well"_s, &artworkWellPage},
+        {u"Upright and in its colours"_s, &uprightPage},
         {u"Artwork views"_s, &artworkViewsPage},
         {u"Text transforms"_s, &textTransformsPage},
     };
