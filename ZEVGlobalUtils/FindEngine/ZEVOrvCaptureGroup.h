@@ -5,8 +5,8 @@
 
 #include <ZEVGlobalUtils/FindEngine/ZEVPatternItem.h>
 
-/// Binds a capture group of a search to the placeholder whose text it captures. The host makes and counts
-/// them: the e-mail and web-address items have groups inside, so it is not one group an item.
+/// Binds a capture group of a search to the item whose text it captures. ZEVFindPanelQuery::captureGroups()
+/// makes and counts them: the e-mail and web-address items have groups inside, so it is not one group an item.
 struct ZEVOrvCaptureGroup {
     ZEVPatternItem patternItem;
     qint64 index = 0; ///< number of the group in the expression

@@ -27,8 +27,7 @@ struct ZEVOrvCaptureMatch;
 /// - Any other item gives what was captured by its equals in the search pattern, the n-th one's text to the
 ///   n-th one here; further ones take that of the last.
 /// - A placeholder that the search pattern lacks gives the host's value, through the item's value
-/// transformer;
-///   a wildcard gives no text.
+///   transformer; a wildcard gives no text.
 class ZEV_EXPORT ZEVReplacementTemplate {
 public:
     /// The host's value for a placeholder at the match in question; nil gives no text. Its item names the

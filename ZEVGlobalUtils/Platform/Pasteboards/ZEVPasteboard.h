@@ -33,7 +33,7 @@ public:
 
     /// Null when there is none. A picture without encoded bytes, as Qt programs offer it, is found as a PNG.
     /// ZEVUniformType::Image finds what is offered under that very name and otherwise a picture of a type
-    /// that has no described one (WebP, AVIF), but only when it is all there is.
+    /// that ZEVUniformType has no identifier for (WebP, AVIF), but only when it is all there is.
     QByteArray dataForType(QStringView type) const;
 
     /// Local or remote, as they are offered; nothing is ever fetched.

@@ -35,8 +35,8 @@ public:
     static std::optional<ZEVRegularExpression> compile(const QString &pattern, Options options = NoOptions,
                                                        ZEVError *error = nullptr);
 
-    /// \a literal as an expression that matches just it: a backslash before each of \ * ? + [ ( ) { } ^ $ | .
-    /// /
+    /// \a literal as an expression that matches just it: a backslash before each of
+    /// \ * ? + [ ( ) { } ^ $ | . and /
     static QString escapedPatternForString(QStringView literal);
 
     const QString &pattern() const;

@@ -30,7 +30,8 @@ public:
     qint64 code() const { return m_code; }
     const QVariantMap &userInfo() const { return m_userInfo; }
 
-    /// What to tell the user: the described text or, where there is none, the domain and the code.
+    /// What to tell the user: the text under LocalizedDescriptionKey or, where there is none, the domain and
+    /// the code.
     QString localizedDescription() const;
     std::optional<ZEVError> underlyingError() const;
 

@@ -10,8 +10,8 @@
 void ZEVAppendOrvCapitalizedWord(ZEVCaseMapping::Buffer &result, QStringView word,
                                  const ZEVCaseRules::Compiled &rules);
 
-/// Brings one text into title case. What is built up is the described working copy as far as the rules read
-/// it: they look back at what has been replaced, and ahead only at what stands between two words.
+/// Brings one text into title case. The rules look back at words that have been replaced already, and ahead
+/// only at what stands between two words, so one pass that builds up the result is enough.
 class ZEVTitleCase {
 public:
     ZEVTitleCase(QStringView text, const ZEVCaseRules::Compiled &rules)
