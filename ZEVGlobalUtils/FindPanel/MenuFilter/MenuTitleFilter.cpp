@@ -4,7 +4,6 @@
 #include <ZEVGlobalUtils/FindPanel/MenuFilter/MenuTitleFilter_p.h>
 
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
-#include <ZEVGlobalUtils/Menus/Items/ZEVMenuTitles_p.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVCaseMapping_p.h>
 
 #include <QMenu>
@@ -93,9 +92,6 @@ QList<QAction *> MenuTitleFilter::itemsWithWords(const QList<QAction *> &items, 
     };
     if (words.isEmpty())
         return items;
-    if (m_version != ZEVMenuTitles::version())
-        m_titles.clear();
-    m_version = ZEVMenuTitles::version();
     m_titles.resize(std::size_t(items.size()));
     const auto passes = [&](const Title &title) {
         return title.isOneLine ? lineHasWords(title.folded, words) : hasWords(title.folded, words);
@@ -123,13 +119,11 @@ QList<QAction *> MenuTitleFilter::itemsPassing(const QList<QAction *> &items, co
     return passing.items;
 }
 
-/// A text that still lies in the same place is the same: the one that is kept here holds the place.
 const MenuTitleFilter::Title &MenuTitleFilter::folded(qsizetype index, const QAction *item)
 {
-    Title &title = m_titles[std::size_t(index)];
-    const QString text = item->text();
-    if (title.text.constData() != text.constData() || title.text.size() != text.size())
-        title = {text, ZEVCaseMapping::caseFolded(ZEVMenuItem::title(item)),
-                 isOneLine(ZEVMenuItem::title(item))};
-    return title;
+    Title &known = m_titles[std::size_t(index)];
+    const QString title = ZEVMenuItem::title(item);
+    if (known.title != title)
+        known = {title, ZEVCaseMapping::caseFolded(title), isOneLine(title)};
+    return known;
 }

@@ -11,8 +11,8 @@
 
 class QAction;
 
-/// Finds the items of a menu by their titles, over and over as the user types. Titles are read and folded
-/// once, and again only when they have changed.
+/// Finds the items of a menu by their titles, over and over as the user types. A title is folded once, and
+/// again when it is another one.
 class MenuTitleFilter {
 public:
     /// Whether the words of \a string lie in one line themselves.
@@ -27,12 +27,11 @@ public:
 
 private:
     struct Title {
-        QString text; ///< the item's, to see whether it has another one now
+        QString title;
         QString folded;
         bool isOneLine = true;
     };
     const Title &folded(qsizetype index, const QAction *item);
 
     std::vector<Title> m_titles; ///< by the place of the item in the list
-    quint64 m_version = 0;
 };

@@ -6,7 +6,6 @@
 #include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVMenuFilterViewController.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItemScroller.h>
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QWidgetAction>
@@ -17,9 +16,9 @@ namespace {
 void chooseByKey(QMenu *menu, QAction *item)
 {
     menu->setActiveAction(item);
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
     menu->setFocus(Qt::PopupFocusReason);
-    QApplication::sendEvent(menu, &press);
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    static_cast<QObject *>(menu)->event(&press);
 }
 
 } // namespace

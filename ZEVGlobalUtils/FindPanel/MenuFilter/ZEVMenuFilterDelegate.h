@@ -18,8 +18,8 @@ public:
     /// The more button was pressed. False, which means not implemented, lets the filter be cleared.
     virtual bool showMoreItems(ZEVMenuFilterViewController *) { return false; }
 
-    /// Whether Down in the search field has anything to move into. Nil, which means not implemented, leaves
-    /// that to the menu.
+    /// Whether Down in the search field has anything to move into. Nil, which means not implemented, lets the
+    /// key pass: it is the field's, and then the menu's.
     virtual std::optional<bool> hasFilteredItems(ZEVMenuFilterViewController *) { return std::nullopt; }
 
     /// Return in the search field; true when that was all there is to do.

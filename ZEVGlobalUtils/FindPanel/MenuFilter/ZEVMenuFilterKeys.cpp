@@ -4,8 +4,8 @@
 #include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVMenuFilterViewController.h>
 
 #include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVMenuFilterDelegate.h>
+#include <ZEVGlobalUtils/Menus/Items/MenuKeeper_p.h>
 
-#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
@@ -29,45 +29,53 @@ bool isTyping(const QKeyEvent &event)
 
 void ZEVMenuFilterViewController::viewDidShow()
 {
-    if (QMenu *holder = menu())
-        holder->installEventFilter(this);
+    watchKeysOfMenu();
     if (!m_autofocus)
         return;
     m_searchField->selectAll();
     m_searchField->setFocus(Qt::PopupFocusReason);
 }
 
+void ZEVMenuFilterViewController::watchKeysOfMenu()
+{
+    if (m_keptMenu == menu())
+        return;
+    if (m_keptMenu)
+        MenuKeeper::keeperOfMenu(m_keptMenu)->setKeyFilter({});
+    m_keptMenu = menu();
+    const QPointer guard(this);
+    if (m_keptMenu)
+        MenuKeeper::keeperOfMenu(m_keptMenu)->setKeyFilter([guard](QKeyEvent *event) {
+            return guard && guard->menu() == guard->m_keptMenu && guard->keyInMenu(event);
+        });
+}
+
 bool ZEVMenuFilterViewController::eventFilter(QObject *watched, QEvent *event)
 {
-    const bool isKey = event->type() == QEvent::KeyPress;
-    if (watched == m_searchField)
-        return isKey && keyInField(static_cast<QKeyEvent *>(event)->key());
-    if (watched != menu())
-        return false;
-    return isKey && keyInMenu(static_cast<QKeyEvent *>(event));
+    return watched == m_searchField && event->type() == QEvent::KeyPress
+        && keyInField(static_cast<QKeyEvent *>(event));
 }
 
-bool ZEVMenuFilterViewController::keyInField(int key)
+bool ZEVMenuFilterViewController::keyInField(QKeyEvent *event)
 {
-    if (isReturn(key))
+    if (isReturn(event->key()))
         return m_delegate && m_delegate->handleReturnKeyEvent(this);
-    if (key == Qt::Key_Down || key == Qt::Key_Tab)
-        return leaveField(Qt::Key_Down);
-    if (key == Qt::Key_Backtab)
-        return leaveField(Qt::Key_Up);
-    return key == Qt::Key_Escape && clearByKey();
+    if (event->key() == Qt::Key_Down)
+        return leaveField(event);
+    return event->key() == Qt::Key_Escape && clearByKey();
 }
 
-/// The menu moves on from the filter's item, with the same key.
-bool ZEVMenuFilterViewController::leaveField(int key)
+/// The menu moves on from the filter's item, with the same key. Where nobody knows of items, the key is none of
+/// the filter's.
+bool ZEVMenuFilterViewController::leaveField(QKeyEvent *event)
 {
+    const std::optional<bool> hasItems = m_delegate ? m_delegate->hasFilteredItems(this) : std::nullopt;
     QMenu *holder = menu();
-    if (!holder || (m_delegate && !m_delegate->hasFilteredItems(this).value_or(true)))
-        return true;
-    holder->setActiveAction(m_filterMenuItem);
-    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
-    QCoreApplication::sendEvent(holder, &press);
-    return true;
+    if (hasItems.value_or(false) && holder) {
+        holder->setActiveAction(m_filterMenuItem);
+        MenuKeeper::keeperOfMenu(holder)->passKeyOn(event);
+    }
+    return hasItems.has_value();
 }
 
 /// The field has seen the key first, when it has the focus.
@@ -81,7 +89,7 @@ bool ZEVMenuFilterViewController::keyInMenu(QKeyEvent *event)
         return false;
     m_searchField->setFocus(Qt::OtherFocusReason);
     m_searchField->deselect();
-    QCoreApplication::sendEvent(m_searchField, event);
+    static_cast<QObject *>(m_searchField)->event(event);
     return true;
 }
 

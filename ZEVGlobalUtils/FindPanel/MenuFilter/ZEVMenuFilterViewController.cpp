@@ -12,25 +12,45 @@
 #include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpressionMatcher.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 
-#include <QCoreApplication>
+#include <QFontDatabase>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QStyleOptionFrame>
 #include <QWidgetAction>
 
 #include <stdexcept>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int FieldHeight = 23;
+constexpr int SmallFontPixels = 11;
 constexpr int MoreViewHeight = 27;
 constexpr QSize SmallMoreButton(104, 25);
 constexpr QSize MoreButton(80, 27);
 constexpr int SmallMoreMargin = 8;
 constexpr int MoreMargin = 20;
+
+/// Of the small control size, and without a focus ring: it has the focus whenever its menu is open.
+class FilterField : public QLineEdit {
+public:
+    FilterField()
+    {
+        QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+        font.setPixelSize(SmallFontPixels);
+        setFont(font);
+    }
+
+protected:
+    void initStyleOption(QStyleOptionFrame *option) const override
+    {
+        QLineEdit::initStyleOption(option);
+        option->state.setFlag(QStyle::State_HasFocus, false);
+    }
+};
 
 /// Without the marks that a letter is decomposed into.
 QString withoutDiacritics(const QString &text)
@@ -51,7 +71,7 @@ bool beginsWithString(const QString &title, const QString &string)
 
 ZEVMenuFilterViewController::ZEVMenuFilterViewController(ZEVControlSize controlSize, QObject *parent)
     : QObject(parent)
-    , m_searchField(new QLineEdit)
+    , m_searchField(new FilterField)
     , m_filterMenuItem(new QWidgetAction(this))
     , m_moreMenuItem(new QWidgetAction(this))
     , m_titles(std::make_unique<MenuTitleFilter>())
@@ -68,7 +88,6 @@ void ZEVMenuFilterViewController::makeFilterItem()
     m_searchField->setPlaceholderText(name);
     m_searchField->setAccessibleName(name);
     m_searchField->setClearButtonEnabled(true);
-    m_searchField->setAttribute(Qt::WA_MacSmallSize);
     m_searchField->setMinimumHeight(FieldHeight);
     m_searchField->installEventFilter(this);
     connect(m_searchField, &QLineEdit::textEdited, this, &ZEVMenuFilterViewController::controlTextDidChange);
@@ -94,7 +113,10 @@ void ZEVMenuFilterViewController::makeMoreItem(ZEVControlSize controlSize)
     layout->addWidget(button);
     m_moreMenuItem->setDefaultWidget(container);
     m_moreMenuItem->setEnabled(false);
-    container->setEnabled(true); // an item that cannot be chosen, with a button that can
+    // An item that cannot be chosen, with a button that can: whatever changes of the item disables both.
+    const auto enable = [container] { container->setEnabled(true); };
+    connect(m_moreMenuItem, &QAction::changed, container, enable);
+    enable();
 }
 
 QString ZEVMenuFilterViewController::needle() const { return m_searchField->text(); }
@@ -111,10 +133,17 @@ QMenu *ZEVMenuFilterViewController::menu() const
 void ZEVMenuFilterViewController::updateRegexAndNotifyDelegate()
 {
     m_hasNeedle = !needle().isEmpty();
-    if (m_hasNeedle)
-        m_regex = ZEVStringFilterRegexValue::filterRegexValue(needle());
+    if (m_hasNeedle && std::exchange(m_regexNeedle, needle()) != needle())
+        m_regex.reset();
     if (m_delegate)
         m_delegate->filterDidChange(this);
+}
+
+const std::optional<ZEVRegularExpression> &ZEVMenuFilterViewController::regex() const
+{
+    if (!m_regex && !m_regexNeedle.isEmpty())
+        m_regex = ZEVStringFilterRegexValue::filterRegexValue(m_regexNeedle);
+    return m_regex;
 }
 
 void ZEVMenuFilterViewController::clearFilter() { m_searchField->clear(); }
@@ -135,12 +164,14 @@ void ZEVMenuFilterViewController::showMoreAction()
 
 QList<QAction *> ZEVMenuFilterViewController::filteredItems(const QList<QAction *> &items) const
 {
-    return m_hasNeedle ? filteredItems(items, needle(), m_regex) : items;
+    return m_hasNeedle ? filteredItems(items, needle()) : items;
 }
 
 QList<QAction *> ZEVMenuFilterViewController::filteredItems(const QList<QAction *> &items,
                                                             const QString &forSearchString) const
 {
+    if (MenuTitleFilter::isOneLine(forSearchString))
+        return m_titles->itemsWithWords(items, forSearchString);
     return filteredItems(items, forSearchString,
                          ZEVStringFilterRegexValue::filterRegexValue(forSearchString));
 }
@@ -154,9 +185,6 @@ ZEVMenuFilterViewController::filteredItems(const QList<QAction *> &items, const 
     if (!regex)
         return MenuTitleFilter::itemsPassing(
             items, [&](const QString &title) { return beginsWithString(title, forSearchString); });
-    if (MenuTitleFilter::isOneLine(forSearchString)
-        && regex == ZEVStringFilterRegexValue::filterRegexValue(forSearchString))
-        return m_titles->itemsWithWords(items, forSearchString);
     ZEVRegularExpressionMatcher matcher(*regex);
     return MenuTitleFilter::itemsPassing(items, [&](const QString &title) {
         matcher.setText(title);

@@ -8,6 +8,7 @@
 #include <ZEVGlobalUtils/Platform/Values/ZEVControlSize.h>
 
 #include <QObject>
+#include <QPointer>
 
 #include <memory>
 
@@ -22,8 +23,9 @@ class ZEVMenuFilterDelegate;
 class ZEVMenuFilterView;
 
 /// A search field as an item of a menu, so that typing narrows the items below it. Down goes from the field
-/// into the items and Up back from the first one, Return chooses the only one, Escape clears what is typed
-/// and closes the menu when there is nothing; what is typed while an item is reached goes to the field.
+/// into the items when the delegate says that there are any, and Up back from the first one, Return chooses
+/// the only one, Escape clears what is typed and closes the menu when there is nothing; what is typed while an
+/// item is reached goes to the field. All other keys are the menu's.
 class ZEV_EXPORT ZEVMenuFilterViewController : public QObject {
     Q_OBJECT
 
@@ -36,8 +38,8 @@ public:
     bool filterCleared() const { return !m_hasNeedle; }
     QString needle() const;
 
-    /// Of the last needle that was not empty; nil before there was one.
-    const std::optional<ZEVRegularExpression> &regex() const { return m_regex; }
+    /// Of the last needle that was not empty; nil before there was one. Made when it is asked for.
+    const std::optional<ZEVRegularExpression> &regex() const;
 
     /// The search field has the focus when the menu opens, and after the more action.
     bool autofocus() const { return m_autofocus; }
@@ -62,14 +64,16 @@ public:
     void clearFilterAndNotifyDelegate();
     void showMoreAction();
 
-    /// Those that pass what is typed, in their order; all of them when nothing is.
+    /// Those that pass what is typed, in their order; all of them when nothing is. A title passes that has the
+    /// words of the string in their order and in one line, both case-folded in full (Unicode, 3.13): in linear
+    /// time, and for "i" also "ﬁsh" and "İstanbul", which the string's expression would not match. A submenu
+    /// passes also for the sake of what is in it, a separator between two items that pass.
     QList<QAction *> filteredItems(const QList<QAction *> &items) const;
     QList<QAction *> filteredItems(const QList<QAction *> &items, const QString &forSearchString) const;
 
-    /// Titles pass that \a regex matches; a submenu also for the sake of what is in it, a separator between
-    /// two items that pass. The string's own expression takes linear time. Kept: without an expression the
-    /// string is looked for, whatever the case and the diacritics, within as many UTF-16 units of a title as
-    /// it has itself; std::out_of_range for a shorter title.
+    /// The same with an expression of one's own, which is run: titles pass that it matches. Kept: without one
+    /// the string is looked for, whatever the case and the diacritics, within as many UTF-16 units of a title
+    /// as it has itself; std::out_of_range for a shorter title.
     QList<QAction *> filteredItems(const QList<QAction *> &items, const QString &forSearchString,
                                    const std::optional<ZEVRegularExpression> &regex) const;
 
@@ -85,17 +89,20 @@ private:
     void makeFilterItem();
     void makeMoreItem(ZEVControlSize controlSize);
     void viewDidShow();
+    void watchKeysOfMenu();
 
-    bool keyInField(int key);
+    bool keyInField(QKeyEvent *event);
     bool keyInMenu(QKeyEvent *event);
-    bool leaveField(int key);
+    bool leaveField(QKeyEvent *event);
     bool clearByKey();
 
     QLineEdit *m_searchField;
+    QPointer<QMenu> m_keptMenu; ///< whose keys come here
     QWidgetAction *m_filterMenuItem;
     QWidgetAction *m_moreMenuItem;
     ZEVMenuFilterDelegate *m_delegate = nullptr;
-    std::optional<ZEVRegularExpression> m_regex;
+    QString m_regexNeedle; ///< the last one that was not empty
+    mutable std::optional<ZEVRegularExpression> m_regex;
     std::unique_ptr<MenuTitleFilter> m_titles;
     bool m_hasNeedle = false;
     bool m_autofocus = false;

@@ -32,7 +32,10 @@ void ZEVMoreButtonCell::drawWithFrame(QPainter *painter, const QRectF &frame, bo
     painter->setRenderHint(QPainter::Antialiasing);
     painter->fillPath(ground, color);
     painter->setClipPath(ground);
-    icon().paint(painter, frame.toRect());
+    // As large as the frame lets it be in its own shape.
+    QRectF image(0, 0, qMin(frame.width(), frame.height()), qMin(frame.width(), frame.height()));
+    image.moveCenter(frame.center());
+    icon().paint(painter, image.toRect());
 }
 
 void ZEVMoreButtonCell::paintEvent(QPaintEvent *)

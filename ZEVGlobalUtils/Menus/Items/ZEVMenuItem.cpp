@@ -3,11 +3,11 @@
 
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
 
+#include <ZEVGlobalUtils/Menus/Items/MenuKeeper_p.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuTitleDrawing_p.h>
-#include <ZEVGlobalUtils/Menus/Items/ZEVMenuTitles_p.h>
 
 #include <QAction>
-#include <QWidget>
+#include <QMenu>
 
 using namespace Qt::StringLiterals;
 
@@ -16,8 +16,6 @@ namespace {
 constexpr char TitlesKey[] = "zevTitles";
 constexpr char TagKey[] = "tag"; // as interface files call it
 constexpr int LastIndentationLevel = 15;
-
-quint64 titlesVersion = 0;
 
 struct Titles {
     QString title;
@@ -62,10 +60,12 @@ void setTitles(QAction *item, Titles titles)
 {
     const QString shown = titles.attributedTitle ? titles.attributedTitle->string() : titles.title;
     titles.text = indentation(titles) + onOneLine(shown).replace(u'&', u"&&"_s);
-    ++titlesVersion;
     item->setProperty(TitlesKey, QVariant::fromValue(titles));
     item->setText(titles.text);
     for (QObject *object : item->associatedObjects()) {
+        auto *menu = qobject_cast<QMenu *>(object);
+        if (menu && titles.attributedTitle)
+            MenuKeeper::keeperOfMenu(menu);
         if (auto *widget = qobject_cast<QWidget *>(object))
             widget->update(); // the same text may have other colours
     }
@@ -74,8 +74,6 @@ void setTitles(QAction *item, Titles titles)
 } // namespace
 
 Q_DECLARE_METATYPE(Titles)
-
-quint64 ZEVMenuTitles::version() { return titlesVersion; }
 
 std::optional<ZEVMenuTitleDrawing::ShownTitle> ZEVMenuTitleDrawing::shownTitle(const QAction *item)
 {

@@ -3,12 +3,12 @@
 
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItemScroller.h>
 
+#include <ZEVGlobalUtils/Menus/Items/MenuKeeper_p.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuTitleDrawing_p.h>
 
+#include <QAction>
 #include <QApplication>
-#include <QKeyEvent>
 #include <QMenu>
-#include <QMouseEvent>
 #include <QScreen>
 #include <QScrollBar>
 #include <QStyle>
@@ -81,8 +81,7 @@ private:
 
 ZEVMenuItemScroller *ZEVMenuItemScroller::scrollerOfMenu(QMenu *menu)
 {
-    auto *scroller = menu->findChild<ZEVMenuItemScroller *>({}, Qt::FindDirectChildrenOnly);
-    return scroller ? scroller : new ZEVMenuItemScroller(menu);
+    return MenuKeeper::keeperOfMenu(menu)->scroller();
 }
 
 ZEVMenuItemScroller::ZEVMenuItemScroller(QMenu *menu)
@@ -94,7 +93,6 @@ ZEVMenuItemScroller::ZEVMenuItemScroller(QMenu *menu)
     m_scrollBar->setFocusPolicy(Qt::NoFocus);
     m_scrollBar->setCursor(Qt::ArrowCursor);
     connect(m_scrollBar, &QScrollBar::valueChanged, this, &ZEVMenuItemScroller::showFrom);
-    menu->installEventFilter(this);
 }
 
 void ZEVMenuItemScroller::setItemsAfter(QAction *item, const QList<QAction *> &items)
@@ -145,6 +143,8 @@ qsizetype ZEVMenuItemScroller::lastFirst() const
 
 void ZEVMenuItemScroller::showFrom(qsizetype first)
 {
+    if (!isInStep())
+        return;
     const qsizetype step = first - m_first;
     m_first = first;
     {
@@ -155,7 +155,7 @@ void ZEVMenuItemScroller::showFrom(qsizetype first)
             fill();
     }
     fitMenu();
-    followPointer();
+    reachItemUnderPointer();
 }
 
 /// Leaves what stays in view as it is: the item that the user has reached, above all.
@@ -209,37 +209,41 @@ void ZEVMenuItemScroller::placeScrollBar()
     m_scrollBar->raise();
 }
 
-/// The pointer stands still, and yet another item is under it.
-void ZEVMenuItemScroller::followPointer()
+/// The pointer stands still, and yet another item is under it. Reaching a submenu would open it, though.
+void ZEVMenuItemScroller::reachItemUnderPointer()
 {
-    const QPoint global = QCursor::pos();
-    const QPoint local = m_menu->mapFromGlobal(global);
+    const QPoint local = m_menu->mapFromGlobal(QCursor::pos());
     if (!m_menu->isVisible() || !m_menu->underMouse() || m_menu->childAt(local))
         return;
-    QMouseEvent move(QEvent::MouseMove, local, global, Qt::NoButton, QApplication::mouseButtons(),
-                     QApplication::keyboardModifiers());
-    QApplication::sendEvent(m_menu, &move);
+    QAction *item = m_menu->actionAt(local);
+    if (item && item->isEnabled() && !item->menu<QMenu *>())
+        m_menu->setActiveAction(item);
 }
 
-bool ZEVMenuItemScroller::eventFilter(QObject *watched, QEvent *event)
+bool ZEVMenuItemScroller::turnWheel(QEvent *event)
 {
-    if (watched != m_menu || !m_anchor)
-        return false;
-    switch (event->type()) {
-    case QEvent::KeyPress:
-        return moveByKey(static_cast<QKeyEvent *>(event)->key());
-    case QEvent::Wheel:
-        return lastFirst() > 0 && QApplication::sendEvent(m_scrollBar, event);
-    case QEvent::Show:
-    case QEvent::Resize:
-        placeScrollBar();
-        break;
-    case QEvent::Hide:
+    return isInStep() && lastFirst() > 0 && QApplication::sendEvent(m_scrollBar, event);
+}
+
+void ZEVMenuItemScroller::menuChanged(QEvent::Type type)
+{
+    if (type == QEvent::Hide)
         m_menu->setMinimumWidth(0);
-        break;
-    default:
-        break;
-    }
+    else if (type == QEvent::Resize || isInStep()) // while its items change the menu has other sizes
+        placeScrollBar();
+}
+
+/// Whoever has put other items into the menu meanwhile means them, and ours may be gone: they are forgotten.
+bool ZEVMenuItemScroller::isInStep()
+{
+    const QList<QAction *> shown = m_menu->actions();
+    const qsizetype before = m_anchor ? shown.indexOf(m_anchor) : -1;
+    if (before >= 0 && shown.sliced(before + 1) == m_items.mid(m_first, m_capacity))
+        return true;
+    m_anchor = nullptr;
+    m_items.clear();
+    m_first = 0;
+    resetScrollBar();
     return false;
 }
 
@@ -247,6 +251,8 @@ bool ZEVMenuItemScroller::eventFilter(QObject *watched, QEvent *event)
 /// ours.
 bool ZEVMenuItemScroller::moveByKey(int key)
 {
+    if (!isInStep())
+        return false;
     const qsizetype active = m_items.indexOf(m_menu->activeAction());
     const qsizetype last = m_items.size() - 1;
     switch (key) {

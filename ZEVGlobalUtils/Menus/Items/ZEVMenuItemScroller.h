@@ -5,6 +5,7 @@
 
 #include <ZEVGlobalUtils/Export.h>
 
+#include <QEvent>
 #include <QList>
 #include <QObject>
 
@@ -23,8 +24,9 @@ public:
     static ZEVMenuItemScroller *scrollerOfMenu(QMenu *menu);
 
     /// Takes all that follows \a item out of the menu, deleting nothing, and shows \a items, from the first
-    /// one, in its place. They must live as long as they are here. An open menu changes at once and without
-    /// steps that could be seen; it never becomes narrower than it was.
+    /// one, in its place. They must live as long as they are here; who clears or refills the menu itself takes
+    /// it back. An open menu changes at once and without steps that could be seen; it never becomes narrower
+    /// than it was.
     void setItemsAfter(QAction *item, const QList<QAction *> &items);
 
     const QList<QAction *> &items() const { return m_items; }
@@ -33,13 +35,14 @@ public:
     void scrollTo(qsizetype index);
     qsizetype firstInView() const { return m_first; }
 
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
 private:
+    friend class MenuKeeper;
     explicit ZEVMenuItemScroller(QMenu *menu);
 
     bool moveByKey(int key);
+    bool turnWheel(QEvent *event);
+    void menuChanged(QEvent::Type type);
+    bool isInStep();
     void scrollOnto(qsizetype index);
     bool activate(qsizetype index);
     qsizetype selectableFrom(qsizetype index, int direction) const;
@@ -52,7 +55,7 @@ private:
     void fill();
     void fitMenu();
     void placeScrollBar();
-    void followPointer();
+    void reachItemUnderPointer();
 
     QMenu *m_menu;
     QScrollBar *m_scrollBar;

@@ -3,6 +3,9 @@
 
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuTitleDrawing_p.h>
 
+#include <ZEVGlobalUtils/Menus/Items/MenuKeeper_p.h>
+
+#include <QActionEvent>
 #include <QApplication>
 #include <QMenu>
 #include <QPainter>
@@ -12,7 +15,6 @@
 #include <QWidgetAction>
 
 #include <algorithm>
-#include <utility>
 
 using namespace ZEVMenuTitleDrawing;
 
@@ -85,50 +87,48 @@ void drawItem(QPainter &painter, const QMenu &menu, const QAction *item, const S
     drawTitle(painter, title, *place, option.direction);
 }
 
-/// Lets a menu paint itself, and paints the attributed titles after it.
-class Drawer : public QObject {
+void drawTitles(QMenu &menu, const QRect &dirty)
+{
+    QPainter painter(&menu);
+    for (QAction *item : menu.actions()) {
+        const auto title = overdrawnTitle(item);
+        if (title && item->isVisible() && dirty.intersects(menu.actionGeometry(item)))
+            drawItem(painter, menu, item, *title);
+    }
+}
+
+/// An action is not told which menus it comes into; they are.
+class KeeperMaker : public QObject {
 public:
     using QObject::QObject;
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        if (event->type() != QEvent::Paint || m_isPainting)
-            return false;
-        auto *menu = qobject_cast<QMenu *>(watched);
-        if (!menu || !hasOverdrawnTitle(*menu))
-            return false;
-        m_isPainting = true;
-        const QPointer guard(menu);
-        QCoreApplication::sendEvent(menu, event); // past the menu's other filters, too
-        m_isPainting = false;
-        if (guard)
-            drawTitles(*menu, static_cast<QPaintEvent *>(event)->rect());
-        return true;
+        auto *menu = event->type() == QEvent::ActionAdded ? qobject_cast<QMenu *>(watched) : nullptr;
+        if (menu && shownTitle(static_cast<QActionEvent *>(event)->action()))
+            MenuKeeper::keeperOfMenu(menu);
+        return false;
     }
-
-private:
-    static void drawTitles(QMenu &menu, const QRect &dirty)
-    {
-        QPainter painter(&menu);
-        for (QAction *item : menu.actions()) {
-            const auto title = overdrawnTitle(item);
-            if (title && item->isVisible() && dirty.intersects(menu.actionGeometry(item)))
-                drawItem(painter, menu, item, *title);
-        }
-    }
-
-    bool m_isPainting = false;
 };
 
 } // namespace
 
 void ZEVMenuTitleDrawing::begin()
 {
-    static QPointer<Drawer> drawer; // goes with the application, of which a test may make several
-    if (drawer || !qApp)
+    static QPointer<KeeperMaker> maker; // goes with the application, of which a test may make several
+    if (maker || !qApp)
         return;
-    drawer = new Drawer(qApp);
-    qApp->installEventFilter(drawer);
+    maker = new KeeperMaker(qApp);
+    qApp->installEventFilter(maker);
+}
+
+bool ZEVMenuTitleDrawing::paint(QMenu *menu, QPaintEvent *event)
+{
+    if (!hasOverdrawnTitle(*menu))
+        return false;
+    static_cast<QObject *>(menu)->event(event); // past the menu's filters
+    drawTitles(*menu, event->rect());
+    return true;
 }
 
 QStyleOptionMenuItem ZEVMenuTitleDrawing::styleOption(const QMenu &menu, const QAction *item)

@@ -12,13 +12,17 @@
 class QAction;
 class QMenu;
 class QPainter;
+class QPaintEvent;
 
 /// Draws attributed titles over what a menu's style has drawn, so that every style keeps its own look of
 /// items, check marks, shortcuts and the item under the pointer.
 namespace ZEVMenuTitleDrawing {
 
-/// From now on all menus of the application show attributed titles.
+/// From now on every menu that is given an item with an attributed title has a keeper, which draws it.
 void begin();
+
+/// Lets \a menu paint itself, and paints the attributed titles after it; false where it has none.
+bool paint(QMenu *menu, QPaintEvent *event);
 
 /// What stands in place of the action's text; nil where the style's own drawing is right.
 struct ShownTitle {
