@@ -88,13 +88,23 @@ private Q_SLOTS:
     void staysOneLine()
     {
         OEXTokenTextStorage storage;
-        storage.replaceCharactersInRange({}, u"a\nb\r\nc"_s);
-        QCOMPARE(storage.string(), u"a b c"_s);
+        const QString lines = u"a\nb\r\nc\u2028"_s;
+        storage.replaceCharactersInRange({}, lines);
+        QCOMPARE(storage.string(), lines);
+        QCOMPARE(storage.toPlainText(), u"a↵b↵↵c↵"_s);
         QTextCursor cursor(&storage);
-        cursor.insertText(u"x\ny\n"_s); // as an input method commits it
-        QCOMPARE(storage.string(), u"x y a b c"_s);
+        cursor.setPosition(2);
+        cursor.insertText(u"↵"_s); // that somebody types behind one
+        QCOMPARE(storage.string(), u"a\n↵b\r\nc\u2028"_s);
         storage.undo();
-        QCOMPARE(storage.string(), u"a b c"_s);
+        QStringList reported;
+        connect(&storage, &QTextDocument::contentsChanged, this, [&] { reported << storage.string(); });
+        cursor.setPosition(0);
+        cursor.insertText(u"x\ny\n"_s); // as an input method commits it
+        reported.removeDuplicates();
+        QCOMPARE(reported, QStringList(u"x y "_s + lines));
+        storage.undo();
+        QCOMPARE(storage.string(), lines);
     }
 
     void convertsValues()
@@ -102,16 +112,19 @@ private Q_SLOTS:
         CellDelegate delegate;
         OEXTokenFieldCell cell;
         cell.setDelegate(&delegate);
+        cell.setObjectValue({1}); // which has no place yet
+        QTextEdit editor;
+        cell.setUpFieldEditorAttributes(&editor);
         cell.setAttributedStringValue({});
         QCOMPARE(cell.objectValue(), QVariantList());
         cell.setAttributedStringValue(text(u"one, two"_s));
         QCOMPARE(cell.objectValue(), QVariantList{u"one, two"_s});
         // What calls itself text is none of the tokens that come from elsewhere.
-        cell.setAttributedStringValue(text(u"a"_s) + attachmentText(7) + attachmentText(u"text"_s)
-                                      + text(u"b"_s));
-        QCOMPARE(cell.objectValue(),
+        QCOMPARE(OEXTokenFieldCell::objectsForAttributedString(text(u"a"_s) + attachmentText(7)
+                                                               + attachmentText(u"text"_s) + text(u"b"_s)),
                  QVariantList({u"a"_s, 7, QString(QChar::ObjectReplacementCharacter), u"b"_s}));
-        cell.setObjectValue({u"a"_s, 8});
+        cell.setObjectValue({u"a"_s, u"b"_s, QVariant(), 8});
+        QCOMPARE(cell.objectValue(), QVariantList({u"ab"_s, 8}));
         const auto run = ZEVTextAttachments::runs(cell.attributedStringValue()).at(1);
         QCOMPARE(run.attachment->representedObject(), QVariant(8));
         QCOMPARE(run.attachment->attachmentCell()->title(), u"shown 8"_s);

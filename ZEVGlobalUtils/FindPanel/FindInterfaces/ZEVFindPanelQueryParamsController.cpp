@@ -6,6 +6,7 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVFindPanelScope.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderAction.h>
 #include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenField.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuBuilder.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItemHeadings.h>
 #include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedImages_p.h>
@@ -96,8 +97,10 @@ void ZEVFindPanelQueryParamsController::setUpMenus()
     if (!findTokenField())
         return;
     m_recentsMenu = findTokenField()->patternsMenu();
-    m_recentsMenu->disconnect(SIGNAL(aboutToShow()));
-    connect(m_recentsMenu, &QMenu::aboutToShow, this, &ZEVFindPanelQueryParamsController::updateRecentsMenu);
+    ZEVMenuBuilder::setMenuBuilder(m_recentsMenu, [guard = QPointer(this)](QMenu *) {
+        if (guard)
+            guard->updateRecentsMenu();
+    });
 }
 
 void ZEVFindPanelQueryParamsController::setUpButtons()

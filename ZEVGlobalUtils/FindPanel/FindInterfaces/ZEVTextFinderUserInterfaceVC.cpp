@@ -7,6 +7,7 @@
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/InterfaceLoader_p.h>
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFocusTokenFieldCell.h>
 #include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenField.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuBuilder.h>
 #include <ZEVGlobalUtils/Platform/Desktop/ZEVApplicationActivity_p.h>
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFindPasteboard_p.h>
 #include <ZEVGlobalUtils/Platform/Questions/ZEVErrorCatcher.h>
@@ -368,5 +369,5 @@ void ZEVTextFinderUserInterfaceVC::popUpMenuOfField(QMenu *menu, ZEVTokenField *
 {
     menu->setFont(QFontDatabase::systemFont(QFontDatabase::SmallestReadableFont));
     const QWidget *superview = field->parentWidget() ? field->parentWidget() : field;
-    menu->popup(superview->mapToGlobal(QPoint(0, superview->height() - MenuDistance)));
+    ZEVMenuBuilder::popUpMenu(menu, superview, {0, superview->height() - MenuDistance});
 }

@@ -6,6 +6,7 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderAction.h>
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderBorderlessPopUpButton.h>
 #include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenField.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuBuilder.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
 #include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedImages_p.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
@@ -205,8 +206,10 @@ void ZEVTextFinderViewController::popupFindMenu()
 {
     QMenu *menu = findTokenField()->dropDownMenu();
     // From now on the controller is the one that builds it.
-    menu->disconnect(SIGNAL(aboutToShow()));
-    connect(menu, &QMenu::aboutToShow, this, &ZEVTextFinderViewController::updateFindMenu);
+    ZEVMenuBuilder::setMenuBuilder(menu, [guard = QPointer(this)](QMenu *) {
+        if (guard)
+            guard->updateFindMenu();
+    });
     m_findMenuButton->setDown(false);
     popUpMenuOfField(menu, findTokenField());
 }

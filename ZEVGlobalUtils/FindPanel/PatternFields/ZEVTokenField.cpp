@@ -3,6 +3,7 @@
 
 #include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenField.h>
 
+#include <ZEVGlobalUtils/FindEngine/ZEVPattern_p.h>
 #include <ZEVGlobalUtils/FindPanel/PatternFields/PatternConversion_p.h>
 #include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenFieldCell.h>
 #include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenTextStorage.h>
@@ -10,6 +11,10 @@
 
 #include <QKeyEvent>
 #include <QMenu>
+
+#include <algorithm>
+#include <tuple>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -20,14 +25,34 @@ PatternConversion::Fidelity fidelity(bool lossless)
     return lossless ? PatternConversion::Fidelity::Lossless : PatternConversion::Fidelity::AsDescribed;
 }
 
-/// The key for inserting a token: Ctrl with plus, or with the key that has the plus on its shift level.
+/// The key for inserting a token: Ctrl with whatever key types a plus, on its shift level too, or with the key
+/// of an equals sign, which on many keyboards is the same.
 bool asksForMenu(const QKeyEvent &event)
 {
     const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    if (event.key() == Qt::Key_Plus)
+        return (modifiers & ~(Qt::ShiftModifier | Qt::GroupSwitchModifier)) == Qt::ControlModifier;
     if (modifiers == Qt::ControlModifier)
-        return event.key() == Qt::Key_Plus || event.key() == Qt::Key_Equal;
+        return event.key() == Qt::Key_Equal;
     return modifiers == (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)
         && event.key() == Qt::Key_P;
+}
+
+/// In every part, while items are equal that would be searched for alike.
+bool isSameItem(const ZEVPatternItem &one, const ZEVPatternItem &other)
+{
+    const auto parts = [](const ZEVPatternItem &item) {
+        return std::tuple(item.title(), item.tokenTitle(), item.editingString(), item.regexString(),
+                          item.regexTemplateString(), item.valueTransformerName(), item.metadataKeyPath(),
+                          item.representsNumericValue(), item.representsDate());
+    };
+    return parts(one) == parts(other);
+}
+
+bool hasToken(const QVariantList &pattern)
+{
+    return std::ranges::any_of(pattern,
+                               [](const QVariant &object) { return !ZEVPattern::literalText(object); });
 }
 
 /// Nothing for a value of another type, whoever stored it.
@@ -109,13 +134,22 @@ QVariant ZEVTokenField::objectForEditingString(const QString &editingString) con
     return delegate() ? delegate()->representedObjectForEditingString(this, editingString) : QVariant();
 }
 
-/// Tokens that have become text elsewhere are tokens again here; nothing else of the text changes.
+bool ZEVTokenField::isSameObject(const QVariant &one, const QVariant &other) const
+{
+    const ZEVPatternItem *item = ZEVPattern::item(one);
+    const ZEVPatternItem *otherItem = ZEVPattern::item(other);
+    return item && otherItem ? isSameItem(*item, *otherItem) : OEXTokenField::isSameObject(one, other);
+}
+
+/// Tokens that have become text elsewhere are tokens again here. Where there is none, the text is no pattern,
+/// and its percent signs are its own.
 QVariantList ZEVTokenField::objectsForPastedText(const QString &text) const
 {
-    return PatternConversion::pattern(
-        OEXTokenTextStorage::singleLine(text),
-        [this](const QString &editingString) { return objectForEditingString(editingString); },
+    const QString line = OEXTokenTextStorage::singleLine(text);
+    const QVariantList pattern = PatternConversion::pattern(
+        line, [this](const QString &editingString) { return objectForEditingString(editingString); },
         PatternConversion::Fidelity::Lossless);
+    return hasToken(pattern) ? pattern : QVariantList{line};
 }
 
 void ZEVTokenField::setPatterns(const QStringList &patterns)
@@ -124,12 +158,13 @@ void ZEVTokenField::setPatterns(const QStringList &patterns)
     m_patternsSet.removeDuplicates();
 }
 
-/// A pattern that is saved again moves to the end.
+/// A pattern that is saved again moves to the end. One of blanks alone keeps them.
 void ZEVTokenField::addPatternToSaved(const QVariantList &pattern)
 {
     if (pattern.isEmpty())
         return;
-    const QString patternString = patternStringForConversionPattern(pattern).trimmed();
+    const QString whole = patternStringForConversionPattern(pattern);
+    const QString patternString = whole.trimmed().isEmpty() ? whole : whole.trimmed();
     m_patternsSet.removeAll(patternString);
     m_patternsSet.append(patternString);
     saveDefaults();
@@ -137,15 +172,18 @@ void ZEVTokenField::addPatternToSaved(const QVariantList &pattern)
 
 void ZEVTokenField::insertToken(const QVariant &token)
 {
+    if (isReadOnly())
+        return;
     if (!isBeingEdited())
         setFocus();
     const ZEVRange selection = selectedRange();
     const auto edited = PatternConversion::insertedToken(
         token, objectValue(), selection.location, selection.length,
         [this](const QString &text) { return objectForEditingString(text); }, fidelity(m_lossless));
-    setObjectValue(edited.objects);
+    replaceValue(edited.objects, ZEVValueStep::User);
     setSelectedRange({edited.caret, 0});
     ensureCursorVisible();
+    reportValue();
 }
 
 QTextEdit *ZEVTokenField::ensureFieldEditor()
@@ -168,9 +206,13 @@ void ZEVTokenField::insertNewline() { sendAction(); }
 
 void ZEVTokenField::clear()
 {
+    if (isReadOnly())
+        return;
     setFocus();
-    textStorage()->replaceCharactersInRange({0, textStorage()->length()}, QString());
-    sendAction();
+    const QPointer guard(this);
+    setObjectValue({}, ZEVValueStep::User);
+    if (guard)
+        sendAction();
 }
 
 void ZEVTokenField::savePattern() { addPatternToSaved(objectValue()); }
@@ -179,8 +221,11 @@ void ZEVTokenField::removePattern()
 {
     m_patternsSet.removeAll(patternStringValue());
     // Kept: what then stands in the field is the text of the first pattern, not its tokens.
-    setObjectValue(m_patternsSet.isEmpty() ? QVariantList() : QVariantList{m_patternsSet.first()});
+    if (!isReadOnly())
+        replaceValue(m_patternsSet.isEmpty() ? QVariantList() : QVariantList{m_patternsSet.first()},
+                     ZEVValueStep::User);
     saveDefaults();
+    reportValue();
 }
 
 bool ZEVTokenField::performCommand(ZEVTextCommand command)
@@ -209,6 +254,8 @@ bool ZEVTokenField::event(QEvent *event)
     }
     if (event->type() == QEvent::Show)
         watchWindow();
+    else if (event->type() == QEvent::Hide && !event->spontaneous())
+        m_hasBeenFocused = false;
     return OEXTokenField::event(event);
 }
 
@@ -240,8 +287,9 @@ void ZEVTokenField::keyPressEvent(QKeyEvent *event)
 void ZEVTokenField::focusInEvent(QFocusEvent *event)
 {
     OEXTokenField::focusInEvent(event);
-    if (event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason
-        || event->reason() == Qt::MouseFocusReason)
+    const bool comesBack =
+        std::exchange(m_hasBeenFocused, true) && event->reason() == Qt::ActiveWindowFocusReason;
+    if (comesBack || event->reason() == Qt::PopupFocusReason || event->reason() == Qt::MouseFocusReason)
         return; // the caret stays, or goes where the user clicks
     if (m_selectsTextWhenFocused)
         selectAll();

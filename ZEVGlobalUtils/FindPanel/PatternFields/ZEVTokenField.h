@@ -29,7 +29,8 @@ public:
     explicit ZEVTokenField(std::unique_ptr<ZEVTokenFieldCell> cell, QWidget *parent = nullptr);
     ~ZEVTokenField() override;
 
-    /// On focus everything is selected, instead of the caret being put at the end.
+    /// On focus everything is selected, instead of the caret being put at the end. Neither happens when the
+    /// window comes back: the caret stays where it was.
     bool selectsTextWhenFocused() const { return m_selectsTextWhenFocused; }
     void setSelectsTextWhenFocused(bool selects) { m_selectsTextWhenFocused = selects; }
 
@@ -59,8 +60,8 @@ public:
     void setPatterns(const QStringList &patterns);
     void addPatternToSaved(const QVariantList &pattern);
 
-    /// The field is the first to be told that one of its menus is about to open; who wants to build one of
-    /// them disconnects it from QMenu::aboutToShow.
+    /// The field builds its menus when they are about to open, until somebody else says that it does (see
+    /// ZEVMenuBuilder).
     QMenu *dropDownMenu() const { return m_dropDownMenu.get(); }
     QMenu *patternsMenu() const { return m_patternsMenu.get(); }
     QAction *addTokensItem() const { return m_addTokensItem; }
@@ -77,7 +78,8 @@ public:
         m_menuDelegate = std::move(delegate);
     }
 
-    /// Puts the token in place of the selection, and the caret behind it.
+    /// Puts the token in place of the selection, and the caret behind it, as the user does it: undoable, and
+    /// not where the field is read-only.
     void insertToken(const QVariant &token);
     /// Gives the field the focus. Null when it cannot take it.
     QTextEdit *ensureFieldEditor();
@@ -86,7 +88,8 @@ public:
 public Q_SLOTS:
     void insertNewline();
     void moveDown();
-    void clear(); // unlike the base's, as the user does it: undoable, and the action follows
+    // As the user does them: undoable, and without effect on the value of a read-only field.
+    void clear(); // unlike the base's; the action follows
     void usePattern(QAction *sender);
     void savePattern();
     void removePattern();
@@ -97,6 +100,7 @@ Q_SIGNALS:
     void patternStringValueChanged();
 
 protected:
+    bool isSameObject(const QVariant &one, const QVariant &other) const override;
     QVariantList objectsForPastedText(const QString &text) const override;
     bool performCommand(ZEVTextCommand command) override;
     bool event(QEvent *event) override;
@@ -116,8 +120,12 @@ private:
     QVariant objectForEditingString(const QString &editingString) const;
 
     ZEVWeakRef<ZEVTokenFieldMenuDelegate> m_menuDelegate;
-    std::unique_ptr<QMenu> m_dropDownMenu;
-    std::unique_ptr<QMenu> m_patternsMenu;
+    /// A menu touches itself once more after its item was chosen, which may have ended the field.
+    struct Later {
+        void operator()(QMenu *menu) const;
+    };
+    std::unique_ptr<QMenu, Later> m_dropDownMenu;
+    std::unique_ptr<QMenu, Later> m_patternsMenu;
     QAction *m_addTokensItem = nullptr;
     QPointer<QMenu> m_menu;
     QPointer<QWidget> m_watchedWindow;
@@ -125,4 +133,5 @@ private:
     QStringList m_patternsSet;
     bool m_selectsTextWhenFocused = false;
     bool m_lossless = false;
+    bool m_hasBeenFocused = false; ///< since the window was shown
 };

@@ -66,13 +66,24 @@ void ZEVTokenFieldCell::adopt(QPointer<QAbstractButton> &slot, QAbstractButton *
         slot->deleteLater(); // it may be the one that was just pressed
     }
     slot = button;
-    if (!button)
-        return;
-    button->setCursor(Qt::ArrowCursor);
-    button->setParent(controlView());
-    button->setVisible(controlView() != nullptr);
-    if (controlView())
-        layOutButtons(controlView()->rect());
+    if (button) {
+        button->setCursor(Qt::ArrowCursor);
+        button->setParent(controlView());
+        button->setVisible(controlView() != nullptr);
+    }
+    geometryDidChange();
+}
+
+void ZEVTokenFieldCell::setButtonWidth(qreal width)
+{
+    m_buttonWidth = width;
+    geometryDidChange();
+}
+
+void ZEVTokenFieldCell::setRightButtonWidth(qreal width)
+{
+    m_rightButtonWidth = width;
+    geometryDidChange();
 }
 
 void ZEVTokenFieldCell::setControlView(QWidget *view)

@@ -29,9 +29,9 @@ public:
     void setRightButton(QAbstractButton *button);
 
     qreal buttonWidth() const { return m_buttonWidth; }
-    void setButtonWidth(qreal width) { m_buttonWidth = width; }
+    void setButtonWidth(qreal width);
     qreal rightButtonWidth() const { return m_rightButtonWidth; }
-    void setRightButtonWidth(qreal width) { m_rightButtonWidth = width; }
+    void setRightButtonWidth(qreal width);
 
     /// Empty without the button. In right-to-left windows the field mirrors what these rectangles say.
     QRectF buttonRectForBounds(const QRectF &bounds) const;

@@ -4,6 +4,7 @@
 #include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenField.h>
 
 #include <ZEVGlobalUtils/FindEngine/ZEVArrayPatternDisplaySupport.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuBuilder.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItemHeadings.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
@@ -28,10 +29,19 @@ constexpr int TokenMenuDistanceOfLargeFields = -2;
 constexpr char ActionKey[] = "zevAction";
 const QString SavePattern = u"savePattern"_s;
 const QString RemovePattern = u"removePattern"_s;
+const QString UsePattern = u"usePattern"_s;
 
-std::unique_ptr<QMenu> madeMenu()
+/// An item of blanks alone would look like an empty one.
+ZEVAttributedString shownTitle(const QVariantList &pattern)
 {
-    auto menu = std::make_unique<QMenu>();
+    const ZEVAttributedString title = ZEVArrayPatternDisplaySupport::patternDisplayString(pattern);
+    const bool isBlank = title.formats().isEmpty() && title.string().trimmed().isEmpty();
+    return isBlank ? ZEVAttributedString(QString(title.length(), QChar(0x2423))) : title;
+}
+
+QMenu *madeMenu()
+{
+    auto *menu = new QMenu;
     QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
     font.setPixelSize(MenuFontPixels);
     menu->setFont(font);
@@ -44,12 +54,18 @@ ZEVTokenFieldMenuDelegate::~ZEVTokenFieldMenuDelegate() = default;
 void ZEVTokenFieldMenuDelegate::customizeMenuBeforeDisplay(ZEVTokenField *, QMenu *) { }
 bool ZEVTokenFieldMenuDelegate::tokenFieldShowCustomAddTokensMenu(ZEVTokenField *) { return false; }
 
+void ZEVTokenField::Later::operator()(QMenu *menu) const
+{
+    ZEVMenuBuilder::setMenuBuilder(menu, {});
+    menu->deleteLater();
+}
+
 void ZEVTokenField::setUpMenus()
 {
-    m_patternsMenu = madeMenu();
-    m_dropDownMenu = madeMenu();
+    m_patternsMenu.reset(madeMenu());
+    m_dropDownMenu.reset(madeMenu());
     for (QMenu *menu : {m_patternsMenu.get(), m_dropDownMenu.get()})
-        connect(menu, &QMenu::aboutToShow, this, [this, menu] { menuNeedsUpdate(menu); });
+        ZEVMenuBuilder::setMenuBuilder(menu, [this](QMenu *built) { menuNeedsUpdate(built); });
     m_addTokensItem = new QAction(ZEVGlobalHelper::localizedStringForKey(u"Insert Pattern"), this);
     m_addTokensItem->setShortcut(Qt::CTRL | Qt::Key_Plus); // shown; the field itself listens to the key
     connect(m_addTokensItem, &QAction::triggered, this, &ZEVTokenField::popUpMenu);
@@ -75,7 +91,9 @@ bool ZEVTokenField::validateMenuItem(const QAction *item) const
         return !patternStringValue().isEmpty() && !isSaved();
     if (action == RemovePattern)
         return isSaved();
-    return true;
+    if (action == UsePattern)
+        return !isReadOnly();
+    return item != m_addTokensItem || !isReadOnly();
 }
 
 void ZEVTokenField::patternsMenuNeedsUpdate()
@@ -100,18 +118,21 @@ void ZEVTokenField::addPatternItem(const QString &patternString)
         return;
     QAction *item =
         m_patternsMenu->addAction(QString(), this, [this] { usePattern(qobject_cast<QAction *>(sender())); });
-    ZEVMenuItem::setAttributedTitle(item, ZEVArrayPatternDisplaySupport::patternDisplayString(pattern));
+    ZEVMenuItem::setAttributedTitle(item, shownTitle(pattern));
     ZEVMenuItem::setRepresentedObject(item, pattern);
     ZEVMenuItem::setState(item, patternString == patternStringValue() ? ZEVMenuItem::On : ZEVMenuItem::Off);
     ZEVMenuItem::setIndentationLevel(item, 1);
+    item->setProperty(ActionKey, UsePattern);
+    item->setEnabled(validateMenuItem(item));
 }
 
 /// Kept: with a patterns menu that somebody else fills, the header still asks for the field's own patterns.
 void ZEVTokenField::dropDownMenuNeedsUpdate()
 {
     m_dropDownMenu->clear();
+    m_addTokensItem->setEnabled(validateMenuItem(m_addTokensItem));
     m_dropDownMenu->addAction(m_addTokensItem);
-    Q_EMIT m_patternsMenu->aboutToShow();
+    ZEVMenuBuilder::buildMenu(m_patternsMenu.get());
     const QList<QAction *> patternItems = m_patternsMenu->actions();
     if (!patternItems.isEmpty())
         m_dropDownMenu->addSeparator();
@@ -126,11 +147,14 @@ void ZEVTokenField::dropDownMenuNeedsUpdate()
 
 void ZEVTokenField::usePattern(QAction *sender)
 {
-    setObjectValue(ZEVMenuItem::representedObject(sender).toList());
+    if (isReadOnly() || !sender)
+        return;
+    replaceValue(ZEVMenuItem::representedObject(sender).toList(), ZEVValueStep::User);
     if (!m_selectsTextWhenFocused)
         moveEditorCaretToEndOfStringIfNeeded();
     else if (isBeingEdited())
         selectAll();
+    reportValue();
 }
 
 /// The first item stands where the point is, so the menu begins a little above it.
@@ -139,19 +163,20 @@ void ZEVTokenField::moveDown()
     const int above =
         m_patternsMenu->style()->pixelMetric(QStyle::PM_MenuPanelWidth, nullptr, m_patternsMenu.get())
         + m_patternsMenu->style()->pixelMetric(QStyle::PM_MenuVMargin, nullptr, m_patternsMenu.get());
-    m_patternsMenu->popup(mapToGlobal(QPoint(0, height() + MenuDistance - above)));
+    ZEVMenuBuilder::popUpMenu(m_patternsMenu.get(), this, {0, height() + MenuDistance - above});
 }
 
 void ZEVTokenField::popUpRecentsMenu()
 {
-    m_dropDownMenu->popup(mapToGlobal(QPoint(0, height() + MenuDistance)));
+    ZEVMenuBuilder::popUpMenu(m_dropDownMenu.get(), this, {0, height() + MenuDistance});
 }
 
 void ZEVTokenField::popUpMenu()
 {
+    const QPointer guard(this);
     if (m_menuDelegate && m_menuDelegate->tokenFieldShowCustomAddTokensMenu(this))
         return;
-    if (!window()->isVisible())
+    if (!guard || isReadOnly() || !window()->isVisible())
         return;
     if (!window()->isActiveWindow()) {
         window()->activateWindow();
@@ -165,7 +190,7 @@ void ZEVTokenField::popUpMenu()
     const int x = viewport()->mapTo(this, cursorRect(caret).topLeft()).x();
     const int distance =
         controlSize() == ZEVControlSize::Large ? TokenMenuDistanceOfLargeFields : TokenMenuDistance;
-    m_menu->popup(mapToGlobal(QPoint(x, height() + distance)));
+    ZEVMenuBuilder::popUpMenu(m_menu, this, {isRightToLeft() ? width() - x : x, height() + distance});
 }
 
 /// The usual menu of an editor, and the way to the tokens.

@@ -5,21 +5,22 @@
 
 #include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenFieldCell.h>
 #include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenTextStorage.h>
+#include <ZEVGlobalUtils/FindPanel/TokenFields/OneLineLayout_p.h>
 #include <ZEVGlobalUtils/FindPanel/TokenFields/ShownTokenText_p.h>
+#include <ZEVGlobalUtils/FindPanel/TokenFields/TokenAnswers_p.h>
 #include <ZEVGlobalUtils/FindPanel/TokenFields/TokenFieldAccessible_p.h>
 #include <ZEVGlobalUtils/FindPanel/TokenFields/TokenTextObject_p.h>
-#include <ZEVGlobalUtils/Platform/Text/ZEVTextAttachmentCell.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVTextAttachment.h>
 
 #include <QAbstractTextDocumentLayout>
 #include <QPainter>
-#include <QScopedValueRollback>
+#include <QPointer>
 #include <QScrollBar>
 #include <QStyle>
 #include <QStyleOptionFrame>
-#include <QTextBlock>
-#include <QTextLayout>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -47,15 +48,16 @@ OEXTokenField::OEXTokenField(std::unique_ptr<OEXTokenFieldCell> cell, QWidget *p
     TokenFieldAccessible::install();
     setUp();
     m_cell->setControlView(this);
-    m_cell->setDelegate(this);
+    m_cell->setDelegate(new TokenAnswers(this));
     setUpText();
     updateFonts();
 }
 
 OEXTokenField::~OEXTokenField()
 {
-    // The text outlives the cell by the base class.
+    // The text outlives the cell by the base class, and the cell's buttons tell the field that they go.
     textStorage()->setDelegate(nullptr);
+    m_cell.reset();
 }
 
 void OEXTokenField::setUp()
@@ -84,7 +86,9 @@ void OEXTokenField::setUpText()
     text->setDocumentMargin(TextMargin);
     text->clearUndoRedoStacks();
     text->documentLayout()->registerHandler(ZEVTextAttachments::ObjectType, new TokenTextObject(this));
-    connect(text, &QTextDocument::contentsChanged, this, &OEXTokenField::takeEditedText);
+    m_report.setSingleShot(true);
+    connect(text, &QTextDocument::contentsChanged, &m_report, qOverload<>(&QTimer::start));
+    connect(&m_report, &QTimer::timeout, this, &OEXTokenField::reportValue);
 }
 
 void OEXTokenField::setDelegate(ZEVWeakRef<OEXTokenFieldDelegate> delegate)
@@ -107,36 +111,39 @@ void OEXTokenField::setCell(std::unique_ptr<OEXTokenFieldCell> cell)
 
 QVariantList OEXTokenField::objectValue() const { return m_cell->objectValue(); }
 
-void OEXTokenField::setObjectValue(const QVariantList &objects)
+void OEXTokenField::setObjectValue(const QVariantList &objects, ZEVValueStep step)
 {
-    if (objects == m_cell->objectValue())
+    if (isSameValue(objects, objectValue()))
         return;
-    {
-        const QScopedValueRollback guard(m_settingValue, true);
-        m_cell->setObjectValue(objects);
-        textStorage()->replaceCharactersInRange({0, textStorage()->length()},
-                                                m_cell->attributedStringValue());
-    }
-    Q_EMIT objectValueChanged();
+    replaceValue(objects, step);
+    reportValue();
+}
+
+bool OEXTokenField::isSameObject(const QVariant &one, const QVariant &other) const { return one == other; }
+
+bool OEXTokenField::isSameValue(const QVariantList &one, const QVariantList &other) const
+{
+    return std::ranges::equal(one, other,
+                              [this](const auto &a, const auto &b) { return isSameObject(a, b); });
+}
+
+void OEXTokenField::replaceValue(const QVariantList &objects, ZEVValueStep step)
+{
+    m_cell->setObjectValue(QVariantList(objects)); // which may be the value that was told of last
+    if (step == ZEVValueStep::Program)
+        textStorage()->clearUndoRedoStacks();
+}
+
+void OEXTokenField::reportValue()
+{
+    m_report.stop();
+    const QVariantList value = objectValue();
+    if (!isSameValue(std::exchange(m_reportedValue, value), value))
+        Q_EMIT objectValueChanged();
 }
 
 /// The same value, but the delegate may say something else about its tokens now.
-void OEXTokenField::rebuildText()
-{
-    const QScopedValueRollback guard(m_settingValue, true);
-    textStorage()->replaceCharactersInRange({0, textStorage()->length()}, m_cell->attributedStringValue());
-    textStorage()->clearUndoRedoStacks();
-}
-
-void OEXTokenField::takeEditedText()
-{
-    if (m_settingValue)
-        return;
-    const QVariantList before = m_cell->objectValue();
-    m_cell->setAttributedStringValue(textStorage()->attributedString());
-    if (m_cell->objectValue() != before)
-        Q_EMIT objectValueChanged();
-}
+void OEXTokenField::rebuildText() { replaceValue(objectValue(), ZEVValueStep::Program); }
 
 QString OEXTokenField::stringValue() const { return ShownTokenText(*textStorage()).string(); }
 
@@ -211,41 +218,22 @@ void OEXTokenField::layOutEditor()
     const int above = qMax(0, (drawing.height() - textHeight) / 2);
     setViewportMargins(drawing.left() - bounds.left() + TextMargin, drawing.top() - bounds.top() + above,
                        bounds.right() - drawing.right() + TextMargin, bounds.bottom() - drawing.bottom());
+    fitLayout();
+}
+
+void OEXTokenField::fitLayout()
+{
+    if (OneLineLayout *layout = oneLineLayout())
+        layout->setAvailableWidth(viewport()->width());
 }
 
 void OEXTokenField::updateFonts()
 {
     m_cell->setFont(font());
-    for (const ZEVTextAttachments::Run &run : ZEVTextAttachments::runs(textStorage()->attributedString())) {
-        if (ZEVTextAttachmentCell *cell = run.attachment ? run.attachment->attachmentCell() : nullptr) {
-            cell->setFont(font());
-            cell->setControlSize(controlSize());
-        }
-    }
     textStorage()->setDefaultFont(font());
     textStorage()->markContentsDirty(0, document()->characterCount());
     updateGeometry();
     layOutEditor();
-}
-
-bool OEXTokenField::showsTokenForRepresentedObject(const OEXTokenFieldCell *, const QVariant &object) const
-{
-    return !m_delegate || m_delegate->styleForRepresentedObject(this, object) != ZEVTokenStyle::None;
-}
-
-std::unique_ptr<ZEVTextAttachmentCell>
-OEXTokenField::attachmentCellForRepresentedObject(const OEXTokenFieldCell *, const QVariant &object) const
-{
-    const OEXTokenFieldDelegate::AttachmentCellClass cellClass = m_delegate
-        ? m_delegate->attachmentCellClassForRepresentedObject(this, object)
-        : OEXTokenFieldDelegate::AttachmentCellClass();
-    return cellClass ? cellClass() : std::make_unique<ZEVTextAttachmentCell>();
-}
-
-std::optional<QString> OEXTokenField::displayStringForRepresentedObject(const OEXTokenFieldCell *,
-                                                                        const QVariant &object) const
-{
-    return m_delegate ? m_delegate->displayStringForRepresentedObject(this, object) : std::nullopt;
 }
 
 bool OEXTokenField::event(QEvent *event)
@@ -255,59 +243,40 @@ bool OEXTokenField::event(QEvent *event)
         m_cell->drawBezel(&painter, rect(), this);
         return true;
     }
-    return QTextEdit::event(event);
+    if (event->type() == QEvent::LayoutRequest)
+        layOutEditor();
+    const QPointer guard(this);
+    const bool isDone = QTextEdit::event(event);
+    if (guard && m_report.isActive())
+        reportValue();
+    return isDone;
 }
 
-void OEXTokenField::paintEvent(QPaintEvent *event)
+/// An edit is told of when the editor has done with it, so that whoever hears of it may delete the field.
+bool OEXTokenField::viewportEvent(QEvent *event)
 {
-    QTextEdit::paintEvent(event);
-    QPainter painter(viewport());
-    drawTokens(&painter, event->rect());
+    const QPointer guard(this);
+    const bool isDone = QTextEdit::viewportEvent(event);
+    if (guard && m_report.isActive())
+        reportValue();
+    return isDone;
 }
 
-/// Where the line begins in the viewport.
+OneLineLayout *OEXTokenField::oneLineLayout() const
+{
+    return qobject_cast<OneLineLayout *>(document()->documentLayout());
+}
+
+/// What lies under the viewport's upper left corner. From right to left a scroll bar counts from the other end.
 QPointF OEXTokenField::textOrigin() const
 {
-    const QPointF line = document()->documentLayout()->blockBoundingRect(document()->firstBlock()).topLeft();
-    return line - QPointF(horizontalScrollBar()->value(), 0);
+    const QScrollBar *bar = horizontalScrollBar();
+    return {-qreal(isRightToLeft() ? bar->maximum() - bar->value() : bar->value()), 0};
 }
 
-/// The line also holds what an input method is composing, which is not in the text yet: -1 stands for that.
-qsizetype OEXTokenField::storageIndexOfLayoutIndex(qsizetype index) const
+QRectF OEXTokenField::characterRect(qsizetype index) const
 {
-    const QTextLayout *layout = document()->firstBlock().layout();
-    const qsizetype start = layout->preeditAreaPosition();
-    const qsizetype length = layout->preeditAreaText().size();
-    if (length == 0 || index < start)
-        return index;
-    return index < start + length ? -1 : index - length;
-}
-
-/// Only what lies in \a area is looked at: a pattern may be as long as a book.
-void OEXTokenField::drawTokens(QPainter *painter, const QRect &area)
-{
-    const QTextLayout *layout = document()->firstBlock().layout();
-    if (layout->lineCount() == 0)
-        return;
-    const QTextLine line = layout->lineAt(0);
-    const QPointF origin = textOrigin();
-    const qreal baseline = origin.y() + line.y() + line.ascent();
-    // Of a list, since a pair of references to the two would outlive them.
-    const auto [first, last] =
-        std::minmax({line.xToCursor(area.left() - origin.x(), QTextLine::CursorOnCharacter),
-                     line.xToCursor(area.right() - origin.x())});
-    for (int index = first; index <= last; ++index) {
-        const qsizetype storageIndex = storageIndexOfLayoutIndex(index);
-        const ZEVTextAttachmentPointer attachment = textStorage()->attachmentAtIndex(storageIndex);
-        ZEVTextAttachmentCell *cell = attachment ? attachment->attachmentCell() : nullptr;
-        if (!cell)
-            continue;
-        const QPointF offset = cell->cellBaselineOffset();
-        const qreal left = qMin(line.cursorToX(index), line.cursorToX(index + 1));
-        QRectF frame({origin.x() + left + offset.x(), 0}, cell->cellSize());
-        frame.moveBottom(baseline - offset.y());
-        cell->drawWithFrame(painter, frame, this, storageIndex);
-    }
+    return oneLineLayout()->characterRect(index).translated(textOrigin());
 }
 
 void OEXTokenField::changeEvent(QEvent *event)
@@ -325,6 +294,7 @@ void OEXTokenField::resizeEvent(QResizeEvent *event)
 {
     layOutEditor();
     QTextEdit::resizeEvent(event);
+    fitLayout();
 }
 
 void OEXTokenField::focusInEvent(QFocusEvent *event)

@@ -3,23 +3,28 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenFieldCellDelegate.h>
 #include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenFieldDelegate.h>
 #include <ZEVGlobalUtils/FindPanel/TokenFields/ZEVSelectedRanges.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVControlSize.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVWeakRef.h>
 
 #include <QTextEdit>
+#include <QTimer>
 
 class OEXTokenFieldCell;
 class OEXTokenTextStorage;
+class OneLineLayout;
+
+/// Whose step a change of a field's value is. The user's can be undone; with the program's, undo begins anew.
+enum class ZEVValueStep {
+    Program,
+    User,
+};
 
 /// A line edit that holds tokens beside its text. It is its own editor: what the user types is the value at
 /// once. A token is one character for the caret, the keys and the selection; copied tokens stay tokens in
 /// other fields and become text elsewhere; a screen reader hears their titles.
-class ZEV_EXPORT OEXTokenField : public QTextEdit,
-                                 public OEXTokenFieldCellDelegate,
-                                 public ZEVSelectedRanges {
+class ZEV_EXPORT OEXTokenField : public QTextEdit, public ZEVSelectedRanges {
     Q_OBJECT
     Q_PROPERTY(QVariantList objectValue READ objectValue WRITE setObjectValue NOTIFY objectValueChanged)
     Q_PROPERTY(QString stringValue READ stringValue NOTIFY objectValueChanged)
@@ -33,13 +38,13 @@ public:
     void setDelegate(ZEVWeakRef<OEXTokenFieldDelegate> delegate);
 
     OEXTokenFieldCell *cell() const { return m_cell.get(); }
-    /// \a cell takes over the settings and the value of the one that it replaces.
+    /// \a cell takes over the settings of the one that it replaces. The value stays.
     void setCell(std::unique_ptr<OEXTokenFieldCell> cell);
 
     /// What stands in the field, in order: a QString for a stretch of text, any other object for a token.
-    /// Setting it is one step for undo.
+    /// Neighbouring texts are one, and line breaks stand in it as marks. The same value changes nothing.
     QVariantList objectValue() const;
-    void setObjectValue(const QVariantList &objects);
+    void setObjectValue(const QVariantList &objects, ZEVValueStep step = ZEVValueStep::Program);
 
     /// The text with the title of every token in its place.
     QString stringValue() const;
@@ -66,20 +71,26 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-    bool showsTokenForRepresentedObject(const OEXTokenFieldCell *cell, const QVariant &object) const override;
-    std::unique_ptr<ZEVTextAttachmentCell>
-    attachmentCellForRepresentedObject(const OEXTokenFieldCell *cell, const QVariant &object) const override;
-    std::optional<QString> displayStringForRepresentedObject(const OEXTokenFieldCell *cell,
-                                                             const QVariant &object) const override;
+    /// Where the character at \a index stands in the viewport, in one piece wherever its neighbours are.
+    QRectF characterRect(qsizetype index) const;
 
 Q_SIGNALS:
-    /// The value is another one, by typing or by program.
+    /// The value is another one, by typing or by program. A receiver may delete the field.
     void objectValueChanged();
     /// The user asks for what the field is there for, by Return.
     void actionTriggered();
 
 protected:
     OEXTokenField(std::unique_ptr<OEXTokenFieldCell> cell, QWidget *parent);
+
+    /// Whether two objects of a value are the same in all that a field shows or tells; more than ==, which may
+    /// overlook a part.
+    virtual bool isSameObject(const QVariant &one, const QVariant &other) const;
+
+    /// Changes the text without telling anybody; reportValue() is to follow, last of all.
+    void replaceValue(const QVariantList &objects, ZEVValueStep step);
+    /// Tells of the value when it is not the one that was told of last.
+    void reportValue();
 
     /// What a pasted \a text is in this field.
     virtual QVariantList objectsForPastedText(const QString &text) const;
@@ -90,7 +101,7 @@ protected:
     void sendAction() { Q_EMIT actionTriggered(); }
 
     bool event(QEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
     void changeEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
@@ -108,8 +119,10 @@ private:
     void setUp();
     void setUpText();
     void rebuildText();
-    void takeEditedText();
+    bool isSameValue(const QVariantList &one, const QVariantList &other) const;
     void layOutEditor();
+    void fitLayout();
+    OneLineLayout *oneLineLayout() const;
     void updateFonts();
     void insertObjects(const QVariantList &objects);
     bool doCommand(ZEVTextCommand command);
@@ -118,13 +131,13 @@ private:
     bool tokenizeBeforeCaret();
     std::optional<qsizetype> tokenAt(QPoint position) const;
     QPointF textOrigin() const;
-    qsizetype storageIndexOfLayoutIndex(qsizetype index) const;
-    void drawTokens(QPainter *painter, const QRect &area);
+    void selectClickedToken(qsizetype index);
     QString textFormOfObjects(const QVariantList &objects) const;
 
     ZEVWeakRef<OEXTokenFieldDelegate> m_delegate;
     std::unique_ptr<OEXTokenFieldCell> m_cell;
     QString m_tokenizingCharacters;
     std::optional<qsizetype> m_pressedToken;
-    bool m_settingValue = false;
+    QVariantList m_reportedValue;
+    QTimer m_report; ///< of an edit that no event of the field's has made
 };

@@ -6,6 +6,8 @@
 #include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenTextStorage.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVTextAttachmentCell.h>
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QStyle>
 #include <QStyleOptionFrame>
 #include <QTextEdit>
@@ -67,7 +69,27 @@ void OEXTokenFieldCell::takeSettingsFrom(const OEXTokenFieldCell &other)
     m_font = other.m_font;
     m_controlSize = other.m_controlSize;
     m_bezeled = other.m_bezeled;
-    m_objectValue = other.m_objectValue;
+}
+
+QVariantList OEXTokenFieldCell::objectValue() const
+{
+    return m_storage ? objectsForAttributedString(m_storage->attributedString()) : QVariantList();
+}
+
+void OEXTokenFieldCell::setObjectValue(const QVariantList &objects)
+{
+    if (m_storage)
+        m_storage->replaceCharactersInRange({0, m_storage->length()}, attributedStringForObjects(objects));
+}
+
+ZEVAttributedString OEXTokenFieldCell::attributedStringValue() const
+{
+    return m_storage ? m_storage->attributedString() : ZEVAttributedString();
+}
+
+void OEXTokenFieldCell::setAttributedStringValue(const ZEVAttributedString &text)
+{
+    setObjectValue(objectsForAttributedString(text));
 }
 
 ZEVAttributedString OEXTokenFieldCell::attributedStringForObjects(const QVariantList &objects) const
@@ -78,14 +100,14 @@ ZEVAttributedString OEXTokenFieldCell::attributedStringForObjects(const QVariant
     return text;
 }
 
-void OEXTokenFieldCell::setAttributedStringValue(const ZEVAttributedString &text)
+QVariantList OEXTokenFieldCell::objectsForAttributedString(const ZEVAttributedString &text)
 {
     QVariantList objects;
-    for (const ZEVTextAttachments::Run &run : ZEVTextAttachments::runs(text)) {
-        const ZEVAttributedString substring(text.string().mid(run.range.location, run.range.length));
-        objects.append(representedObjectWithAttachment(run.attachment.get(), substring));
-    }
-    setObjectValue(objects);
+    const QString string = text.string();
+    for (const ZEVTextAttachments::Run &run : ZEVTextAttachments::runs(text))
+        objects.append(representedObjectWithAttachment(run.attachment.get(),
+                                                       string.mid(run.range.location, run.range.length)));
+    return objects;
 }
 
 QTextEdit *OEXTokenFieldCell::setUpFieldEditorAttributes(QTextEdit *editor)
@@ -96,6 +118,7 @@ QTextEdit *OEXTokenFieldCell::setUpFieldEditorAttributes(QTextEdit *editor)
         editor->setDocument(storage);
     }
     storage->setDelegate(this);
+    m_storage = storage;
     return editor;
 }
 
@@ -110,7 +133,7 @@ void OEXTokenFieldCell::updateTokenAttachment(ZEVTextAttachment *attachment,
 {
     if (attachment->representedObject().isValid())
         return;
-    const QVariant object = representedObjectWithAttachment(attachment, text);
+    const QVariant object = representedObjectWithAttachment(attachment, text.string());
     attachment->setRepresentedObject(object);
     if (auto cell = attachmentCellForRepresentedObject(object))
         attachment->setAttachmentCell(std::move(cell));
@@ -145,6 +168,13 @@ QRectF OEXTokenFieldCell::drawingRectForBounds(const QRectF &bounds) const
     return m_controlView->style()->subElementRect(QStyle::SE_LineEditContents, &option, m_controlView);
 }
 
+void OEXTokenFieldCell::geometryDidChange()
+{
+    QEvent request(QEvent::LayoutRequest);
+    if (m_controlView)
+        QCoreApplication::sendEvent(m_controlView, &request);
+}
+
 void OEXTokenFieldCell::layOutButtons(const QRect & /*bounds*/) { }
 
 void OEXTokenFieldCell::drawBezel(QPainter *painter, const QRectF &bounds, const QWidget *view) const
@@ -156,16 +186,18 @@ void OEXTokenFieldCell::drawBezel(QPainter *painter, const QRectF &bounds, const
 }
 
 QVariant OEXTokenFieldCell::representedObjectWithAttachment(const ZEVTextAttachment *attachment,
-                                                            const ZEVAttributedString &text) const
+                                                            const QString &text)
 {
     if (attachment && attachment->representedObject().isValid())
         return attachment->representedObject();
     const QVariant object = foreignObject(attachment);
-    return object.isValid() ? object : QVariant(text.string());
+    return object.isValid() ? object : QVariant(text);
 }
 
 ZEVAttributedString OEXTokenFieldCell::textOfObject(const QVariant &object) const
 {
+    if (!object.isValid())
+        return {};
     if (object.typeId() == QMetaType::QString)
         return ZEVAttributedString(object.toString());
     const OEXTokenFieldCellDelegate *delegate = m_delegate.get();

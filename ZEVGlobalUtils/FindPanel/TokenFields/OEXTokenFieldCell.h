@@ -10,8 +10,10 @@
 #include <ZEVGlobalUtils/Platform/Values/ZEVWeakRef.h>
 
 #include <QFont>
+#include <QPointer>
 #include <QRectF>
 
+class OEXTokenTextStorage;
 class QPainter;
 class QTextEdit;
 class QWidget;
@@ -41,17 +43,21 @@ public:
     bool isBezeled() const { return m_bezeled; }
     void setBezeled(bool bezeled) { m_bezeled = bezeled; }
 
-    /// Takes over what the user of \a other has set: delegate, font, size, bezel and value.
+    /// Takes over what the user of \a other has set: delegate, font, size and bezel.
     void takeSettingsFrom(const OEXTokenFieldCell &other);
 
-    const QVariantList &objectValue() const { return m_objectValue; }
-    virtual void setObjectValue(const QVariantList &objects) { m_objectValue = objects; }
+    /// The value is that of the editor which the cell has set up: the text of that one is its only store.
+    /// Without an editor there is none, and nothing can be set.
+    QVariantList objectValue() const;
+    virtual void setObjectValue(const QVariantList &objects);
 
     /// The value as text, every token as an attachment that is ready to be drawn.
-    ZEVAttributedString attributedStringValue() const { return attributedStringForObjects(m_objectValue); }
+    ZEVAttributedString attributedStringValue() const;
     void setAttributedStringValue(const ZEVAttributedString &text);
 
+    /// Neighbouring texts become one. What the delegate shows as no token becomes the text that it has.
     ZEVAttributedString attributedStringForObjects(const QVariantList &objects) const;
+    static QVariantList objectsForAttributedString(const ZEVAttributedString &text);
 
     /// Makes \a editor's text an OEXTokenTextStorage that asks this cell, and answers \a editor.
     virtual QTextEdit *setUpFieldEditorAttributes(QTextEdit *editor);
@@ -72,14 +78,17 @@ public:
     /// The background and the frame; nothing when the cell is not bezeled.
     virtual void drawBezel(QPainter *painter, const QRectF &bounds, const QWidget *view) const;
 
+protected:
+    /// The field lays itself out anew: what stands in it has another place now.
+    void geometryDidChange();
+
 private:
-    QVariant representedObjectWithAttachment(const ZEVTextAttachment *attachment,
-                                             const ZEVAttributedString &text) const;
+    static QVariant representedObjectWithAttachment(const ZEVTextAttachment *attachment, const QString &text);
     ZEVAttributedString textOfObject(const QVariant &object) const;
 
     ZEVWeakRef<OEXTokenFieldCellDelegate> m_delegate;
     QWidget *m_controlView = nullptr;
-    QVariantList m_objectValue;
+    QPointer<OEXTokenTextStorage> m_storage;
     QFont m_font;
     ZEVControlSize m_controlSize = ZEVControlSize::Regular;
     bool m_bezeled = true;

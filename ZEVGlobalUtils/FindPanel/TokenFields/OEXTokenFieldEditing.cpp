@@ -5,16 +5,17 @@
 
 #include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenFieldCell.h>
 #include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenTextStorage.h>
+#include <ZEVGlobalUtils/FindPanel/TokenFields/OneLineLayout_p.h>
 #include <ZEVGlobalUtils/FindPanel/TokenFields/TokenMimeData_p.h>
-#include <ZEVGlobalUtils/Platform/Text/ZEVTextAttachmentCell.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVTextAttachment.h>
 
-#include <QAbstractTextDocumentLayout>
+#include <QClipboard>
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QScrollBar>
-#include <QTextBlock>
-#include <QTextLayout>
 
 #include <algorithm>
 #include <array>
@@ -112,7 +113,8 @@ bool OEXTokenField::moveByWord(QKeyEvent *event)
 
 bool OEXTokenField::doCommand(ZEVTextCommand command)
 {
-    if ((m_delegate && m_delegate->doCommandBySelector(this, command)) || performCommand(command))
+    const QPointer guard(this);
+    if ((m_delegate && m_delegate->doCommandBySelector(this, command)) || !guard || performCommand(command))
         return true;
     return command == ZEVTextCommand::InsertNewlineBackward && doCommand(ZEVTextCommand::InsertNewline);
 }
@@ -160,18 +162,16 @@ void OEXTokenField::insertObjects(const QVariantList &objects)
 
 std::optional<qsizetype> OEXTokenField::tokenAt(QPoint position) const
 {
-    const QTextBlock line = document()->firstBlock();
-    if (!line.layout() || line.layout()->lineCount() == 0)
-        return std::nullopt;
-    const qreal x = position.x() - textOrigin().x();
-    const QTextLine textLine = line.layout()->lineAt(0);
-    const int index = textLine.xToCursor(x, QTextLine::CursorOnCharacter);
-    const qreal left = textLine.cursorToX(index);
-    const qreal right = textLine.cursorToX(index + 1);
-    const qsizetype storageIndex = storageIndexOfLayoutIndex(index);
-    if (x < qMin(left, right) || x > qMax(left, right) || !textStorage()->attachmentAtIndex(storageIndex))
-        return std::nullopt;
-    return storageIndex;
+    return oneLineLayout()->objectAt(position.x() - textOrigin().x());
+}
+
+/// As what is selected by dragging, what was clicked can be pasted with the middle button.
+void OEXTokenField::selectClickedToken(qsizetype index)
+{
+    clickedOnCellAtIndex(index);
+    QClipboard *clipboard = QGuiApplication::clipboard();
+    if (clipboard->supportsSelection())
+        clipboard->setMimeData(createMimeDataFromSelection(), QClipboard::Selection);
 }
 
 void OEXTokenField::mousePressEvent(QMouseEvent *event)
@@ -193,16 +193,29 @@ void OEXTokenField::mouseReleaseEvent(QMouseEvent *event)
     QTextEdit::mouseReleaseEvent(event);
     // A click inside a selection makes the editor forget the selection: it was no drag.
     if (m_pressedToken && onlyClicked && tokenAt(event->position().toPoint()) == m_pressedToken)
-        clickedOnCellAtIndex(*m_pressedToken);
+        selectClickedToken(*m_pressedToken);
     m_pressedToken = std::nullopt;
 }
 
+/// Qt takes a token for a letter of the word beside it, so its selection ends at the tokens.
 void OEXTokenField::mouseDoubleClickEvent(QMouseEvent *event)
 {
     const std::optional<qsizetype> token = tokenAt(event->position().toPoint());
+    const int clicked = cursorForPosition(event->position().toPoint()).position();
     QTextEdit::mouseDoubleClickEvent(event);
-    if (token)
-        clickedOnCellAtIndex(*token);
+    if (token) {
+        selectClickedToken(*token);
+        return;
+    }
+    const ZEVRange word = selectedRange();
+    if (word.location > clicked || clicked > word.end())
+        return;
+    qsizetype start = clicked, end = clicked;
+    while (start > word.location && !textStorage()->attachmentAtIndex(start - 1))
+        --start;
+    while (end < word.end() && !textStorage()->attachmentAtIndex(end))
+        ++end;
+    setSelectedRange({start, end - start});
 }
 
 /// One line scrolls sideways only. The editor's own way would also zoom a read-only text.
@@ -235,9 +248,8 @@ QVariantList OEXTokenField::objectsForPastedText(const QString &text) const
 
 QMimeData *OEXTokenField::createMimeDataFromSelection() const
 {
-    OEXTokenFieldCell converter;
-    converter.setAttributedStringValue(textStorage()->attributedSubstring(selectedRange()));
-    const QVariantList objects = converter.objectValue();
+    const QVariantList objects =
+        OEXTokenFieldCell::objectsForAttributedString(textStorage()->attributedSubstring(selectedRange()));
     auto *tokens = new TokenMimeData(objects);
     if (!m_delegate || !m_delegate->writeRepresentedObjects(this, objects, tokens))
         tokens->setText(textFormOfObjects(objects));

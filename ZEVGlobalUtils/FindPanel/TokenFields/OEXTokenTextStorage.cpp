@@ -3,8 +3,12 @@
 
 #include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenTextStorage.h>
 
+#include <ZEVGlobalUtils/FindPanel/TokenFields/OneLineLayout_p.h>
+
 #include <QTextBlock>
 #include <QTextCursor>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -19,21 +23,47 @@ QTextCursor cursorOver(QTextDocument *document, ZEVRange range)
     return cursor;
 }
 
-void insertText(QTextCursor &cursor, const ZEVAttributedString &text, ZEVRange range)
+/// A line break stands in the document as a mark, whose format holds the character. Text that is typed behind
+/// it takes over its format, but not the type of the object.
+constexpr int LineBreakType = ZEVTextAttachments::ObjectType + 1;
+constexpr int LineBreakProperty = ZEVTextAttachments::NSAttachmentAttributeName + 1;
+constexpr QChar LineBreakMark(0x21B5);
+
+/// What ends a line, or in a document a block or a frame.
+bool endsLine(QChar character)
 {
-    const QString characters = text.string().mid(range.location, range.length);
-    cursor.insertText(OEXTokenTextStorage::singleLine(characters), QTextCharFormat());
+    return character == u'\n' || character == u'\r' || character == QChar::LineSeparator
+        || character == QChar::ParagraphSeparator || character == QChar(0xFDD0) || character == QChar(0xFDD1);
 }
 
-void insertRuns(QTextCursor &cursor, const ZEVAttributedString &text)
+QTextCharFormat formatOfLineBreak(QChar character)
 {
-    for (const ZEVTextAttachments::Run &run : ZEVTextAttachments::runs(text)) {
-        if (run.attachment)
-            cursor.insertText(ZEVTextAttachments::Character,
-                              ZEVTextAttachments::formatWithAttachment(run.attachment));
-        else
-            insertText(cursor, text, run.range);
+    QTextCharFormat format;
+    format.setObjectType(LineBreakType);
+    format.setProperty(LineBreakProperty, character);
+    return format;
+}
+
+void insertText(QTextCursor &cursor, QStringView text)
+{
+    while (!text.isEmpty()) {
+        const auto *const end = std::ranges::find_if(text, endsLine);
+        const QStringView line(text.begin(), end);
+        if (!line.isEmpty())
+            cursor.insertText(line.toString(), QTextCharFormat());
+        if (end != text.end())
+            cursor.insertText(LineBreakMark, formatOfLineBreak(*end));
+        text = text.sliced(qMin(line.size() + 1, text.size()));
     }
+}
+
+/// The text of a fragment, with the line breaks that its marks stand for.
+QString textOfFragment(const QTextFragment &fragment)
+{
+    QString text = fragment.text();
+    if (fragment.charFormat().objectType() == LineBreakType)
+        text.replace(LineBreakMark, fragment.charFormat().property(LineBreakProperty).toChar());
+    return text;
 }
 
 /// One edit: undone in one step, and reported when it is whole.
@@ -61,8 +91,10 @@ void OEXTokenTextStorageDelegate::updateTokenAttachment(OEXTokenTextStorage *, Z
 OEXTokenTextStorage::OEXTokenTextStorage(QObject *parent)
     : QTextDocument(parent)
 {
-    // Whatever way a line break came in (an input method may commit one), the field has one line.
-    connect(this, &QTextDocument::blockCountChanged, this, &OEXTokenTextStorage::joinBlocks);
+    setDocumentLayout(new OneLineLayout(this));
+    // Whatever way a line break came in (an input method may commit one), the field has one line, and has it
+    // before anybody else looks.
+    connect(this, &QTextDocument::contentsChanged, this, &OEXTokenTextStorage::joinBlocks);
 }
 
 OEXTokenTextStorage::OEXTokenTextStorage(const ZEVAttributedString &text, QObject *parent)
@@ -80,7 +112,8 @@ ZEVAttributedString OEXTokenTextStorage::attributedSubstring(ZEVRange range) con
         const qsizetype start = qMax<qsizetype>(range.location, fragment.position());
         const qsizetype end = qMin<qsizetype>(range.end(), fragment.position() + fragment.length());
         if (start < end)
-            text.append(fragment.text().mid(start - fragment.position(), end - start), fragment.charFormat());
+            text.append(textOfFragment(fragment).mid(start - fragment.position(), end - start),
+                        fragment.charFormat());
     }
     return text;
 }
@@ -107,7 +140,7 @@ QTextCharFormat OEXTokenTextStorage::attributesAtIndex(qsizetype index, ZEVRange
 
 void OEXTokenTextStorage::replaceCharactersInRange(ZEVRange range, const QString &string)
 {
-    cursorOver(this, range).insertText(singleLine(string), QTextCharFormat());
+    replaceCharactersInRange(range, ZEVAttributedString(string));
 }
 
 void OEXTokenTextStorage::replaceCharactersInRange(ZEVRange range, const ZEVAttributedString &text)
@@ -141,14 +174,22 @@ void OEXTokenTextStorage::removeAttribute(int property, ZEVRange range)
     }
 }
 
+void OEXTokenTextStorage::insertRuns(QTextCursor &cursor, const ZEVAttributedString &text)
+{
+    const QString string = text.string();
+    for (const ZEVTextAttachments::Run &run : ZEVTextAttachments::runs(text)) {
+        if (run.attachment)
+            cursor.insertText(ZEVTextAttachments::Character,
+                              ZEVTextAttachments::formatWithAttachment(run.attachment));
+        else
+            insertText(cursor, QStringView(string).sliced(run.range.location, run.range.length));
+    }
+}
+
 QString OEXTokenTextStorage::singleLine(QString text)
 {
     text.replace("\r\n"_L1, " "_L1);
-    for (QChar &character : text) {
-        if (character == u'\n' || character == u'\r' || character == QChar::LineSeparator
-            || character == QChar::ParagraphSeparator)
-            character = u' ';
-    }
+    std::ranges::replace_if(text, endsLine, u' ');
     return text;
 }
 

@@ -10,8 +10,8 @@
 #include <QTextDocument>
 
 /// The text of a token field: one line of characters and attachments, all positions in UTF-16 units. It asks
-/// its delegate about every attachment that enters it, before the layout hears of the change. Line breaks
-/// become spaces.
+/// its delegate about every attachment that enters it, before the layout hears of the change. Line breaks in
+/// what is put into it are shown as marks and kept; one that an editor makes becomes a space.
 class ZEV_EXPORT OEXTokenTextStorage : public QTextDocument {
     Q_OBJECT
 
@@ -23,7 +23,8 @@ public:
     /// A plain pointer, as the delegate is no QObject: it takes itself away before it goes.
     void setDelegate(OEXTokenTextStorageDelegate *delegate) { m_delegate = delegate; }
 
-    QString string() const { return toRawText(); }
+    /// With the line breaks themselves.
+    QString string() const { return attributedString().string(); }
     qsizetype length() const { return characterCount() - 1; }
     ZEVAttributedString attributedString() const { return attributedSubstring({0, length()}); }
     ZEVAttributedString attributedSubstring(ZEVRange range) const;
@@ -44,6 +45,7 @@ public:
     static QString singleLine(QString text);
 
 private:
+    void insertRuns(QTextCursor &cursor, const ZEVAttributedString &text);
     void updateAttachments(ZEVRange range);
     void joinBlocks();
 

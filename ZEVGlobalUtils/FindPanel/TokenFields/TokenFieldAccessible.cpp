@@ -120,12 +120,13 @@ int TokenFieldAccessible::characterCount() const { return int(shownText().string
 QRect TokenFieldAccessible::characterRect(int offset) const
 {
     const ZEVRange character = shownText().storageRange(offset, offset + 1);
-    QTextCursor cursor(field()->document());
-    cursor.setPosition(int(qMin(character.location, field()->textStorage()->length())));
-    const QRect left = field()->cursorRect(cursor);
-    cursor.movePosition(QTextCursor::NextCharacter);
-    const QRect both = left.united(field()->cursorRect(cursor));
-    return {field()->viewport()->mapToGlobal(both.topLeft()), both.size()};
+    QRect place = field()->characterRect(character.location).toAlignedRect();
+    if (place.isEmpty()) { // behind the text
+        QTextCursor end(field()->document());
+        end.movePosition(QTextCursor::End);
+        place = field()->cursorRect(end);
+    }
+    return {field()->viewport()->mapToGlobal(place.topLeft()), place.size()};
 }
 
 int TokenFieldAccessible::offsetAtPoint(const QPoint &point) const

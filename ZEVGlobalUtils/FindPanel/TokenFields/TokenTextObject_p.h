@@ -5,15 +5,21 @@
 
 #include <QTextObjectInterface>
 
-/// Gives the attachments of a document their room in the line. They are drawn by the field, on top of what Qt
-/// lays over selected objects.
+class OEXTokenField;
+
+/// Gives a field's tokens their room in the line, and draws them. A token that undo has brought back may be of
+/// an earlier font and size, so each takes the field's whenever it is asked.
 class TokenTextObject : public QObject, public QTextObjectInterface {
     Q_OBJECT
     Q_INTERFACES(QTextObjectInterface)
 
 public:
-    using QObject::QObject;
+    explicit TokenTextObject(OEXTokenField *field);
 
     QSizeF intrinsicSize(QTextDocument *document, int position, const QTextFormat &format) override;
-    void drawObject(QPainter *, const QRectF &, QTextDocument *, int, const QTextFormat &) override { }
+    void drawObject(QPainter *painter, const QRectF &rect, QTextDocument *document, int position,
+                    const QTextFormat &format) override;
+
+private:
+    OEXTokenField *m_field;
 };
