@@ -15,6 +15,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPointer>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -143,9 +144,12 @@ void Chooser::accept()
 
 void Chooser::chooseOther()
 {
-    m_chosen = chooseExecutable();
-    if (m_chosen.isValid())
-        QDialog::accept();
+    const QPointer guard(this);
+    const QUrl chosen = chooseExecutable();
+    if (!guard || !chosen.isValid())
+        return;
+    m_chosen = chosen;
+    QDialog::accept();
 }
 
 bool Chooser::eventFilter(QObject *, QEvent *event)
@@ -162,6 +166,10 @@ bool Chooser::eventFilter(QObject *, QEvent *event)
 
 QUrl ZEVApplicationChooser::chooseApplication()
 {
-    Chooser chooser(QApplication::activeWindow());
-    return chooser.exec() == QDialog::Accepted ? chooser.chosen() : QUrl();
+    // Its parent may go while it is open, and takes it along.
+    const QPointer chooser(new Chooser(QApplication::activeWindow()));
+    const bool isAccepted = chooser->exec() == QDialog::Accepted;
+    const QUrl chosen = chooser && isAccepted ? chooser->chosen() : QUrl();
+    delete chooser;
+    return chosen;
 }

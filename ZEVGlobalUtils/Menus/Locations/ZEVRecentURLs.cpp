@@ -105,6 +105,12 @@ std::optional<ZEVRecentURLs::Unmounted> ZEVRecentURLs::unmounted(const QUrl &ref
     return Unmounted{values->localizedName, values->effectiveIconName};
 }
 
+QUrl ZEVRecentURLs::unmountedLike(const QUrl &reference) const
+{
+    const qsizetype known = indexOf(reference);
+    return reference.isValid() && known >= 0 && unmounted(m_urls.at(known)) ? m_urls.at(known) : QUrl();
+}
+
 bool ZEVRecentURLs::isThere(const QUrl &reference)
 {
     const QUrl url = ZEVFileReference::filePathURL(reference);

@@ -32,6 +32,8 @@ public:
         QString iconName;
     };
     std::optional<Unmounted> unmounted(const QUrl &reference) const;
+    /// The one of ours that is the same item as \a reference, if it is on such a drive; invalid otherwise.
+    QUrl unmountedLike(const QUrl &reference) const;
 
     static bool isThere(const QUrl &reference);
     static bool isSameItem(const QUrl &one, const QUrl &other);

@@ -3,6 +3,7 @@
 
 #include <ZEVGlobalUtils/Menus/Locations/ZEVURLPopUpButton.h>
 
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuBuilder.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItemBlockAdditions.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItemRemoveAllFollowing.h>
@@ -26,8 +27,6 @@ namespace {
 
 constexpr int LargestMaximum = 254;
 constexpr int WidestTitle = 24; ///< in average characters; longer names lose their middle
-
-QString recentsKey(const QString &autosaveName) { return autosaveName + u".recentURLs"_s; }
 
 ZEVUserDefaults &defaults() { return *ZEVUserDefaults::standardUserDefaults(); }
 
@@ -58,6 +57,8 @@ void ZEVURLPopUpButton::setUp()
     auto *items = new QMenu(this);
     items->setToolTipsVisible(true);
     setMenu(items);
+    // What has gone, or come with a drive, since the menu was built is seen when it opens.
+    ZEVMenuBuilder::setMenuBuilder(items, [this](QMenu *) { buildMenu(); });
     setAcceptDrops(true);
     setUpMenuItems();
 }
@@ -74,6 +75,11 @@ void ZEVURLPopUpButton::setUpMenuItems()
     m_lastUsedItem->setVisible(false);
     m_otherItem = makeItem(u"Choose…"_s, "browse");
     m_clearRecentsItem = makeItem(u"Clear Recents"_s, "clearRecents");
+}
+
+QString ZEVURLPopUpButton::recentURLsDefaultsKey() const
+{
+    return m_autosaveName ? *m_autosaveName + u".recentURLs"_s : QString();
 }
 
 const QList<QUrl> &ZEVURLPopUpButton::recentURLSet() const { return m_recents->urls(); }
@@ -106,13 +112,19 @@ void ZEVURLPopUpButton::loadDefaults()
 {
     if (!m_autosaveName)
         return;
-    m_recents->load(defaults().objectForKey(recentsKey(*m_autosaveName)), m_keepsUnmountedURLs);
-    QUrl selected = QUrl::fromEncoded(defaults().objectForKey(*m_autosaveName).toString().toLatin1());
-    if (!ZEVRecentURLs::isThere(selected)) {
-        defaults().removeObjectForKey(*m_autosaveName);
-        selected.clear();
-    }
-    setURL(selected);
+    m_recents->load(defaults().objectForKey(recentURLsDefaultsKey()), m_keepsUnmountedURLs);
+    const QUrl stored =
+        QUrl::fromEncoded(defaults().objectForKey(selectedURLDefaultsKey()).toString().toLatin1());
+    QUrl selected = ZEVRecentURLs::isThere(stored) ? ZEVFileReference::fileReferenceURL(stored) : QUrl();
+    if (!selected.isValid() && m_keepsUnmountedURLs)
+        selected = m_recents->unmountedLike(stored);
+    if (!selected.isValid())
+        defaults().removeObjectForKey(selectedURLDefaultsKey());
+    const QUrl former =
+        std::exchange(m_url, selected); // which is no use of it: the recents stay as they were
+    buildMenu();
+    if (m_url != former)
+        Q_EMIT URLDidChange(selected);
 }
 
 void ZEVURLPopUpButton::setURL(const QUrl &url)
@@ -120,12 +132,12 @@ void ZEVURLPopUpButton::setURL(const QUrl &url)
     const QUrl former = std::exchange(m_url, ZEVFileReference::fileReferenceURL(url));
     if (m_autosaveName)
         defaults().setObject(m_url.isValid() ? QString::fromLatin1(m_url.toEncoded()) : QVariant(),
-                             *m_autosaveName);
+                             selectedURLDefaultsKey());
     if (m_url.isValid())
         addRecentURL(m_url);
     buildMenu();
     if (m_url != former)
-        Q_EMIT URLDidChange(m_url);
+        Q_EMIT URLDidChange(QUrl(m_url));
 }
 
 void ZEVURLPopUpButton::addRecentURL(const QUrl &url)
@@ -142,22 +154,22 @@ void ZEVURLPopUpButton::addRecentURL(const QUrl &url)
 void ZEVURLPopUpButton::saveBookmarks()
 {
     if (m_autosaveName)
-        defaults().setObject(m_recents->stored(), recentsKey(*m_autosaveName));
+        defaults().setObject(m_recents->stored(), recentURLsDefaultsKey());
 }
 
 void ZEVURLPopUpButton::clearRecents()
 {
     m_recents->clear();
     if (m_autosaveName)
-        defaults().removeObjectForKey(recentsKey(*m_autosaveName));
+        defaults().removeObjectForKey(recentURLsDefaultsKey());
 }
 
 void ZEVURLPopUpButton::buildMenu()
 {
     m_selectedItem = nullptr;
     ZEVMenuItemRemoveAllFollowing::removeAllItems(menu());
-    ZEVMenuItem::setState(m_noneItem, ZEVMenuItem::Off);
-    ZEVMenuItem::setState(m_otherItem, ZEVMenuItem::Off);
+    unselectItem(m_noneItem);
+    unselectItem(m_otherItem);
     m_recents->removeMissing(m_keepsUnmountedURLs);
     for (const QUrl &url : m_staticMenuOrder ? orderedByName(m_recents->urls()) : m_recents->urls())
         addItem(url);
@@ -215,10 +227,17 @@ QAction *ZEVURLPopUpButton::itemForURL(const QUrl &url) const
 void ZEVURLPopUpButton::selectItem(QAction *item)
 {
     if (m_selectedItem)
-        ZEVMenuItem::setState(m_selectedItem, ZEVMenuItem::Off);
+        unselectItem(m_selectedItem);
     m_selectedItem = item;
     ZEVMenuItem::setState(item, ZEVMenuItem::On);
     showSelectedItem();
+}
+
+/// An item that could be checked would keep an empty box.
+void ZEVURLPopUpButton::unselectItem(QAction *item)
+{
+    ZEVMenuItem::setState(item, ZEVMenuItem::Off);
+    item->setCheckable(false);
 }
 
 /// What stands on the button.

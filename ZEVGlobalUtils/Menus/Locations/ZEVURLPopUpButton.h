@@ -37,13 +37,15 @@ public:
 
     /// The selected location as a file reference (see ZEVFileReference); invalid for none. Setting it makes
     /// it the first of the recents and tells no delegate. A location that is not there, or on another
-    /// machine, selects none.
+    /// machine, selects none. A receiver of the signal may delete the button.
     const QUrl &URL() const { return m_url; }
     void setURL(const QUrl &url);
 
     /// The selected URL is stored under this name in the user defaults, the recents under the name with
     /// ".recentURLs" appended. Nil stores nothing. Setting it loads what is stored.
     const std::optional<QString> &autosaveName() const { return m_autosaveName; }
+    QString selectedURLDefaultsKey() const { return m_autosaveName.value_or(QString()); }
+    QString recentURLsDefaultsKey() const; ///< both null without a name
     void setAutosaveName(const std::optional<QString> &name);
 
     /// Type identifiers or file-name extensions that the panel and drops accept; nil accepts all.
@@ -88,7 +90,7 @@ public:
     // Actions of the items.
     Q_INVOKABLE void selectURL(QAction *sender);
     Q_INVOKABLE void browse(QAction *sender = nullptr);
-    /// Kept: the menu shows them until it is built the next time.
+    /// Kept: the menu shows them until it is built the next time, which is when it opens.
     Q_INVOKABLE void clearRecents();
 
     Qt::DropAction draggingEntered(const QMimeData *mimeData) const;
@@ -107,6 +109,8 @@ private:
     void addItem(const QUrl &url);
     void showFolderOfNamesakes();
     void selectItem(QAction *item);
+    void unselectItem(QAction *item);
+    void selectByUser(const QUrl &url);
     void showSelectedItem();
 
     QUrl m_url;

@@ -5,6 +5,7 @@
 
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
 #include <ZEVGlobalUtils/Menus/Locations/ZEVUTTypeFromExtensionOrIdentifier.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileReference.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboard.h>
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVUniformType.h>
@@ -14,6 +15,7 @@
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QMimeDatabase>
+#include <QPointer>
 
 #include <algorithm>
 
@@ -44,8 +46,15 @@ std::optional<QString> contentType(const QUrl &url)
 
 void ZEVURLPopUpButton::selectURL(QAction *sender)
 {
-    setURL(sender ? ZEVMenuItem::representedObject(sender).toUrl() : QUrl());
-    notifyDelegateOfURLSelection();
+    selectByUser(sender ? ZEVMenuItem::representedObject(sender).toUrl() : QUrl());
+}
+
+void ZEVURLPopUpButton::selectByUser(const QUrl &url)
+{
+    const QPointer guard(this);
+    setURL(url);
+    if (guard)
+        notifyDelegateOfURLSelection();
 }
 
 void ZEVURLPopUpButton::notifyDelegateOfURLSelection()
@@ -72,8 +81,7 @@ void ZEVURLPopUpButton::browse(QAction *)
         selectItem(item ? item : m_noneItem);
         return;
     }
-    setURL(panel.URL);
-    notifyDelegateOfURLSelection();
+    selectByUser(panel.URL);
 }
 
 Qt::DropAction ZEVURLPopUpButton::draggingEntered(const QMimeData *mimeData) const
@@ -91,8 +99,12 @@ Qt::DropAction ZEVURLPopUpButton::draggingEntered(const QMimeData *mimeData) con
 
 bool ZEVURLPopUpButton::performDragOperation(const QMimeData *mimeData)
 {
-    setURL(ZEVPasteboard(mimeData).URL());
+    // A link into the web, say, is no choice of a location, and takes none away.
+    const QUrl dropped = ZEVFileReference::fileReferenceURL(ZEVPasteboard(mimeData).URL());
+    if (!dropped.isValid())
+        return false;
     QMetaObject::invokeMethod(this, &ZEVURLPopUpButton::notifyDelegateOfURLSelection, Qt::QueuedConnection);
+    setURL(dropped);
     return true;
 }
 
@@ -108,5 +120,5 @@ void ZEVURLPopUpButton::dragEnterEvent(QDragEnterEvent *event)
 void ZEVURLPopUpButton::dropEvent(QDropEvent *event)
 {
     event->setDropAction(Qt::CopyAction);
-    event->setAccepted(performDragOperation(event->mimeData()));
+    event->setAccepted(performDragOperation(event->mimeData())); // after which the button may be gone
 }

@@ -13,9 +13,7 @@ namespace {
 
 bool isIdentifier(const QString &string)
 {
-    return ZEVUniformType::isEqual(string, ZEVUniformType::Image)
-        || ZEVUniformType::isEqual(string, ZEVUniformType::Audio)
-        || ZEVUniformType::mimeTypes(string) != QStringList{string};
+    return ZEVUniformType::isKind(string) || ZEVUniformType::mimeTypes(string) != QStringList{string};
 }
 
 } // namespace

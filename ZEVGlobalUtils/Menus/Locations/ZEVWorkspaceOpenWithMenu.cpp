@@ -64,10 +64,17 @@ QList<QVariantMap> recordsWithoutDuplicates(const QList<QUrl> &applications)
     return records;
 }
 
+/// What stands behind the last dot is an extension when it has no blank: "Draw.io app" is a whole name.
+QString withoutExtension(const QString &title)
+{
+    const qsizetype dot = title.lastIndexOf(u'.');
+    return dot < 0 || title.indexOf(u' ', dot) >= 0 ? title : title.first(dot);
+}
+
 QString titleWithSuffix(QString title, const QString &suffix)
 {
-    if (title.endsWith(u"app") && title.contains(u'.'))
-        title.truncate(title.lastIndexOf(u'.'));
+    if (title.endsWith(u"app"))
+        title = withoutExtension(title);
     if (!suffix.isEmpty() && title.size() < LongName)
         title += u" (%1)"_s.arg(suffix);
     return title;

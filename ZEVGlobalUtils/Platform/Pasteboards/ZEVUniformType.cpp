@@ -5,6 +5,9 @@
 
 #include <QMimeDatabase>
 
+#include <algorithm>
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -31,6 +34,36 @@ const QList<Names> &table()
     return names;
 }
 
+/// What the MIME names of a kind begin with; empty where they may be any.
+struct Kind {
+    QStringView identifier;
+    QStringView prefix;
+};
+
+constexpr std::array Kinds = {
+    Kind{ZEVUniformType::Image, u"image/"}, Kind{ZEVUniformType::Audio, u"audio/"},
+    Kind{ZEVUniformType::Movie, u"video/"}, Kind{ZEVUniformType::Text, u"text/"},
+    Kind{ZEVUniformType::Data, u""},        Kind{ZEVUniformType::Content, u""},
+    Kind{ZEVUniformType::Item, u""},
+};
+
+const Kind *kindOf(QStringView identifier)
+{
+    const auto *const found = std::ranges::find_if(
+        Kinds, [&](const Kind &kind) { return ZEVUniformType::isEqual(kind.identifier, identifier); });
+    return found == Kinds.end() ? nullptr : found;
+}
+
+bool isOfKind(const QString &mimeType, const Kind &kind)
+{
+    if (ZEVUniformType::isEqual(kind.identifier, ZEVUniformType::Item))
+        return true;
+    if (ZEVUniformType::isEqual(kind.identifier, ZEVUniformType::Text)
+        && QMimeDatabase().mimeTypeForName(mimeType).inherits(u"text/plain"_s))
+        return true;
+    return kind.prefix.isEmpty() ? !mimeType.startsWith(u"inode/") : mimeType.startsWith(kind.prefix);
+}
+
 QString canonicalMimeType(const QString &name)
 {
     const QMimeType type = QMimeDatabase().mimeTypeForName(name);
@@ -48,13 +81,16 @@ bool ZEVUniformType::conformsTo(QStringView identifier, QStringView general)
 {
     if (isEqual(identifier, general))
         return true;
-    if (isEqual(general, Image))
-        return mimeTypes(identifier).first().startsWith(u"image/");
-    if (isEqual(general, Audio))
-        return mimeTypes(identifier).first().startsWith(u"audio/");
+    if (const Kind *kind = kindOf(general)) {
+        const Kind *own = kindOf(identifier);
+        return own ? kind->prefix.isEmpty() && !isEqual(identifier, Item)
+                   : isOfKind(mimeTypes(identifier).first(), *kind);
+    }
     const QMimeType type = QMimeDatabase().mimeTypeForName(mimeTypes(identifier).first());
     return type.isValid() && type.inherits(canonicalMimeType(mimeTypes(general).first()));
 }
+
+bool ZEVUniformType::isKind(QStringView identifier) { return kindOf(identifier); }
 
 QStringList ZEVUniformType::mimeTypes(QStringView identifier)
 {

@@ -24,13 +24,22 @@ inline constexpr QStringView URL = u"public.url";
 inline constexpr QStringView FileURL = u"public.file-url";
 inline constexpr QStringView Audio = u"public.audio";
 inline constexpr QStringView Folder = u"public.folder";
+inline constexpr QStringView Movie = u"public.movie";
+inline constexpr QStringView Text = u"public.text";
+inline constexpr QStringView Data = u"public.data"; ///< whatever is no folder, as Content
+inline constexpr QStringView Content = u"public.content";
+inline constexpr QStringView Item = u"public.item"; ///< folders, too
 
 /// Identifiers are compared without regard to case.
 ZEV_EXPORT bool isEqual(QStringView one, QStringView other);
 
 /// Whether data of \a identifier may stand where \a general is asked for: every type conforms to itself,
-/// every kind of picture to Image, every kind of sound to Audio.
+/// every kind of picture to Image, of sound to Audio, of film to Movie and of text to Text, and to what these
+/// conform to themselves.
 ZEV_EXPORT bool conformsTo(QStringView identifier, QStringView general);
+
+/// Whether \a identifier stands for a kind of data of many formats, and has no MIME name of its own.
+ZEV_EXPORT bool isKind(QStringView identifier);
 
 /// The names under which other programs offer the type, the usual one first.
 ZEV_EXPORT QStringList mimeTypes(QStringView identifier);

@@ -38,6 +38,11 @@ void addMessage(QFileDialog &dialog, const QString &message)
 
 QStringList patternsOfTypes(const QStringList &types)
 {
+    const auto isAny = [](const QString &allowed) {
+        return ZEVUniformType::conformsTo(u"application/octet-stream", allowed);
+    };
+    if (std::ranges::any_of(types, isAny)) // a file of whatever name
+        return {};
     QStringList patterns;
     for (const QMimeType &type : QMimeDatabase().allMimeTypes()) {
         const auto isAllowed = [&](const QString &allowed) {
