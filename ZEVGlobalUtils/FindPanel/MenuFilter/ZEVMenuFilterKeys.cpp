@@ -69,9 +69,10 @@ bool ZEVMenuFilterViewController::keyInField(QKeyEvent *event)
 /// the filter's.
 bool ZEVMenuFilterViewController::leaveField(QKeyEvent *event)
 {
-    const std::optional<bool> hasItems = m_delegate ? m_delegate->hasFilteredItems(this) : std::nullopt;
+    const QPointer guard(this);
     QMenu *holder = menu();
-    if (hasItems.value_or(false) && holder) {
+    const std::optional<bool> hasItems = m_delegate ? m_delegate->hasFilteredItems(this) : std::nullopt;
+    if (guard && hasItems.value_or(false) && holder) {
         holder->setActiveAction(m_filterMenuItem);
         MenuKeeper::keeperOfMenu(holder)->passKeyOn(event);
     }
@@ -97,7 +98,9 @@ bool ZEVMenuFilterViewController::clearByKey()
 {
     if (needle().isEmpty())
         return false;
+    const QPointer guard(this);
     clearFilterAndNotifyDelegate();
-    m_searchField->setFocus(Qt::OtherFocusReason);
+    if (guard)
+        m_searchField->setFocus(Qt::OtherFocusReason);
     return true;
 }

@@ -80,7 +80,14 @@ ZEVMenuFilterViewController::ZEVMenuFilterViewController(ZEVControlSize controlS
     makeMoreItem(controlSize);
 }
 
-ZEVMenuFilterViewController::~ZEVMenuFilterViewController() = default;
+/// A delegate may end the filter while its field still has a key, or its button a click, to end.
+ZEVMenuFilterViewController::~ZEVMenuFilterViewController()
+{
+    for (QWidgetAction *item : {m_filterMenuItem, m_moreMenuItem}) {
+        item->setParent(nullptr);
+        item->deleteLater();
+    }
+}
 
 void ZEVMenuFilterViewController::makeFilterItem()
 {
@@ -156,9 +163,11 @@ void ZEVMenuFilterViewController::clearFilterAndNotifyDelegate()
 
 void ZEVMenuFilterViewController::showMoreAction()
 {
-    if (!m_delegate || !m_delegate->showMoreItems(this))
+    const QPointer guard(this);
+    const bool showsMore = m_delegate && m_delegate->showMoreItems(this);
+    if (guard && !showsMore)
         clearFilterAndNotifyDelegate();
-    if (m_autofocus)
+    if (guard && m_autofocus)
         m_searchField->setFocus();
 }
 

@@ -69,7 +69,11 @@ ZEVPopover::ZEVPopover(QWidget *parent)
 
 void ZEVPopover::setContent(QWidget *content)
 {
-    delete std::exchange(m_content, content);
+    if (content == m_content)
+        return;
+    delete std::exchange(m_content, content).data();
+    if (!content)
+        return;
     ZEVViewEasyConstraints::addFittingSubview(this, content, ContentPadding);
     setFocusProxy(content);
 }

@@ -18,7 +18,7 @@ public:
 
     explicit ZEVPopover(QWidget *parent = nullptr);
 
-    /// What the popover shows; it goes with the popover.
+    /// What the popover shows; it goes with the popover, or when another one (null for none) takes its place.
     void setContent(QWidget *content);
 
     bool isShown() const { return isVisible(); }

@@ -6,6 +6,8 @@
 #include <ZEVGlobalUtils/Platform/Values/ZEVKeyValueCoding_p.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVVariantValues_p.h>
 
+#include <QAssociativeIterable>
+
 using namespace ZEVKeyValueCoding;
 
 void ZEVObjectKeyValue::setValue(QObject *object, const QVariant &value, const QStringList &keys)
@@ -32,9 +34,30 @@ void ZEVObjectKeyValue::setUndefinedValuesForKeysWithDictionary(QObject *object,
     }
 }
 
+namespace {
+
+/// Nil for what is no collection.
+std::optional<QVariantList> entries(const QVariant &collection)
+{
+    if (!collection.canConvert<QAssociativeIterable>())
+        return ZEVVariantValues::objects(collection);
+    QVariantList values;
+    const auto map = collection.value<QAssociativeIterable>();
+    for (auto entry = map.begin(); entry != map.end(); ++entry)
+        values.append(entry.value());
+    return values;
+}
+
+bool isNull(const QVariant &entry)
+{
+    return isNil(entry) || entry.isNull()
+        || (entry.typeId() == QMetaType::QString && entry.toString().isNull());
+}
+
+} // namespace
+
 bool ZEVObjectKeyValue::hasValueForKeyPath(const QObject *object, const QString &keyPath)
 {
-    const auto entries = ZEVVariantValues::objects(valueForKeyPath(object, keyPath));
-    return entries && !entries->isEmpty()
-        && (entries->size() > 1 || !ZEVVariantValues::isNil(entries->first()));
+    const auto values = entries(valueForKeyPath(object, keyPath));
+    return values && !values->isEmpty() && (values->size() > 1 || !isNull(values->first()));
 }

@@ -22,8 +22,9 @@ ZEV_EXPORT void setUndefinedValue(QObject *object, const QVariant &value, const 
 /// Only the keys that are nil. A null pointer among the values asks for setNilValueForKey.
 ZEV_EXPORT void setUndefinedValuesForKeysWithDictionary(QObject *object, const QVariantMap &values);
 
-/// Whether the key path yields a collection with a value in it: two entries count whatever they are, a single
-/// one unless it is a null pointer. False for what is no collection.
+/// Whether the key path yields a collection (a map's entries are its values) with a value in it: two entries
+/// count whatever they are, a single one unless it is null: a null pointer, object or string. False for what is
+/// no collection.
 ZEV_EXPORT bool hasValueForKeyPath(const QObject *object, const QString &keyPath);
 
 } // namespace ZEVObjectKeyValue

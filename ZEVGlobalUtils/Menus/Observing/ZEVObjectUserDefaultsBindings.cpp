@@ -6,13 +6,16 @@
 #include <ZEVGlobalUtils/Menus/Observing/ZEVUserDefaultsBinding_p.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVLog_p.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVUserDefaults.h>
+#include <ZEVGlobalUtils/Transforms/Formatters/ZEVValueTransformer.h>
+
+using ZEVObjectUserDefaultsBindings::BindingOptions;
 
 ZEVUserDefaultsBinding::ZEVUserDefaultsBinding(QObject *object, const QMetaProperty &property,
-                                               const QString &key, const QVariant &nullPlaceholder)
+                                               const QString &key, const BindingOptions &options)
     : QObject(object)
     , m_property(property)
     , m_key(key)
-    , m_nullPlaceholder(nullPlaceholder)
+    , m_options(options)
 {
     static const QMetaMethod slot = staticMetaObject.method(staticMetaObject.indexOfSlot("storeProperty()"));
     auto *defaults = ZEVUserDefaults::standardUserDefaults();
@@ -29,7 +32,10 @@ ZEVUserDefaultsBinding::ZEVUserDefaultsBinding(QObject *object, const QMetaPrope
 void ZEVUserDefaultsBinding::readStoredValue()
 {
     const QVariant stored = ZEVUserDefaults::standardUserDefaults()->objectForKey(m_key);
-    const QVariant value = stored.isValid() ? stored : m_nullPlaceholder;
+    const QVariant shown = m_options.valueTransformer && stored.isValid()
+        ? m_options.valueTransformer->transformedValue(stored)
+        : stored;
+    const QVariant value = shown.isValid() ? shown : m_options.nullPlaceholder;
     const QString key = m_key;
     if (value.isValid() && value != m_property.read(parent()) && !m_property.write(parent(), value))
         qCWarning(zevLog).noquote() << "The user defaults hold no fitting value for" << key;
@@ -37,9 +43,13 @@ void ZEVUserDefaultsBinding::readStoredValue()
 
 void ZEVUserDefaultsBinding::storeProperty()
 {
-    const QVariant value = m_property.read(parent());
-    ZEVUserDefaults::standardUserDefaults()->setObject(m_property.isEnumType() ? value.toInt() : value,
-                                                       m_key);
+    const QVariant read = m_property.read(parent());
+    const QVariant value = m_property.isEnumType() ? read.toInt() : read;
+    const ZEVValueTransformer *transformer = m_options.valueTransformer.get();
+    if (transformer && !transformer->allowsReverseTransformation())
+        return;
+    ZEVUserDefaults::standardUserDefaults()->setObject(
+        transformer ? transformer->reverseTransformedValue(value) : value, m_key);
 }
 
 bool ZEVObjectUserDefaultsBindings::bind(QObject *object, const QString &binding,
@@ -50,7 +60,7 @@ bool ZEVObjectUserDefaultsBindings::bind(QObject *object, const QString &binding
     if (index < 0)
         return false;
     auto *bound = new ZEVUserDefaultsBinding(object, object->metaObject()->property(index),
-                                             toUserDefaultsWithKey, options.nullPlaceholder);
+                                             toUserDefaultsWithKey, options);
     bound->setObjectName(binding);
     bound->readStoredValue();
     return true;

@@ -7,7 +7,10 @@
 
 #include <QVariant>
 
+#include <memory>
+
 class QObject;
+class ZEVValueTransformer;
 
 /// Keeps a property and a key of ZEVUserDefaults::standardUserDefaults() alike, both ways, for as long as the
 /// object lives.
@@ -15,6 +18,8 @@ namespace ZEVObjectUserDefaultsBindings {
 
 struct BindingOptions {
     QVariant nullPlaceholder; ///< what the property becomes where nothing is stored; without one it stays
+    /// Between the stored value and the property's; one that has no way back leaves the stored value alone.
+    std::shared_ptr<const ZEVValueTransformer> valueTransformer = {};
 };
 
 /// The property takes the stored value at once. A stored value that it does not take leaves it as it is. A

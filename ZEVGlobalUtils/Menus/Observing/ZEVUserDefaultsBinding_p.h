@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <ZEVGlobalUtils/Menus/Observing/ZEVObjectUserDefaultsBindings.h>
+
 #include <QMetaProperty>
 #include <QObject>
 
@@ -12,7 +14,7 @@ class ZEVUserDefaultsBinding : public QObject {
 
 public:
     ZEVUserDefaultsBinding(QObject *object, const QMetaProperty &property, const QString &key,
-                           const QVariant &nullPlaceholder);
+                           const ZEVObjectUserDefaultsBindings::BindingOptions &options);
 
     void readStoredValue();
 
@@ -22,5 +24,5 @@ private Q_SLOTS:
 private:
     QMetaProperty m_property;
     QString m_key;
-    QVariant m_nullPlaceholder;
+    ZEVObjectUserDefaultsBindings::BindingOptions m_options;
 };

@@ -45,6 +45,11 @@ Registry &registry()
 
 ZEVValueTransformer::~ZEVValueTransformer() = default;
 
+QVariant ZEVValueTransformer::reverseTransformedValue(const QVariant &value) const
+{
+    return transformedValue(value);
+}
+
 std::shared_ptr<const ZEVValueTransformer> ZEVValueTransformer::valueTransformerForName(const QString &name)
 {
     const QMutexLocker lock(&registry().mutex);

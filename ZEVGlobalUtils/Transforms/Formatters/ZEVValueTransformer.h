@@ -26,6 +26,9 @@ public:
     /// Nil where nothing is to be shown.
     virtual QVariant transformedValue(const QVariant &value) const = 0;
 
+    /// The way back, where it is allowed; by itself the same way again, as for a negation.
+    virtual QVariant reverseTransformedValue(const QVariant &value) const;
+
     /// The library's own are there under the names of their classes; null for a name that nobody has set. A
     /// pattern item's valueTransformerName is such a name. Any thread.
     static std::shared_ptr<const ZEVValueTransformer> valueTransformerForName(const QString &name);
