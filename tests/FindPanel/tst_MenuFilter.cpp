@@ -6,12 +6,14 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVStringFilterRegexValue.h>
 #include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVMenuFilterClient.h>
 #include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVMenuFilterViewController.h>
+#include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVMoreButtonCell.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItemScroller.h>
 
 #include <QAccessible>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPainter>
 #include <QScreen>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -89,8 +91,9 @@ class CountingDelegate : public ZEVMenuFilterDelegate {
 public:
     void filterDidChange(ZEVMenuFilterViewController *) override { ++changes; }
     bool showMoreItems(ZEVMenuFilterViewController *) override { return ++requests, showsMore; }
-    std::optional<bool> hasFilteredItems(ZEVMenuFilterViewController *) override { return false; }
+    std::optional<bool> hasFilteredItems(ZEVMenuFilterViewController *) override { return hasItems; }
 
+    std::optional<bool> hasItems = false;
     int changes = 0;
     int requests = 0;
     bool showsMore = false;
@@ -128,6 +131,8 @@ private Q_SLOTS:
             {u"old\u2028new york"_s, u"new york"_s, true},
             {u"new\nyork"_s, u"w\ny"_s, true},
             {u"Anything"_s, u"   "_s, true},
+            {u"ﬁsh"_s, u"i"_s, true},
+            {u"İstanbul"_s, u"i"_s, true},
         };
         for (const auto &[title, needle, passes] : rows) {
             const FilteredMenu filtered({title});
@@ -195,9 +200,15 @@ private Q_SLOTS:
         QCOMPARE(filtered.controller.regex(), ZEVStringFilterRegexValue::filterRegexValue(u"a b"_s));
         filtered.press(Qt::Key_Down); // into nothing
         QVERIFY(filtered.field->hasFocus() && filtered.menu.isVisible());
+        delegate.hasItems = std::nullopt;
+        filtered.press(Qt::Key_Down); // the menu's own
+        QCOMPARE(filtered.active(), u"a"_s);
+        filtered.field->setFocus();
         filtered.controller.clearFilter();
         QVERIFY(delegate.changes == 3 && filtered.controller.hasNeedle());
         auto *more = filtered.controller.moreMenuItem()->defaultWidget()->findChild<QToolButton *>();
+        filtered.controller.moreMenuItem()->setVisible(false);
+        filtered.controller.moreMenuItem()->setVisible(true);
         more->click();
         QVERIFY(delegate.changes == 4 && filtered.controller.filterCleared());
         delegate.showsMore = true;
@@ -259,6 +270,48 @@ private Q_SLOTS:
         QApplication::sendEvent(&filtered.menu, &wheel);
         QVERIFY(filtered.shown().section(u'|', 0, 0) != first);
         QCOMPARE(filtered.menu.actions().size(), inView + 1);
+    }
+
+    void whoRefillsAMenuHasIt()
+    {
+        FilteredMenu filtered(numbered(300));
+        QVERIFY(filtered.open());
+        filtered.controller.filterMenuItem()->setVisible(false);
+        for (QAction *item : filtered.menu.actions().sliced(1))
+            filtered.menu.removeAction(item);
+        filtered.menu.addAction(u"Other"_s);
+        for (const Qt::Key key : {Qt::Key_PageDown, Qt::Key_End, Qt::Key_Up, Qt::Key_Down})
+            QTest::keyClick(&filtered.menu, key);
+        QCOMPARE(filtered.shown(), u"Other"_s);
+        QVERIFY(filtered.menu.findChild<QScrollBar *>()->isHidden());
+    }
+
+    void theFieldAndItsButtonLook()
+    {
+        FilteredMenu filtered({u"a"_s});
+        filtered.menu.addAction(filtered.controller.moreMenuItem());
+        QVERIFY(filtered.open());
+        filtered.field->setCursorPosition(0);
+        const auto frame = [&] { return filtered.field->grab({0, 0, 3, 23}).toImage(); };
+        const QImage focused = frame();
+        filtered.menu.setFocus();
+        QVERIFY(focused == frame() && !filtered.field->hasFocus());
+        QVERIFY(filtered.field->fontInfo().pixelSize() < QFontInfo(QGuiApplication::font()).pixelSize());
+        // The plus is as wide as it is high.
+        auto *more = filtered.controller.moreMenuItem()->defaultWidget()->findChild<QToolButton *>();
+        QImage image(104, 25, QImage::Format_ARGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        static_cast<ZEVMoreButtonCell *>(more)->drawWithFrame(&painter, image.rect(), false);
+        QRect plus;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (image.pixelColor(x, y).lightness() < 128)
+                    plus |= QRect(x, y, 1, 1);
+            }
+        }
+        QVERIFY2(plus.width() > 8 && plus.width() - plus.height() <= 2,
+                 qPrintable(QString::number(plus.width())));
     }
 
     void openMenusResizeInOneStep()

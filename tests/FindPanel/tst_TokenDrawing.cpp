@@ -172,6 +172,12 @@ private Q_SLOTS:
         field.field.setBezeled(false);
         QCOMPARE(cell->drawingRectForBounds(bounds), QRectF(28, 20, 158, 30));
 
+        const auto textLeft = [&] { return field.field.viewport()->geometry().left(); };
+        const int narrow = textLeft();
+        cell->setButtonWidth(30); // of a field that is laid out
+        QCOMPARE(textLeft(), narrow + 12);
+        cell->setButtonWidth(18);
+
         field.window.resize(300, 100);
         QCoreApplication::processEvents();
         QCOMPARE(right->geometry().right(), field.field.width() - 3);

@@ -152,6 +152,151 @@ private Q_SLOTS:
         QCOMPARE(field.shownValue(), u"ab<Title>xc"_s);
     }
 
+    void undoesOnlyWhatTheUserDid()
+    {
+        ZEVUserDefaults::standardUserDefaults()->setObject(u"%Title% b"_s, u"Find"_s);
+        Field field;
+        field.field.setAutosaveName(u"Find"_s);
+        field.press(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(field.shownValue(), u"<Title> b"_s);
+        field.field.setObjectValue(pattern(u"c"_s));
+        field.type(u"d"_s);
+        field.press(Qt::Key_Z, Qt::ControlModifier);
+        field.press(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(field.shownValue(), u"c"_s);
+        field.field.setObjectValue(pattern(u"e"_s), ZEVValueStep::User);
+        field.field.clear();
+        field.press(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(field.shownValue(), u"e"_s);
+        field.press(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(field.shownValue(), u"c"_s);
+    }
+
+    void staysAsItIsWhenReadOnly()
+    {
+        Field field;
+        field.field.setPatterns({u"a"_s, u"b"_s});
+        field.field.setPatternStringValue(u"b"_s);
+        field.field.menuNeedsUpdate(field.field.dropDownMenu());
+        const QList<QAction *> items = field.field.dropDownMenu()->actions();
+        field.field.setReadOnly(true);
+        for (QAction *item : items)
+            item->trigger();
+        field.field.clear();
+        field.field.removePattern();
+        field.field.insertToken(QVariant::fromValue(item(u"Title"_s)));
+        field.field.undo();
+        QCOMPARE(field.shownValue(), u"b"_s);
+        field.field.menuNeedsUpdate(field.field.dropDownMenu());
+        QCOMPARE(titles(*field.field.dropDownMenu()).first(), u"Insert Pattern!"_s);
+        QVERIFY(titles(*field.field.dropDownMenu()).contains(u"a!"_s));
+    }
+
+    void keepsLineBreaks()
+    {
+        Field field;
+        field.field.setObjectValue(pattern(u"a\nb\r\n<Title>\n"_s));
+        QCOMPARE(field.field.document()->blockCount(), 1);
+        field.press(Qt::Key_Home);
+        field.type(u"x"_s);
+        field.press(Qt::Key_End);
+        field.type(u"y"_s);
+        QCOMPARE(field.shownValue(), u"xa\nb\r\n<Title>\ny"_s);
+        field.field.selectAll();
+        field.press(Qt::Key_X, Qt::ControlModifier);
+        field.press(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(field.shownValue(), u"xa\nb\r\n<Title>\ny"_s);
+    }
+
+    void tellsOfWhatOnlySeemsEqual()
+    {
+        Field field;
+        const QSignalSpy changes(&field.field, &OEXTokenField::objectValueChanged);
+        ZEVPatternItem one = item(u"Title"_s);
+        int told = 0;
+        const auto set = [&] { field.field.setObjectValue({QVariant::fromValue(one)}); };
+        const std::function<void()> steps[] = {
+            [] {}, [&] { one.setEditingString(u"other"_s); }, [&] { one.setValueTransformerName(u"T"_s); },
+            [&] { one.setTokenTitle(u"Title"_s), one.setTitle(u"Long title"_s); }};
+        for (const auto &step : steps) {
+            step();
+            set();
+            set();
+            QCOMPARE(changes.size(), ++told);
+            const auto held = field.field.objectValue().first().value<ZEVPatternItem>();
+            QVERIFY(held.editingString() == one.editingString() && held.title() == one.title()
+                    && held.valueTransformerName() == one.valueTransformerName());
+        }
+        field.field.setObjectValue(field.field.objectValue());
+        QCOMPARE(changes.size(), told);
+        QStringList values;
+        connect(&field.field, &OEXTokenField::objectValueChanged, this,
+                [&] { values << field.shownValue(); });
+        QInputMethodEvent committing;
+        committing.setCommitString(u"a\nb"_s);
+        QCoreApplication::sendEvent(&field.field, &committing);
+        QCOMPARE(values, QStringList(u"<Long title>a b"_s));
+    }
+
+    void selectsOnTheFirstFocus()
+    {
+        for (const bool selects : {true, false}) {
+            QWidget window, other;
+            ZEVTokenField field(&window);
+            field.setSelectsTextWhenFocused(selects);
+            field.setPatternStringValue(u"abc"_s);
+            window.show();
+            window.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&window) && field.hasFocus());
+            QCOMPARE(field.selectedRange(), (selects ? ZEVRange{0, 3} : ZEVRange{3, 0}));
+            field.setSelectedRange({1, 0});
+            other.show();
+            other.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&other));
+            window.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&window));
+            QCOMPARE(field.selectedRange(), (ZEVRange{1, 0})); // it comes back
+        }
+    }
+
+    void opensMenusAtItsBeginning()
+    {
+        Field field;
+        field.window.move(300, 50);
+        QMenu tokens;
+        tokens.addAction(u"Token"_s);
+        field.field.setMenu(&tokens);
+        for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            QGuiApplication::setLayoutDirection(direction);
+            const auto distance = [&](void (ZEVTokenField::*open)(), const QMenu *menu, int place) {
+                (field.field.*open)();
+                const bool isLeft = direction == Qt::LeftToRight;
+                const int end = isLeft ? menu->geometry().left() : menu->geometry().right();
+                const int asked = field.field.mapToGlobal(QPoint(place, 0)).x();
+                const_cast<QMenu *>(menu)->close();
+                return qAbs(end - asked);
+            };
+            const int begin = direction == Qt::LeftToRight ? 0 : field.field.width();
+            QVERIFY(distance(&ZEVTokenField::popUpRecentsMenu, field.field.dropDownMenu(), begin) <= 1);
+            QVERIFY(distance(&ZEVTokenField::moveDown, field.field.patternsMenu(), begin) <= 1);
+            const QPoint caret =
+                field.field.viewport()->mapTo(&field.field, field.field.cursorRect().topLeft());
+            QVERIFY(distance(&ZEVTokenField::popUpMenu, &tokens, caret.x()) <= 1);
+        }
+        QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    }
+
+    void savesBlanks()
+    {
+        Field field;
+        field.field.setPatternStringValue(u"  "_s);
+        field.field.savePattern();
+        QCOMPARE(field.field.patterns(), QStringList(u"  "_s));
+        field.field.menuNeedsUpdate(field.field.patternsMenu());
+        QCOMPARE(titles(*field.field.patternsMenu()),
+                 QStringList({u"␣␣*"_s, u"-"_s, u"Remove From Saved"_s}));
+    }
+
     void selectsTheTokenThatIsClicked()
     {
         Field field;
@@ -161,8 +306,15 @@ private Q_SLOTS:
         field.field.selectAll();
         QTest::mouseClick(field.field.viewport(), Qt::LeftButton, {}, field.centreOf(5));
         QCOMPARE(field.field.selectedRange(), (ZEVRange{5, 1}));
+        if (QGuiApplication::clipboard()->supportsSelection())
+            QCOMPARE(QGuiApplication::clipboard()->text(QClipboard::Selection), u"Artist"_s);
         QTest::mouseClick(field.field.viewport(), Qt::LeftButton, {}, field.centreOf(3));
         QCOMPARE(field.field.selectedRange().length, 0);
+        for (const auto &[index, range] :
+             {std::pair(0, ZEVRange{0, 2}), {4, {3, 2}}, {2, {2, 1}}}) { // a word ends where a token is
+            QTest::mouseDClick(field.field.viewport(), Qt::LeftButton, {}, field.centreOf(index));
+            QCOMPARE(field.field.selectedRange(), range);
+        }
     }
 
     void makesTokensOfTypedEditingStrings_data()

@@ -8,6 +8,7 @@
 #include <ZEVGlobalUtils/Menus/Observing/ZEVObjectUserDefaultsBindings.h>
 #include <ZEVGlobalUtils/Menus/Observing/ZEVResponder.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVUserDefaults.h>
+#include <ZEVGlobalUtils/Transforms/Formatters/ZEVValueTransformer.h>
 
 #include <QSettings>
 #include <QTemporaryDir>
@@ -186,9 +187,17 @@ private Q_SLOTS:
         const QVariant null = QVariant::fromValue(nullptr);
         const QVariantMap named{{u"t"_s, u"x"_s}};
         const std::tuple<QString, QVariantList, bool> rows[] = {
-            {u"list"_s, {}, false},          {u"list"_s, {null}, false},     {u"list"_s, {u"a"_s}, true},
-            {u"list"_s, {null, null}, true}, {u"list.t"_s, {named}, true},   {u"list.u"_s, {named}, false},
-            {u"title"_s, {u"a"_s}, false},   {u"none.t"_s, {u"a"_s}, false},
+            {u"list"_s, {}, false},
+            {u"list"_s, {null}, false},
+            {u"list"_s, {u"a"_s}, true},
+            {u"list"_s, {null, null}, true},
+            {u"list.t"_s, {named}, true},
+            {u"list.u"_s, {named}, false},
+            {u"list"_s, {QString()}, false},
+            {u"list"_s, {u""_s}, true},
+            {u"list"_s, {QVariant::fromValue<QObject *>(nullptr)}, false},
+            {u"title"_s, {u"a"_s}, false},
+            {u"none.t"_s, {u"a"_s}, false},
         };
         for (const auto &[path, list, hasValue] : rows) {
             Node node(u"text"_s);
@@ -221,6 +230,25 @@ private Q_SLOTS:
         unbind(&two, u"size"_s);
         two.setProperty("size", 8);
         QCOMPARE(one.m_size, 6);
+        struct Half : ZEVValueTransformer {
+            QMetaType transformedValueClass() const override { return QMetaType::fromType<int>(); }
+            bool allowsReverseTransformation() const override { return isReversible; }
+            QVariant transformedValue(const QVariant &value) const override { return value.toInt() / 2; }
+            QVariant reverseTransformedValue(const QVariant &value) const override
+            {
+                return value.toInt() * 2;
+            }
+            bool isReversible = true;
+        };
+        const auto half = std::make_shared<Half>();
+        QVERIFY(bind(&two, u"size"_s, u"size"_s, {.valueTransformer = half}));
+        QCOMPARE(two.m_size, 3);
+        two.setProperty("size", 5);
+        QCOMPARE(one.m_size, 10);
+        half->isReversible = false;
+        two.setProperty("size", 6);
+        QCOMPARE(one.m_size, 10);
+        unbind(&two, u"size"_s);
         auto *fragile = new Node;
         bind(fragile, u"size"_s, u"size"_s);
         connect(fragile, &Node::sizeChanged, [fragile] { delete fragile; });

@@ -111,6 +111,7 @@ private Q_SLOTS:
         writeEntry(u"own"_s, "Our Own Editor");
         writeEntry(u"old"_s, "ärger.app");
         writeEntry(u"snapp"_s, "Snapp");
+        writeEntry(u"draw"_s, "Draw.io app");
         writeEntry(u"fifteen"_s, "Fifteen letters", "X-AppImage-Version=1\n");
         writeEntry(u"fourteen"_s, "Fourteen lette", "X-AppImage-Version=1\n");
         writeEntry(u"gone"_s, "Gone", "Exec=zev-no-such-program %F\n");
@@ -119,7 +120,7 @@ private Q_SLOTS:
             u"mimeinfo.cache"_s,
             "[MIME Cache]\nimage/png=own.desktop\naudio/ogg=own.desktop;player.desktop\n"
             "audio/flac=p9.desktop;own.desktop;old.desktop;player.desktop;p10.desktop;p9-again.desktop;"
-            "glued.desktop;snapp.desktop;fifteen.desktop;fourteen.desktop;gone.desktop\n");
+            "glued.desktop;snapp.desktop;draw.desktop;fifteen.desktop;fourteen.desktop;gone.desktop\n");
         data.write(u"mimeapps.list"_s,
                    "[Default Applications]\naudio/flac=player.desktop\nimage/png=own.desktop\n"
                    "audio/ogg=player.desktop\n");
@@ -130,10 +131,10 @@ private Q_SLOTS:
 
     void applicationsAreListed()
     {
-        QCOMPARE(
-            menuFor({track("a.flac"), track("b.png")}),
-            u"Player (Default)|-|ärger|Fifteen letters|Fourteen lette (1)|Snapp|Tagger (10.2)|Tagger (9.8)|"
-            u"-|Choose…"_s);
+        QCOMPARE(menuFor({track("a.flac"), track("b.png")}),
+                 u"Player (Default)|-|ärger|Draw.io app|Fifteen letters|Fourteen lette (1)|Snapp|Tagger "
+                 u"(10.2)|Tagger (9.8)|"
+                 u"-|Choose…"_s);
         QCOMPARE(menuFor({track("b.png"), track("a.flac")}), u"Choose…"_s); // only we open it
         QCOMPARE(menuFor({track("c.ogg")}), u"Player (Default)|-|Choose…"_s);
         QCOMPARE(menuFor({track("d.zev-no-type")}), u"Choose…"_s);
@@ -217,6 +218,15 @@ private Q_SLOTS:
         QTRY_VERIFY(calls().contains("a.flac"));
         init();
         choose([](QDialog *chooser) { chooser->reject(); });
+        auto *parent = new QWidget;
+        parent->show();
+        parent->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(parent));
+        choose([=](QDialog *chooser) {
+            QCOMPARE(chooser->parentWidget(), parent);
+            delete parent;
+        });
+        QVERIFY(calls().isEmpty());
         ZEVOpenPanel::setRunner([](ZEVOpenPanel &panel) {
             panel.URL = QUrl::fromLocalFile(data.folder.filePath(u"zev-stub"_s));
             return panel.onlyExecutables && panel.canChooseFiles ? 1 : 0;

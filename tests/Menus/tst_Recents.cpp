@@ -110,6 +110,7 @@ private Q_SLOTS:
         button.addRecentURL(made(u"Last"_s));
         QCOMPARE(shown(button), u"(zoo)|Last|Ärger|Track 9|track 10|-|None|Choose…"_s);
         QCOMPARE(button.text(), u"zoo"_s);
+        QVERIFY(!button.noneItem()->isCheckable()); // or it had an empty box
         button.setStaticMenuOrder(true);
         button.buildMenu();
         QCOMPARE(shown(button), u"Ärger|Last|Track 9|track 10|(zoo)|-|None|Choose…"_s);
@@ -119,6 +120,9 @@ private Q_SLOTS:
                  u"(Last —\u00A0b)|Last —\u00A0%1"_s.arg(QDir(m_folder->path()).dirName()));
         QVERIFY(!shown(button).contains(u"10") && button.recentURLSet().size() == 5);
         QFile::remove(m_folder->filePath(u"zoo"_s));
+        button.menu()->popup({});
+        QVERIFY(!shown(button).contains(u"zoo"));
+        button.menu()->close();
         button.setURL(QUrl(u"http://example.com/x"_s));
         QVERIFY(!shown(button).contains(u"zoo") && shown(button).contains(u"(None)")
                 && !button.URL().isValid());
@@ -148,6 +152,12 @@ private Q_SLOTS:
         for (const char *name : {"gone", "a", "b", "c"})
             button->setURL(made(QString::fromLatin1(name)));
         button->setURL(made(u"b"_s));
+        QVERIFY(stored(button->selectedURLDefaultsKey()).isValid()
+                && stored(button->recentURLsDefaultsKey()).isValid());
+        button->addRecentURL(made(u"c"_s)); // which is not the selected one
+        button = saving();
+        QCOMPARE(QFileInfo(button->recentURLSet().first().path()).fileName(), u"c"_s);
+        button->addRecentURL(made(u"b"_s));
         QFile::rename(m_folder->filePath(u"b"_s), m_folder->filePath(u"renamed & b"_s));
         QFile::remove(m_folder->filePath(u"gone"_s));
         // A program that saves puts another file in the old one's place.
@@ -161,6 +171,9 @@ private Q_SLOTS:
         QCOMPARE(button->text(), u"renamed && b"_s);
         button->clearRecents();
         QVERIFY(!stored(RecentsName).isValid() && shown(*button).contains(u"a|c"));
+        button = saving(); // what was cleared stays so
+        QVERIFY(button->recentURLSet().isEmpty() && button->URL().isValid());
+        QVERIFY(!stored(RecentsName).isValid());
         QFile::remove(m_folder->filePath(u"renamed & b"_s));
         button = saving();
         QCOMPARE(shown(*button), u"(None)|Choose…"_s);
@@ -210,6 +223,11 @@ private Q_SLOTS:
             button.setKeepsUnmountedURLs(keeps);
             button.setAutosaveName(Name);
             COMPARE_ROW(volume, shown(button), titles);
+            ZEVUserDefaults::standardUserDefaults()->setObject(u"file:///nowhere/x#id=1.2.3"_s, Name);
+            button.loadDefaults();
+            QCOMPARE(button.URL().isValid(), !button.recentURLSet().isEmpty());
+            ZEVUserDefaults::standardUserDefaults()->removeObjectForKey(Name);
+            button.loadDefaults();
             QCOMPARE(button.menu()->actions().first()->isEnabled(), button.recentURLSet().isEmpty());
             button.saveBookmarks();
             const auto stored = ZEVUserDefaults::standardUserDefaults()->objectForKey(RecentsName).toList();
@@ -263,6 +281,13 @@ private Q_SLOTS:
             {made(u"a.png"_s), QStringList{u"mp3"_s, u"public.image"_s}, Qt::CopyAction},
             {made(u"a.png"_s), QStringList{u"mp3"_s}, Qt::IgnoreAction},
             {QUrl::fromLocalFile(m_folder->path()), QStringList{u"public.folder"_s}, Qt::CopyAction},
+            {QUrl::fromLocalFile(m_folder->path()), QStringList{u"public.item"_s}, Qt::CopyAction},
+            {QUrl::fromLocalFile(m_folder->path()), QStringList{u"public.data"_s}, Qt::IgnoreAction},
+            {made(u"a.png"_s), QStringList{u"public.data"_s}, Qt::CopyAction},
+            {made(u"a.png"_s), QStringList{u"public.content"_s}, Qt::CopyAction},
+            {made(u"a.png"_s), QStringList{u"public.text"_s}, Qt::IgnoreAction},
+            {made(u"a.json"_s), QStringList{u"public.text"_s}, Qt::CopyAction},
+            {made(u"a.mp4"_s), QStringList{u"public.movie"_s}, Qt::CopyAction},
             {QUrl::fromLocalFile(u"/no/a.png"_s), QStringList{u"png"_s}, Qt::IgnoreAction},
         };
         for (const auto &[url, types, action] : rows) {
@@ -284,6 +309,8 @@ private Q_SLOTS:
         }
         QVERIFY(button.text() == u"a.png" && delegate.told.isEmpty());
         QTRY_COMPARE(delegate.told, QStringList(u"a.png"_s));
+        data.setUrls({remote});
+        QVERIFY(!button.performDragOperation(&data) && button.text() == u"a.png");
     }
 };
 

@@ -94,6 +94,8 @@ private Q_SLOTS:
         button.setGeometry(300, 300, 100, 40);
         ZEVPopover popover;
         auto *field = new QLineEdit;
+        popover.setContent(new QLabel);
+        popover.setContent(field); // which takes the other's place
         popover.setContent(field);
         connect(&button, &QPushButton::clicked, &popover,
                 [&] { ZEVPopoverShowInSender::showPopoverInSenderAtTop(&popover, &button); });

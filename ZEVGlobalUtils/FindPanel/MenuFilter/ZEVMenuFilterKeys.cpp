@@ -84,8 +84,11 @@ bool ZEVMenuFilterViewController::keyInMenu(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape)
         return clearByKey();
-    if (m_searchField->hasFocus())
+    if (m_searchField->hasFocus()) {
+        if (event->key() == Qt::Key_Down)
+            menu()->setActiveAction(m_filterMenuItem); // the menu moves on from here
         return isReturn(event->key()); // not the item that happens to be under the pointer
+    }
     if (!isTyping(*event))
         return false;
     m_searchField->setFocus(Qt::OtherFocusReason);

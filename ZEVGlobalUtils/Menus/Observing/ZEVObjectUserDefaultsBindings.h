@@ -17,7 +17,8 @@ class ZEVValueTransformer;
 namespace ZEVObjectUserDefaultsBindings {
 
 struct BindingOptions {
-    QVariant nullPlaceholder; ///< what the property becomes where nothing is stored; without one it stays
+    QVariant nullPlaceholder =
+        {}; ///< what the property becomes where nothing is stored; without one it stays
     /// Between the stored value and the property's; one that has no way back leaves the stored value alone.
     std::shared_ptr<const ZEVValueTransformer> valueTransformer = {};
 };
