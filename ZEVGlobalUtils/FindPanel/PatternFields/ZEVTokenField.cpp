@@ -95,8 +95,9 @@ void ZEVTokenField::loadDefaults()
         return;
     const ZEVUserDefaults *defaults = ZEVUserDefaults::standardUserDefaults();
     const QVariant lastUsed = defaults->objectForKey(lastUsedPatternDefaultsKey());
-    setPatternStringValue(lastUsed.typeId() == QMetaType::QString ? lastUsed.toString() : QString());
     setPatterns(storedStrings(defaults->objectForKey(patternsDefaultsKey())));
+    // Last, for it is told of.
+    setPatternStringValue(lastUsed.typeId() == QMetaType::QString ? lastUsed.toString() : QString());
 }
 
 void ZEVTokenField::saveDefaults()

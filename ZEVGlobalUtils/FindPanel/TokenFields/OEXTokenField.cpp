@@ -32,6 +32,21 @@ constexpr int SmallestTextHeight = 14;
 constexpr int ShownCharacters = 17;
 constexpr int FewestCharacters = 4;
 
+/// The events with which a user edits. Others come in the middle of these.
+bool edits(const QEvent &event)
+{
+    switch (event.type()) {
+    case QEvent::KeyPress:
+    case QEvent::InputMethod:
+    case QEvent::MouseButtonPress: // some desktops paste with a press, some with a release
+    case QEvent::MouseButtonRelease:
+    case QEvent::Drop:
+        return true;
+    default:
+        return false;
+    }
+}
+
 } // namespace
 
 ZEVSelectedRanges::~ZEVSelectedRanges() = default;
@@ -247,7 +262,7 @@ bool OEXTokenField::event(QEvent *event)
         layOutEditor();
     const QPointer guard(this);
     const bool isDone = QTextEdit::event(event);
-    if (guard && m_report.isActive())
+    if (guard && edits(*event) && m_report.isActive())
         reportValue();
     return isDone;
 }
@@ -257,7 +272,7 @@ bool OEXTokenField::viewportEvent(QEvent *event)
 {
     const QPointer guard(this);
     const bool isDone = QTextEdit::viewportEvent(event);
-    if (guard && m_report.isActive())
+    if (guard && edits(*event) && m_report.isActive())
         reportValue();
     return isDone;
 }
