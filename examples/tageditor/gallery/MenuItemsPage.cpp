@@ -5,14 +5,20 @@
 
 #include <ZEVGlobalUtils/FindEngine/ZEVArrayPatternDisplaySupport.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVPatternItem.h>
+#include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVMenuFilterViewController.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItemBlockAdditions.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItemHeadings.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItemRemoveAllFollowing.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuItemScroller.h>
+#include <ZEVGlobalUtils/Menus/Locations/ZEVURLPopUpButton.h>
+#include <ZEVGlobalUtils/Menus/Locations/ZEVWorkspaceOpenWithMenu.h>
 
+#include <QDir>
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QStyle>
+#include <QWidgetAction>
 
 using namespace Qt::StringLiterals;
 using namespace ZEVMenuItemBlockAdditions;
@@ -81,14 +87,65 @@ QMenu *patternMenu(QWidget *parent)
     return menu;
 }
 
+/// A filter with its more button, above some of very many items.
+QMenu *filteredMenu(QWidget *parent)
+{
+    QMenu *menu = openMenu(parent);
+    auto *filter = new ZEVMenuFilterViewController(ZEVControlSize::Small, menu);
+    menu->addActions({filter->filterMenuItem(), filter->moreMenuItem()});
+    QList<QAction *> items;
+    for (int number = 1; number <= 200; ++number)
+        items << itemWithTitle(u"Genre %1"_s.arg(number), menu);
+    ZEVMenuItemScroller::scrollerOfMenu(menu)->setItemsAfter(filter->moreMenuItem(), items.first(12));
+    return menu;
+}
+
+/// With a folder that is there, one of the same name, and the selected one.
+ZEVURLPopUpButton *locations(QWidget *parent)
+{
+    auto *button = new ZEVURLPopUpButton(parent);
+    for (const QString &path : {QDir::tempPath(), u"/usr/share"_s, u"/usr/lib"_s})
+        button->setURL(QUrl::fromLocalFile(path));
+    return button;
+}
+
+/// The menu of \a button as it opens, and the button.
+QWidget *withOpenMenu(ZEVURLPopUpButton *button)
+{
+    auto *column = new QWidget(button->parentWidget());
+    auto *rows = new QVBoxLayout(column);
+    rows->addWidget(button);
+    QMenu *menu = button->menu();
+    menu->setWindowFlags(Qt::Widget);
+    menu->setParent(column);
+    rows->addWidget(menu);
+    return column;
+}
+
+/// The applications of this desktop for a track.
+QMenu *openWithMenu(QWidget *parent)
+{
+    QMenu *menu = openMenu(parent);
+    ZEVWorkspaceOpenWithMenu::setupMenu(menu, {QUrl::fromLocalFile(u"/track.flac"_s)});
+    return menu;
+}
+
 } // namespace
 
 QWidget *menuItemsPage(QWidget *parent)
 {
     auto *page = new QWidget(parent);
-    auto *columns = new QHBoxLayout(page);
-    for (QMenu *menu : {mixedMenu(page), patternMenu(page)})
-        columns->addWidget(menu, 0, Qt::AlignTop);
-    columns->addStretch();
+    auto *rows = new QVBoxLayout(page);
+    auto *menus = new QHBoxLayout;
+    for (QMenu *menu : {mixedMenu(page), patternMenu(page), filteredMenu(page)})
+        menus->addWidget(menu, 0, Qt::AlignTop);
+    menus->addStretch();
+    auto *popUps = new QHBoxLayout;
+    popUps->addWidget(withOpenMenu(locations(page)), 0, Qt::AlignTop);
+    popUps->addWidget(openWithMenu(page), 0, Qt::AlignTop);
+    popUps->addStretch();
+    rows->addLayout(menus);
+    rows->addLayout(popUps);
+    rows->addStretch();
     return page;
 }

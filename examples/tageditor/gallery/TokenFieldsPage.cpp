@@ -138,6 +138,7 @@ QWidget *tokenFieldsPage(QWidget *parent)
     auto *page = new QWidget(parent);
     auto *tokens = new ZEVPatternTokens(TagTokens::findTokens(), page);
     const QString tall = u"Ünï 漢字 🎵 %(\\w+)%"_s;
+    const QString mixed = u"Track %(\\d+)% שלום %(\\w+)% עולם, of %(\\s+)% and ערב %(\\t)%"_s;
     auto *rows = new QFormLayout(page);
     rows->addRow(u"Line edit"_s, new QLineEdit(u"Track 1 of this"_s));
     rows->addRow(u"Tokens and text"_s, tokenField(tokens, SamplePattern));
@@ -153,6 +154,19 @@ QWidget *tokenFieldsPage(QWidget *parent)
     rows->addRow(u"Right to left"_s,
                  changed(fieldWithButtons(tokens), [](auto *f) { f->setLayoutDirection(Qt::RightToLeft); }));
     rows->addRow(u"Other scripts"_s, tokenField(tokens, tall));
+    rows->addRow(u"Both directions"_s, tokenField(tokens, mixed));
+    rows->addRow(u"Both, selected"_s, changed(tokenField(tokens, mixed), [](auto *f) { f->selectAll(); }));
+    rows->addRow(u"Both, narrow"_s, changed(tokenField(tokens, mixed), [](auto *f) {
+                     f->setFixedWidth(160);
+                     f->moveCursor(QTextCursor::End);
+                 }));
+    rows->addRow(u"Both, right to left"_s,
+                 changed(tokenField(tokens, mixed), [](auto *f) { f->setLayoutDirection(Qt::RightToLeft); }));
+    rows->addRow(u"Hebrew"_s, tokenField(tokens, u"שלום %(\\d+)% עולם"_s));
+    rows->addRow(u"Line breaks"_s, tokenField(tokens, u"One\nTwo %(\\w+)%\r\nThree"_s));
+    rows->addRow(u"Selected in part"_s, changed(tokenField(tokens, SamplePattern), [](auto *f) {
+                     f->setSelectedRange({3, 5});
+                 }));
     rows->addRow(u"Small"_s, changed(tokenField(tokens, SamplePattern), [](auto *f) {
                      withFont(f, 11);
                      f->setControlSize(ZEVControlSize::Small);
