@@ -27,6 +27,8 @@ struct Titles {
 /// Out of a text in which "&" marks a mnemonic.
 QString literalTitle(const QString &text)
 {
+    if (!text.contains(u'&'))
+        return text;
     QString title;
     for (qsizetype i = 0; i < text.size(); ++i) {
         if (text[i] == u'&' && ++i == text.size())
@@ -88,7 +90,16 @@ std::optional<ZEVMenuTitleDrawing::ShownTitle> ZEVMenuTitleDrawing::shownTitle(c
     return ShownTitle{text, indentation(titles)};
 }
 
-QString ZEVMenuItem::title(const QAction *item) { return titles(item).title; }
+/// Without a copy of all the titles: a filter asks for thousands at every key.
+QString ZEVMenuItem::title(const QAction *item)
+{
+    const QVariant stored = item->property(TitlesKey);
+    const auto *titles = stored.metaType() == QMetaType::fromType<Titles>()
+        ? static_cast<const Titles *>(stored.constData())
+        : nullptr;
+    const bool isOurs = titles && !titles->text.isEmpty() && titles->text == item->text();
+    return isOurs ? titles->title : literalTitle(item->text());
+}
 
 void ZEVMenuItem::setTitle(QAction *item, const QString &title)
 {
