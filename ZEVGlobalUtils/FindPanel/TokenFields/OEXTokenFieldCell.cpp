@@ -103,7 +103,7 @@ ZEVAttributedString OEXTokenFieldCell::attributedStringForObjects(const QVariant
 QVariantList OEXTokenFieldCell::objectsForAttributedString(const ZEVAttributedString &text)
 {
     QVariantList objects;
-    const QString string = text.string();
+    const QString &string = text.string();
     for (const ZEVTextAttachments::Run &run : ZEVTextAttachments::runs(text))
         objects.append(representedObjectWithAttachment(run.attachment.get(),
                                                        string.mid(run.range.location, run.range.length)));

@@ -176,7 +176,7 @@ void OEXTokenTextStorage::removeAttribute(int property, ZEVRange range)
 
 void OEXTokenTextStorage::insertRuns(QTextCursor &cursor, const ZEVAttributedString &text)
 {
-    const QString string = text.string();
+    const QString &string = text.string();
     for (const ZEVTextAttachments::Run &run : ZEVTextAttachments::runs(text)) {
         if (run.attachment)
             cursor.insertText(ZEVTextAttachments::Character,
