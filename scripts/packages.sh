@@ -13,6 +13,8 @@ display_packages=(xvfb xauth fonts-dejavu-core fonts-ipafont-gothic fonts-noto-c
 # A small desktop for the tests in tests/desktop, and what looks at the files that an installation brings.
 test_packages=(openbox xdotool thunar dbus-daemon weston qt6-wayland
     desktop-file-utils appstream)
+# What makes and mounts the volumes of tests/volumes.
+volume_packages=(xfsprogs btrfs-progs exfatprogs exfat-fuse ntfs-3g bindfs fuse3)
 check_packages=(git clang-format clang-tidy)
 
 install_packages() {

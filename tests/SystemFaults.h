@@ -19,6 +19,7 @@ namespace SystemFaults {
 
 inline thread_local int callsLeft = 0; ///< the call after so many fails; 0 lets none fail
 inline thread_local int failure = 0;
+inline thread_local int alwaysFailure = 0;
 inline thread_local const char *alwaysFailing = ""; ///< the name of a call that is not there at all
 
 /// One fault, as long as this lives.
@@ -33,7 +34,11 @@ struct Nth {
 };
 
 struct Without {
-    explicit Without(const char *name) { alwaysFailing = name; }
+    explicit Without(const char *name, int error = EINVAL)
+    {
+        alwaysFailing = name;
+        alwaysFailure = error;
+    }
     ~Without() { alwaysFailing = ""; }
 };
 
@@ -45,7 +50,7 @@ inline bool fails(const char *name)
     }
     if (*alwaysFailing == '\0' || std::strcmp(alwaysFailing, name) != 0)
         return false;
-    errno = EINVAL;
+    errno = alwaysFailure;
     return true;
 }
 

@@ -7,25 +7,42 @@
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 #include <ZEVGlobalUtils/Transforms/Formatters/ZEVByteCountFormatter.h>
+#include <ZEVGlobalUtils/Transforms/Formatters/ZEVShortDateFormatter.h>
 
 #include <QDateTime>
-#include <QFileInfo>
-#include <QGridLayout>
+#include <QFile>
+#include <QGuiApplication>
 #include <QImageReader>
-#include <QLabel>
-#include <QLocale>
+
+#include <chrono>
+#include <cstdio>
+#include <filesystem>
 
 namespace {
 
+namespace fs = std::filesystem;
+
 constexpr int PictureSize = 64; ///< points
 
-/// The image in a file, read as small as it is shown; null for anything else.
-QPixmap thumbnail(const QString &path, qreal ratio)
+fs::path pathOf(const QUrl &url) { return ZEVFileURL::path(url).toStdString(); }
+
+bool isFile(const QUrl &url)
 {
-    QImageReader reader(path);
+    std::error_code error;
+    return fs::is_regular_file(pathOf(url), error);
+}
+
+/// The image in a file, read as small as it is shown; null for anything else.
+QPixmap thumbnail(const QUrl &url, qreal ratio)
+{
+    QFile file;
+    FILE *const opened = isFile(url) ? fopen(ZEVFileURL::path(url).constData(), "rb") : nullptr;
+    if (!opened || !file.open(opened, QFile::ReadOnly, QFile::AutoCloseHandle))
+        return {};
+    QImageReader reader(&file);
     reader.setAutoTransform(true);
     const QSize wanted(qRound(PictureSize * ratio), qRound(PictureSize * ratio));
-    if (!QFileInfo(path).isFile() || !reader.size().isValid())
+    if (!reader.size().isValid())
         return {};
     reader.setScaledSize(reader.size().scaled(wanted, Qt::KeepAspectRatio));
     QPixmap picture = QPixmap::fromImageReader(&reader);
@@ -33,50 +50,45 @@ QPixmap thumbnail(const QString &path, qreal ratio)
     return picture;
 }
 
-QString description(const QUrl &url, const std::function<QString(const QUrl &)> &describer)
+QPixmap pictureOf(const QUrl &url)
 {
-    const QFileInfo file(url.toLocalFile());
-    QStringList lines{ZEVFileURL::displayName(url)};
-    if (file.isFile())
-        lines.append(ZEVByteCountFormatter().stringFromByteCount(file.size()));
-    if (file.exists())
-        lines.append(QLocale().toString(file.lastModified(), QLocale::ShortFormat));
+    const qreal ratio = qApp->devicePixelRatio();
+    const QPixmap picture = thumbnail(url, ratio);
+    const QSize size(PictureSize, PictureSize);
+    return picture.isNull() ? ZEVWorkspace::iconForFile(url).pixmap(size, ratio) : picture;
+}
+
+QDateTime lastModified(const QUrl &url)
+{
+    std::error_code error;
+    const auto time = fs::last_write_time(pathOf(url), error);
+    if (error)
+        return {};
+    const auto sinceEpoch = decltype(time)::clock::to_sys(time).time_since_epoch();
+    return QDateTime::fromMSecsSinceEpoch(
+        std::chrono::duration_cast<std::chrono::milliseconds>(sinceEpoch).count());
+}
+
+ZEVAlert::Item itemOf(const QString &heading, const QUrl &url,
+                      const std::function<QString(const QUrl &)> &describer)
+{
+    QStringList lines{heading, ZEVFileURL::displayName(url)};
+    std::error_code error;
+    if (isFile(url))
+        lines.append(ZEVByteCountFormatter().stringFromByteCount(qint64(fs::file_size(pathOf(url), error))));
+    if (const QDateTime date = lastModified(url); date.isValid())
+        lines.append(ZEVShortDateFormatter::sharedInstance().stringFromDate(date));
     if (describer)
         lines.append(describer(url));
     lines.removeAll(QString());
-    return lines.join(u'\n');
-}
-
-void addItem(QGridLayout *grid, int row, const QString &heading, const QUrl &url, const QString &text)
-{
-    QWidget *parent = grid->parentWidget();
-    auto *picture = new QLabel;
-    QPixmap pixmap = thumbnail(url.toLocalFile(), parent->devicePixelRatioF());
-    if (pixmap.isNull())
-        pixmap = ZEVWorkspace::iconForFile(url).pixmap(QSize(PictureSize, PictureSize),
-                                                       parent->devicePixelRatioF());
-    picture->setPixmap(pixmap);
-    picture->setFixedWidth(PictureSize);
-    picture->setAlignment(Qt::AlignCenter);
-    auto *label = new QLabel(heading + u'\n' + text);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    grid->addWidget(picture, row, 0, Qt::AlignTop);
-    grid->addWidget(label, row, 1, Qt::AlignTop);
-    grid->setColumnStretch(1, 1);
+    return {pictureOf(url), lines.join(u'\n')};
 }
 
 } // namespace
 
-QWidget *ZEVConflictDetails::view(const QUrl &existing, const QUrl &incoming,
-                                  const std::function<QString(const QUrl &)> &describer, QWidget *parent)
+QList<ZEVAlert::Item> ZEVConflictDetails::items(const QUrl &existing, const QUrl &incoming,
+                                                const std::function<QString(const QUrl &)> &describer)
 {
-    auto *widget = new QWidget(parent);
-    auto *grid = new QGridLayout(widget);
-    grid->setContentsMargins(0, 0, 0, 0);
-    addItem(grid, 0, ZEVGlobalHelper::localizedStringForKey(u"Existing item:"), existing,
-            description(existing, describer));
-    addItem(grid, 1, ZEVGlobalHelper::localizedStringForKey(u"New item:"), incoming,
-            description(incoming, describer));
-    return widget;
+    return {itemOf(ZEVGlobalHelper::localizedStringForKey(u"Existing item:"), existing, describer),
+            itemOf(ZEVGlobalHelper::localizedStringForKey(u"New item:"), incoming, describer)};
 }

@@ -3,17 +3,14 @@
 
 #pragma once
 
-#include <QString>
+#include <ZEVGlobalUtils/Platform/Questions/ZEVAlert.h>
+
 #include <QUrl>
-
-#include <functional>
-
-class QWidget;
 
 namespace ZEVConflictDetails {
 
-/// Two items beside each other, each with its picture, size and date and what \a describer says of it.
-QWidget *view(const QUrl &existing, const QUrl &incoming,
-              const std::function<QString(const QUrl &)> &describer, QWidget *parent);
+/// Two items as an alert shows them: each with its picture, size and date and what \a describer says of it.
+QList<ZEVAlert::Item> items(const QUrl &existing, const QUrl &incoming,
+                            const std::function<QString(const QUrl &)> &describer);
 
 } // namespace ZEVConflictDetails

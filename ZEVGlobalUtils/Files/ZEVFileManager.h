@@ -62,7 +62,9 @@ public:
     using ConflictDescriber = std::function<QString(const QUrl &url)>;
     void setShowsConflictDetails(bool shows, const ConflictDescriber &describer = {});
 
-    /// When it cannot be helped, the error is that of the first failure, not of the repair.
+    /// When it cannot be helped, the error is that of the first failure, not of the repair. Where both were to
+    /// be kept or one to be replaced, what that failed for is the error beneath: see
+    /// ZEVFileErrors::fullDescription(). Folders that were made for nothing go again.
     bool copyItemAtURL(const QUrl &srcURL, const QUrl &dstURL, ZEVError *error = nullptr) override;
     bool moveItemAtURL(const QUrl &srcURL, const QUrl &dstURL, ZEVError *error = nullptr) override;
 
@@ -104,14 +106,12 @@ public:
     ZEVFileExistsRecovery runModalRecoveryAlertForFileExistsError(const ZEVError &error,
                                                                   bool *isSuppressed = nullptr);
 
-private:
-    class Repairs;
+protected:
+    bool resolvesConflicts() const override { return true; }
 
-    bool provideAccess(const QUrl &url);
-    bool fixSource(const QUrl &srcURL, bool &isDecided);
-    bool fixDestination(const QUrl &dstURL);
-    bool replaceAcrossVolumes(const QUrl &srcURL, const QUrl &dstURL, ZEVError *error);
-    void giveTags(const QUrl &folder, const QUrl &sourceFolder);
+private:
+    class Run;
+
     unsigned recoveryForItem(const ZEVError &error, const QUrl &srcURL, const QUrl &dstURL) const;
     ZEVFileExistsRecovery ask(const ZEVError &error, bool showSuppression);
 

@@ -15,12 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using ZEVFileErrors::FilePathKey;
-
-QUrl itemOf(const ZEVError &error)
-{
-    return QUrl::fromLocalFile(error.userInfo().value(FilePathKey.toString()).toString());
-}
+using ZEVFileErrors::itemURL;
 
 QStringList buttons()
 {
@@ -46,10 +41,10 @@ ZEVFileExistsRecovery recoveryForButton(int button)
 ZEVAlert conflictAlert(const ZEVError &error)
 {
     ZEVAlert alert = ZEVAlert::alertWithError(error);
-    alert.icon = ZEVWorkspace::iconForFile(itemOf(error));
+    alert.icon = ZEVWorkspace::iconForFile(itemURL(error));
     alert.messageText =
         ZEVGlobalHelper::localizedStringForKey(u"An item named “%@” already exists in this location.")
-            .replace(u"%@"_s, ZEVFileURL::displayName(itemOf(error)));
+            .replace(u"%@"_s, ZEVFileURL::displayName(itemURL(error)));
     // Kept: copies are asked about in the same words.
     alert.informativeText =
         ZEVGlobalHelper::localizedStringForKey(u"Do you want to replace it with the one you’re moving?");
@@ -107,9 +102,7 @@ ZEVFileExistsRecovery ZEVFileManager::runModalRecoveryAlertForFileExistsError(co
     alert.showsSuppressionButton = isSuppressed != nullptr;
     const QUrl incoming = error.userInfo().value(ZEVFileErrors::SourceURLKey.toString()).toUrl();
     if (m_showsConflictDetails && incoming.isValid())
-        alert.accessoryView = [this, existing = itemOf(error), incoming](QWidget *parent) {
-            return ZEVConflictDetails::view(existing, incoming, m_describer, parent);
-        };
+        alert.items = ZEVConflictDetails::items(itemURL(error), incoming, m_describer);
     const int button = alert.runModal();
     if (isSuppressed)
         *isSuppressed = alert.isSuppressed;

@@ -6,6 +6,7 @@
 #include <ZEVGlobalUtils/Files/ZEVURLFileAccess.h>
 #include <ZEVGlobalUtils/Platform/Desktop/ZEVWorkspace_p.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileErrors.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileOperations_p.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVPlainFileManager.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVLog_p.h>
@@ -14,7 +15,6 @@
 #include <QGuiApplication>
 #include <QPainter>
 
-#include <cerrno>
 #include <filesystem>
 
 using namespace Qt::StringLiterals;
@@ -25,18 +25,12 @@ constexpr int IconSize = 16; ///< points
 constexpr QSize AttachmentSize(20, 16);
 constexpr QRectF BoundsFromBaseline(0, -3, 20, 16);
 
-/// Once the copy is in the destination's place, a source that lay in there would be gone with all the rest.
-bool liesWithin(const QUrl &url, const QUrl &folder)
+/// Read-only folders that were copied into it, or replaced, go too.
+void removeTemporaryFolder(const QUrl &folder)
 {
-    return ZEVFileURL::path(url).startsWith(QByteArray(ZEVFileURL::path(folder) + '/'));
-}
-
-void removeTemporaryFolder(ZEVPlainFileManager &fileManager, const QUrl &folder)
-{
-    ZEVError error;
-    if (!fileManager.removeItemAtURL(folder, &error))
+    if (const ZEVFileFailure failure = ZEVFileOperations::removeTemporary(ZEVFileURL::path(folder)))
         qCWarning(zevLog).noquote() << u"Failed to remove temp directory after atomic copy: %1"_s.arg(
-            error.localizedDescription());
+            ZEVFileErrors::error(failure, ZEVFileErrors::Operation::Change, folder).localizedDescription());
 }
 
 QImage attachmentImage(const QImage &icon)
@@ -96,9 +90,12 @@ QList<QUrl> ZEVFileManagerHelpers::filteredArrayOfExistingURLs(ZEVPlainFileManag
 bool ZEVFileManagerHelpers::atomicCopyItemAtURL(ZEVPlainFileManager &fileManager, const QUrl &srcURL,
                                                 const QUrl &dstURL, ZEVError *error)
 {
-    if (liesWithin(srcURL, dstURL)) {
+    // Once the copy is in the destination's place, a source that lay in there would be gone with the rest.
+    const ZEVFileFailure obstacle =
+        ZEVFileOperations::obstacleToReplacing(ZEVFileURL::path(srcURL), ZEVFileURL::path(dstURL));
+    if (obstacle) {
         if (error)
-            *error = ZEVFileErrors::error(EINVAL, ZEVFileErrors::Operation::Copy, srcURL, dstURL);
+            *error = ZEVFileErrors::error(obstacle, ZEVFileErrors::Operation::Copy, srcURL, dstURL);
         return false;
     }
     const auto folder = fileManager.itemReplacementDirectory(dstURL, error);
@@ -107,7 +104,7 @@ bool ZEVFileManagerHelpers::atomicCopyItemAtURL(ZEVPlainFileManager &fileManager
     const QUrl copy = ZEVFileURL::byAppendingPathComponent(*folder, ZEVFileURL::lastPathComponent(dstURL));
     const bool isDone = fileManager.copyItemAtURL(srcURL, copy, error)
         && fileManager.replaceItemAtURL(dstURL, copy, nullptr, error);
-    removeTemporaryFolder(fileManager, *folder);
+    removeTemporaryFolder(*folder);
     return isDone;
 }
 

@@ -18,17 +18,15 @@ namespace {
 /// Null where the error is about no item.
 QIcon iconOfItem(const ZEVError &error)
 {
-    const QString path = error.userInfo().value(ZEVFileErrors::FilePathKey.toString()).toString();
-    const QUrl url = path.isEmpty() ? error.userInfo().value(ZEVFileErrors::URLKey.toString()).toUrl()
-                                    : QUrl::fromLocalFile(path);
+    const QUrl url = ZEVFileErrors::itemURL(error);
     return url.isValid() ? ZEVWorkspace::iconForFile(url) : QIcon();
 }
 
 ZEVAlert batchAlert(const ZEVError &error, bool showsSuppressionButton)
 {
     ZEVAlert alert = ZEVAlert::alertWithError(error);
-    if (const ZEVProgress *progress = ZEVProgress::currentProgress())
-        alert.windowTitle = progress->localizedDescription();
+    const ZEVProgress *progress = ZEVProgress::currentProgress();
+    alert.windowTitle = progress ? progress->localizedDescription() : QString();
     alert.showsSuppressionButton = showsSuppressionButton;
     alert.suppressionTitle = ZEVGlobalHelper::localizedStringForKey(u"Apply to All");
     alert.icon = iconOfItem(error);

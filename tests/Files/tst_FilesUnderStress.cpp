@@ -35,6 +35,24 @@ bool hasSucceeded(pid_t process)
     return waitpid(process, &status, 0) == process && WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
+/// As programs save: a new file, one in the place of the old, or over its bytes. Whether the file has them, and
+/// is still there a moment later: what is written to a file that somebody has removed is nowhere.
+bool save(const QByteArray &path, const QByteArray &text, unsigned way)
+{
+    const QByteArray beside =
+        path.first(path.lastIndexOf('/') + 1) + "~" + path.sliced(path.lastIndexOf('/') + 1);
+    if (way < 2)
+        return Trees::write(beside, text) && rename(beside.constData(), path.constData()) == 0;
+    const int file = open(path.constData(), O_WRONLY | O_CLOEXEC);
+    if (file < 0)
+        return false;
+    const bool isWritten = pwrite(file, text.constData(), size_t(text.size()), 0) == text.size();
+    usleep(5000);
+    struct stat status { };
+    const bool isThere = fstat(file, &status) == 0 && status.st_nlink > 0;
+    return close(file) == 0 && isWritten && isThere;
+}
+
 /// A small volume of its own; without the right to mount one there is none.
 struct SmallVolume {
     SmallVolume()
@@ -129,6 +147,83 @@ private Q_SLOTS:
         }
         QVERIFY2(numberOfNew > 20 && numberOfOld > 20 && leftBehind > 20,
                  qPrintable(u"%1 %2 %3"_s.arg(numberOfNew).arg(numberOfOld).arg(leftBehind)));
+    }
+
+    /// Folders go to and fro between two volumes while two programs save files in them. For ZEV_WRITERS_SECONDS.
+    void twoWritersLoseNoByte()
+    {
+        constexpr int Names = 12;
+        const int seconds = qEnvironmentVariableIsSet("ZEV_WRITERS_SECONDS")
+            ? qEnvironmentVariableIntValue("ZEV_WRITERS_SECONDS")
+            : 10;
+        const QTemporaryDir here, there(u"/dev/shm/zev-XXXXXX"_s), books;
+        const QByteArrayList volumes{here.path().toUtf8() + '/', there.path().toUtf8() + '/'};
+        const auto albums = [&] {
+            QByteArrayList paths;
+            for (const QByteArray &volume : volumes) {
+                for (const QByteArray &name : Trees::names(volume)) {
+                    if (name.startsWith("album"))
+                        paths.append(volume + name);
+                }
+            }
+            return paths;
+        };
+        const auto end = time(nullptr) + seconds;
+        const auto write = [&](int writer) {
+            std::mt19937 random{unsigned(writer)};
+            qint64 saved = 0;
+            QByteArray book;
+            for (qint64 version = 1; time(nullptr) < end; ++version) {
+                const QByteArrayList paths = albums();
+                const QByteArray name =
+                    QByteArray::number(writer) + '-' + QByteArray::number(random() % Names);
+                const QByteArray text = QByteArray::number(version).rightJustified(10, '0');
+                if (paths.isEmpty()
+                    || !save(paths.at(random() % size_t(paths.size())) + '/' + name, text,
+                             unsigned(random() % 3)))
+                    continue;
+                ++saved;
+                book += name + ' ' + text + '\n';
+            }
+            return Trees::write(books.path().toUtf8() + '/' + QByteArray::number(writer), book)
+                && saved > 100;
+        };
+        QVERIFY(QDir(here.path()).mkdir(u"album"_s));
+        const pid_t writers[]{inProcess([&] { return write(1); }), inProcess([&] { return write(2); })};
+        int moved = 0, refused = 0, number = 0;
+        ZEVFileManager manager;
+        std::mt19937 random{7};
+        while (time(nullptr) < end) {
+            for (const QByteArray &path : albums()) {
+                const QByteArray &volume = volumes.at(path.startsWith(volumes.first()) ? 1 : 0);
+                const QByteArray to = volume + "album" + QByteArray::number(++number);
+                const bool copies = albums().size() < 3 && random() % 20 == 0;
+                const bool isDone = copies
+                    ? manager.copyItemAtURL(ZEVFileURL::withPath(path), ZEVFileURL::withPath(to))
+                    : manager.moveItemAtURL(ZEVFileURL::withPath(path), ZEVFileURL::withPath(to));
+                ++(isDone ? moved : refused);
+            }
+        }
+        for (const pid_t writer : writers)
+            QVERIFY(hasSucceeded(writer));
+        QMap<QByteArray, QByteArray> wanted, found;
+        for (const char *writer : {"/1", "/2"}) {
+            for (const QByteArray &line : Trees::read(books.path().toUtf8() + writer).split('\n')) {
+                if (!line.isEmpty())
+                    wanted.insert(line.split(' ').first(), line.split(' ').last());
+            }
+        }
+        for (const QByteArray &path : albums()) {
+            for (const QByteArray &name : Trees::names(path)) {
+                QByteArray &latest = found[name];
+                latest = std::max(latest, Trees::read(path + '/' + name));
+            }
+        }
+        qInfo("%d moved or copied, %d refused, %d names", moved, refused, int(wanted.size()));
+        for (auto it = wanted.cbegin(); it != wanted.cend(); ++it)
+            QVERIFY2(found.value(it.key()) >= it.value(),
+                     it.key() + ' ' + it.value() + ' ' + found.value(it.key()));
+        QVERIFY(moved > 5 && refused > 5);
     }
 
     void aFullVolumeFailsClean()

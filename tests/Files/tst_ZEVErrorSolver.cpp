@@ -92,9 +92,14 @@ private Q_SLOTS:
     void anAnswerToAllIsAskedOnce()
     {
         using ZEVResponderErrorHandler::presentErrorSolver;
+        const auto item = solver({{u"NSURL"_s, QUrl(u"file:///usr"_s)}});
+        {
+            const Answers once(1);
+            QVERIFY(!presentErrorSolver(nullptr, item, nullptr, true));
+            QCOMPARE(once.shown.first().windowTitle, QString()); // not the application's name
+        }
         const ZEVProgress progress(u"Copying"_s);
         std::optional<qint64> all;
-        const auto item = solver({{u"NSURL"_s, QUrl(u"file:///usr"_s)}});
         {
             const Answers once(1);
             QVERIFY(!presentErrorSolver(nullptr, item, &all, true) && !all);

@@ -146,6 +146,7 @@ private Q_SLOTS:
         QVERIFY(Trees::write(there, "from there"));
         const QUrl source = ZEVFileReference::fileReferenceURL(ZEVFileURL::withPath(there));
         QVERIFY(chmod(qPrintable(other.folder.path()), 0555) == 0);
+        desk.manager.setFixPermissions(false);
         QVERIFY(!desk.manager.moveItemAtURL(source, desk.url("to/Track.mp3")));
         QVERIFY(desk.read("to/Track.mp3") == "old" && Trees::read(there) == "from there");
         QVERIFY(chmod(qPrintable(other.folder.path()), 0755) == 0);
@@ -168,6 +169,175 @@ private Q_SLOTS:
         QVERIFY(!desk.manager.moveItemAtURL(desk.url("from/none"), desk.url("c/none"), &desk.error));
         QCOMPARE(desk.error.code(), 4); // and came to an end
         QVERIFY(!desk.move("to/Track.mp3/below/file"));
+    }
+
+    void foldersMadeForNothingGoAgain()
+    {
+        Desk desk;
+        desk.manager.setCreateMissingDirectories(true);
+        QVERIFY(!desk.manager.moveItemAtURL(desk.url("from/none"), desk.url("c/d/none")));
+        QCOMPARE(Trees::names(desk.folder.path().toUtf8()), (QByteArrayList{"from", "to"}));
+    }
+
+    /// By the names and numbers of folder and item, whatever way leads there.
+    void anItemInItsOwnPlaceStays()
+    {
+        Desk desk;
+        desk.manager.setFileExistsRecovery(ZEVFileExistsRecoveryReplace);
+        std::filesystem::create_hard_link(desk.path("from/Track.mp3").toStdString(),
+                                          desk.path("from/second").toStdString());
+        std::filesystem::create_directory_symlink("from", desk.path("linked").toStdString());
+        for (const char *way : {"from/Track.mp3", "linked/Track.mp3"}) {
+            COMPARE_ROW(way, desk.move(way), true);
+            QVERIFY(desk.manager.replaceItemAtURL(desk.url(way), desk.url("from/Track.mp3")));
+            COMPARE_ROW(way, desk.names("from"), QByteArray("Track.mp3|second"));
+        }
+    }
+
+    void noItemTakesThePlaceOfAFolderAroundIt()
+    {
+        Desk desk;
+        desk.manager.setFileExistsRecovery(ZEVFileExistsRecoveryReplace);
+        QVERIFY(QDir(desk.folder.path()).mkpath(u"to/Album/Album"_s));
+        QVERIFY(Trees::write(desk.path("to/Album/Album/inner"), "inner")
+                && Trees::write(desk.path("to/Album/outer"), "outer"));
+        const auto before = Trees::contents(desk.path("to"));
+        for (const bool copies : {false, true}) {
+            const QUrl inner = desk.url("to/Album/Album"), outer = desk.url("to/Album");
+            COMPARE_ROW(copies,
+                        copies ? desk.manager.copyItemAtURL(inner, outer, &desk.error)
+                               : desk.manager.moveItemAtURL(inner, outer, &desk.error),
+                        false);
+            COMPARE_ROW(copies, desk.error.code(), 516);
+            QVERIFY(ZEVFileErrors::fullDescription(desk.error).contains(u"whose place it would take"));
+            QCOMPARE(Trees::contents(desk.path("to")), before);
+        }
+    }
+
+    /// Known before anything is removed; and what comes into the source meanwhile is not removed either.
+    void aMoveToAnotherVolumeIsWholeOrNotDone()
+    {
+        using Change = std::function<void(const QByteArray &)>;
+        const std::tuple<const char *, Change, Change, const char *> rows[] = {
+            {"a read-only folder", [](auto &album) { chmod((album + "/inner").constData(), 0555); }, {}, "b"},
+            {"a new file", {}, [](auto &album) { Trees::write(album + "/new", "new"); }, "new"},
+            {"saved anew",
+             {},
+             [](auto &album) {
+                 Trees::write(album + "/saved", "s");
+                 rename((album + "/saved").constData(), (album + "/a").constData());
+             },
+             "a"},
+            {"overwritten", {}, [](auto &album) { Trees::write(album + "/inner/b", "X"); }, "b"},
+        };
+        for (const auto &[name, before, meanwhile, blamed] : rows) {
+            for (const bool replaces : {false, true}) {
+                const Trees::OtherVolume other;
+                Desk desk;
+                const QByteArray album = other.folder.path().toUtf8() + "/Album";
+                QVERIFY(QDir().mkpath(QString::fromUtf8(album + "/inner")));
+                QVERIFY(Trees::write(album + "/a", "a") && Trees::write(album + "/inner/b", "b"));
+                if (before)
+                    before(album);
+                Trees::Contents expected = Trees::contents(album);
+                bool hasChanged = false;
+                desk.manager.setProgressHandler([&, change = meanwhile](qint64 bytes) {
+                    if (bytes == 2 && change && !std::exchange(hasChanged, true)) {
+                        change(album);
+                        expected = Trees::contents(album);
+                    }
+                    return true;
+                });
+                desk.manager.setFileExistsRecovery(ZEVFileExistsRecoveryReplace);
+                const QByteArray destination = replaces ? "to/Track.mp3" : "to/Album";
+                COMPARE_ROW(name,
+                            desk.manager.moveItemAtURL(ZEVFileURL::withPath(album), desk.url(destination),
+                                                       &desk.error),
+                            false);
+                QVERIFY2(hasChanged == bool(meanwhile), name);
+                QVERIFY2(Trees::contents(album) == expected, name);
+                COMPARE_ROW(name, desk.names("to"), QByteArray("Track.mp3"));
+                COMPARE_ROW(name, desk.read("to/Track.mp3"), QByteArray("old"));
+                QVERIFY2(ZEVFileErrors::fullDescription(desk.error).contains(u"“"_s + QLatin1String(blamed)),
+                         qPrintable(ZEVFileErrors::fullDescription(desk.error)));
+                chmod((album + "/inner").constData(), 0755);
+            }
+        }
+    }
+
+    void readOnlyFoldersAreReplacedWithoutATrace()
+    {
+        for (const bool copies : {false, true}) {
+            Desk desk;
+            desk.manager.setFileExistsRecovery(ZEVFileExistsRecoveryReplace);
+            for (const char *name : {"from/Album", "to/Album"}) {
+                QVERIFY(QDir().mkpath(QString::fromUtf8(desk.path(name)))
+                        && Trees::write(desk.path(name) + "/file", name));
+                QVERIFY(chmod(desk.path(name).constData(), 0555) == 0);
+            }
+            const auto expected = Trees::contents(desk.path("from/Album"));
+            const QUrl source = desk.url("from/Album"), destination = desk.url("to/Album");
+            COMPARE_ROW(copies,
+                        copies ? desk.manager.copyItemAtURL(source, destination)
+                               : desk.manager.moveItemAtURL(source, destination),
+                        true);
+            QCOMPARE(Trees::contents(desk.path("to/Album")), expected);
+            COMPARE_ROW(copies, desk.names("to"), QByteArray("Album|Track.mp3"));
+            COMPARE_ROW(copies, desk.names("from"), QByteArray(copies ? "Album|Track.mp3" : "Track.mp3"));
+            for (const char *name : {"from/Album", "to/Album"})
+                chmod(desk.path(name).constData(), 0755);
+        }
+    }
+
+    void errorsSayWhatIsWrong()
+    {
+        Desk desk;
+        QVERIFY(QDir(desk.folder.path()).mkpath(u"from/Album/deep"_s)
+                && QDir(desk.folder.path()).mkdir(u"shut"_s));
+        QVERIFY(Trees::write(desk.path("from/Album/deep/secret"), "x"));
+        QVERIFY(chmod(desk.path("from/Album/deep/secret").constData(), 0) == 0
+                && chmod(desk.path("shut").constData(), 0555) == 0);
+        QVERIFY(mkfifo(desk.path("from/pipe").constData(), 0600) == 0);
+        const std::tuple<QByteArray, QByteArray, qint64, QByteArray, QString> rows[] = {
+            {"from/Track.mp3", "none/x", 4, "none",
+             u"“Track.mp3” could not be copied: the folder “none” does not exist."_s},
+            {"from/none", "to/x", 4, "from/none", u"“none” could not be copied: the item does not exist."_s},
+            {"from/Track.mp3", "shut/x", 513, "shut",
+             u"“Track.mp3” could not be copied: you do not have permission to change the folder “shut”."_s},
+            {"from/Album", "to/x", 513, "from/Album/deep/secret",
+             u"“Album” could not be copied: you do not have permission to read “secret”."_s},
+            {"from/Album", "from/Album/x", 512, "from/Album",
+             u"“Album” could not be copied: a folder cannot be put into itself."_s},
+            {"from/Track.mp3", "to/Track.mp3/x", 512, "to/Track.mp3",
+             u"“Track.mp3” could not be copied: “Track.mp3” is not a folder."_s},
+            {"from/Track.mp3", "to/" + QByteArray(256, 'x'), 512, "to/" + QByteArray(256, 'x'),
+             u"“Track.mp3” could not be copied: the volume does not allow the name “"_s + QString(256, u'x')
+                 + u"”."_s},
+        };
+        desk.manager.setFixPermissions(false);
+        for (const auto &[from, to, code, item, text] : rows) {
+            QVERIFY(!desk.manager.copyItemAtURL(desk.url(from), desk.url(to), &desk.error));
+            COMPARE_ROW(from + ' ' + to, desk.error.localizedDescription(), text);
+            COMPARE_ROW(from + ' ' + to, desk.error.code(), code);
+            COMPARE_ROW(from + ' ' + to, ZEVFileErrors::itemURL(desk.error), desk.url(item));
+        }
+        QVERIFY(!desk.manager.copyItemAtURL(QUrl(u"file:///dev/null"_s), desk.url("to/x"), &desk.error));
+        QVERIFY(desk.error.localizedDescription().contains(u"“null” is a socket or a device"));
+    }
+
+    void anAnswerThatCannotBeFollowedSaysWhy()
+    {
+        for (const unsigned recovery : {2U, 3U}) {
+            Desk desk;
+            desk.manager.setFileExistsRecovery(recovery);
+            desk.manager.setFixPermissions(false);
+            QVERIFY(chmod(desk.path("to").constData(), 0555) == 0);
+            QVERIFY(!desk.copy("to/Track.mp3"));
+            COMPARE_ROW(recovery, desk.error.code(), 516);
+            COMPARE_ROW(recovery, desk.error.underlyingError().value_or(ZEVError()).code(), 513);
+            COMPARE_ROW(recovery, ZEVFileErrors::fullDescription(desk.error).contains(u"the folder “to”"),
+                        true);
+        }
     }
 
     void rightsAreGivenWhereAllowed()
@@ -217,6 +387,14 @@ private Q_SLOTS:
             COMPARE_ROW(unlocks, desk.error.code(), unlocks ? 0 : 513);
             QVERIFY(!ZEVURLFileAccess::isLocked(desk.url("to/New.mp3")));
             ZEVURLFileAccess::setLocked(desk.url("from/Track.mp3"), false);
+            // A link to it has a lock of its own: none.
+            QVERIFY(ZEVURLFileAccess::setLocked(desk.url("to/Track.mp3"), true));
+            std::filesystem::create_symlink("../to/Track.mp3", desk.path("from/link").toStdString());
+            QVERIFY(chmod(desk.path("to").constData(), 0555) == 0 && seteuid(65534) == 0);
+            desk.manager.setFixPermissions(false);
+            QVERIFY(!desk.manager.moveItemAtURL(desk.url("from/link"), desk.url("to/link")));
+            QVERIFY(seteuid(0) == 0 && ZEVURLFileAccess::isLocked(desk.url("to/Track.mp3")));
+            ZEVURLFileAccess::setLocked(desk.url("to/Track.mp3"), false);
         }
     }
 

@@ -11,6 +11,8 @@
 
 #include <QLoggingCategory>
 
+#include <sys/wait.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -258,6 +260,64 @@ private Q_SLOTS:
                 QVERIFY2(taken.isAsBefore(), call);
             }
         }
+    }
+
+    void whatAVolumeDoesNotKeepIsLeftOut()
+    {
+        for (const char *call : {"fchmod", "futimens", "fsetxattr", "flistxattr"}) {
+            for (const int code : {EPERM, EOPNOTSUPP, ENOSYS}) {
+                const Pair pair(true);
+                const SystemFaults::Without without(call, code);
+                QVERIFY2(pair.run(Copy), call);
+                struct stat status { };
+                stat((pair.destination + "/plain").constData(), &status);
+                // The mode shows the mask of the list; without the list that would be the group's.
+                QVERIFY2((status.st_mode & S_IWGRP) == 0 || QByteArray(call) != "fsetxattr", call);
+                QVERIFY2(pair.hasNoTemporaries(), call);
+            }
+        }
+    }
+
+    /// One that says it is longer than what can be read of it.
+    void whatAFileSaysOfItsSizeIsNotBelieved()
+    {
+        const Pair pair;
+        const QByteArray source = "/sys/devices/system/cpu/online", copy = pair.destination + "2";
+        QVERIFY(Copy(ZEVFileURL::withPath(source), ZEVFileURL::withPath(copy), nullptr));
+        QCOMPARE(Trees::read(copy), Trees::read(source));
+    }
+
+    void leftoversGoWithTheirProcess()
+    {
+        const pid_t gone = fork();
+        if (gone == 0)
+            _exit(0);
+        waitpid(gone, nullptr, 0);
+        const Pair pair;
+        const QByteArray folder = pair.destination.chopped(5) + '/';
+        const auto made =
+            Manager::defaultManager()->itemReplacementDirectory(ZEVFileURL::withPath(folder + "x"));
+        QVERIFY(made);
+        const QByteArray name = ZEVFileURL::lastPathComponent(*made);
+        const auto named = [&](int age, pid_t process, const QByteArray &end) {
+            const auto number = [](qint64 value) {
+                return QByteArray::number(value, 16).rightJustified(8, '0');
+            };
+            return name.first(5) + number(name.mid(5, 8).toLongLong(nullptr, 16) - age) + name.mid(13, 8)
+                + number(process) + name.mid(29, 8) + end + ".tmp";
+        };
+        const QByteArray young = named(10, gone, "-young"), living = named(120, getpid(), "-alive"),
+                         old = named(120, gone, {}), item = named(120, gone, "-Album.x"),
+                         foreign = ".zev-.tmp";
+        for (const QByteArray &each : {young, living, old, item, foreign})
+            QVERIFY(Trees::write(folder + each, each));
+        QVERIFY(pair.run(Copy)); // by whatever is done next in the folder
+        QByteArrayList expected{name, young, living, "Album.x", foreign, "item"};
+        std::sort(expected.begin(), expected.end());
+        QCOMPARE(Trees::names(folder), expected);
+        QCOMPARE(Trees::read(folder + "Album.x"), item);
+        for (const QByteArray &each : {name, young, living})
+            QVERIFY(QDir::match(Manager::temporaryNameFilter(), QString::fromUtf8(each)));
     }
 
     void anythingReplacesAnything()

@@ -77,17 +77,20 @@ constexpr auto PrintArgument = "--print-results";
 /// The locale that is in force, and all that must not depend on it.
 int printResults()
 {
-    const QByteArray text = (QLocale().name() + u'\n' + fixedResults().join(u'\n')).toUtf8();
+    const QString date = ZEVShortDateFormatter::sharedInstance().stringFromDate(
+        QDateTime::fromMSecsSinceEpoch(1'714'979'289'000));
+    const QByteArray text = (QLocale().name() + u'\n' + date + u'\n' + fixedResults().join(u'\n')).toUtf8();
     return std::puts(text.constData()) < 0;
 }
 
-/// The results of a process of its own, which takes its locale from LANG.
-QStringList resultsUnder(const QString &lang)
+/// The results of a process of its own, which takes its locale from LANG, and from LC_TIME that of dates.
+QStringList resultsUnder(const QString &lang, const QString &dates = {})
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.remove(u"LC_ALL"_s);
     environment.remove(u"LANGUAGE"_s);
     environment.insert(u"LANG"_s, lang);
+    environment.insert(u"LC_TIME"_s, dates);
     QProcess process;
     process.setProcessEnvironment(environment);
     process.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(PrintArgument)});
@@ -129,12 +132,23 @@ private Q_SLOTS:
     {
         QStringList expected = resultsUnder(u"C"_s);
         QCOMPARE(expected.takeFirst(), u"C"_s);
+        expected.removeFirst(); // the date
         QVERIFY(expected.size() > 50);
         for (const QString &name : {u"en_US"_s, u"tr_TR"_s, u"ar_EG"_s, u"ja_JP"_s}) {
             QStringList results = resultsUnder(name + u".UTF-8"_s);
             QCOMPARE(results.takeFirst(), name); // else nothing would be shown
+            results.removeFirst();
             QCOMPARE(results, expected);
         }
+    }
+
+    void shortDatesFollowTheLocaleOfDates()
+    {
+        const QString german = resultsUnder(u"de_DE.UTF-8"_s).at(1);
+        const QString english = resultsUnder(u"en_US.UTF-8"_s).at(1);
+        QVERIFY(german != english);
+        QCOMPARE(resultsUnder(u"en_US.UTF-8"_s, u"de_DE.UTF-8"_s).at(1), german);
+        QCOMPARE(resultsUnder(u"C"_s, u"de_DE.UTF-8"_s).at(1), german);
     }
 
     void aDefaultThatChangesChangesNothing()

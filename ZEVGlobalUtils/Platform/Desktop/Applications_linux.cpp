@@ -5,14 +5,15 @@
 
 #include <ZEVGlobalUtils/Platform/Desktop/ZEVStartupNotification_p.h>
 #include <ZEVGlobalUtils/Platform/Desktop/ZEVWorkspace_p.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileOperations_p.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
 
-#include <QFileInfo>
+#include <QFile>
 #include <QGuiApplication>
-#include <QProcess>
 
 #include <array>
 #include <memory>
+#include <unistd.h>
 #include <vector>
 
 #include <gio/gdesktopappinfo.h>
@@ -146,17 +147,28 @@ std::optional<LaunchFailure> launch(GDesktopAppInfo *info, const QList<QUrl> &ur
     return failure;
 }
 
+bool isExecutable(const QByteArray &path)
+{
+    const auto status = ZEVFileOperations::status(path);
+    return status && !status->isDirectory && access(path.constData(), X_OK) == 0;
+}
+
 std::optional<LaunchFailure> runExecutable(const QList<QUrl> &urls, const QUrl &application)
 {
-    QStringList arguments;
+    // Bytes, as the names of files are, which QProcess would take for text.
+    QByteArrayList arguments{ZEVFileURL::path(application)};
     for (const QUrl &url : urls)
-        arguments.append(url.isLocalFile() ? QFile::decodeName(ZEVFileURL::path(url)) : url.toString());
-    QProcess process;
-    process.setProgram(QFile::decodeName(ZEVFileURL::path(application)));
-    process.setArguments(arguments);
-    if (process.startDetached())
+        arguments.append(url.isLocalFile() ? ZEVFileURL::path(url) : url.toEncoded());
+    std::vector<char *> pointers;
+    for (QByteArray &argument : arguments)
+        pointers.push_back(argument.data());
+    pointers.push_back(nullptr);
+    GError *error = nullptr;
+    if (g_spawn_async(nullptr, pointers.data(), nullptr, G_SPAWN_DEFAULT, nullptr, nullptr, nullptr, &error))
         return std::nullopt;
-    return LaunchFailure{UnknownError, process.errorString()};
+    LaunchFailure failure{UnknownError, QString::fromUtf8(error->message)};
+    g_error_free(error);
+    return failure;
 }
 
 } // namespace
@@ -226,7 +238,7 @@ std::optional<LaunchFailure> ZEVApplications::open(const QList<QUrl> &urls, cons
 {
     if (const auto info = entryAt(application))
         return launch(info.get(), urls);
-    if (isEntry(application) || !QFileInfo(application.toLocalFile()).isExecutable())
+    if (isEntry(application) || !isExecutable(ZEVFileURL::path(application)))
         return LaunchFailure{ApplicationNotFound, u"no such application"_s};
     return runExecutable(urls, application);
 }

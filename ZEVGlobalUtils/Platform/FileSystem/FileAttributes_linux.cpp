@@ -97,6 +97,12 @@ bool ZEVFileOperations::isImmutable(const QByteArray &path)
     return status && (status->stx_attributes & STATX_ATTR_IMMUTABLE) != 0;
 }
 
+bool ZEVFileOperations::isLink(const QByteArray &path)
+{
+    const auto status = extendedStatus(AT_FDCWD, path.constData(), AT_SYMLINK_NOFOLLOW);
+    return status && S_ISLNK(status->stx_mode);
+}
+
 int ZEVFileOperations::setImmutable(const QByteArray &path, bool immutable)
 {
     const ZEVDescriptor file(open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));

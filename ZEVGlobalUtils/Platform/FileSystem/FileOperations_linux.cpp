@@ -4,7 +4,9 @@
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileOperations_p.h>
 
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVItemCopying_p.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVItemMoving_p.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVItemRenaming_p.h>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVTemporaries_p.h>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -13,84 +15,46 @@
 namespace {
 
 using namespace ZEVItemRenaming;
-using Owner = ZEVItemCopying::Owner;
+using Reason = ZEVFileFailure::Reason;
 
-/// Walks up from the folder of \a inner.
-bool liesWithin(const ZEVEntry &inner, const struct stat &outer)
+ZEVItemMoving::End end(const ZEVPlace &place) { return {place.entry(), place.path()}; }
+
+/// A source that is not there is missing itself, a destination lacks its folder.
+ZEVFileFailure failureOfOpening(const ZEVPlace &source, const ZEVPlace &destination)
 {
-    ZEVDescriptor folder(openat(inner.folder, ".", O_PATH | O_DIRECTORY | O_CLOEXEC));
-    struct stat status { };
-    while (folder && fstat(folder.get(), &status) == 0) {
-        if (ZEVPlaces::isSameItem(status, outer))
-            return true;
-        const struct stat below = status;
-        folder = ZEVDescriptor(openat(folder.get(), "..", O_PATH | O_DIRECTORY | O_CLOEXEC));
-        if (!folder || fstat(folder.get(), &status) < 0 || ZEVPlaces::isSameItem(status, below))
-            return false; // the root is its own parent
+    if (source.error())
+        return source.error();
+    const int error = destination.error();
+    const bool isOfFolder = error == ENOENT || error == ENOTDIR || error == EACCES;
+    return isOfFolder ? ZEVFileFailure(error, Reason::Folder, destination.folderPath()) : error;
+}
+
+/// Both places are open, the user's own leftovers in them have gone, and nothing forbids the operation.
+ZEVFileFailure prepare(const ZEVPlace &source, const ZEVPlace &destination)
+{
+    if (const ZEVFileFailure failure = failureOfOpening(source, destination))
+        return failure;
+    for (const ZEVPlace *place : {&source, &destination}) {
+        const ZEVDescriptor folder = ZEVPlaces::openFolder({place->entry().folder, "."});
+        if (folder)
+            ZEVTemporaries::clearLeftovers(folder.get());
     }
-    return false;
+    return ZEVItemMoving::obstacle(end(source), end(destination));
 }
 
-/// What forbids to bring \a source to \a destination, before anything is done.
-int obstacle(const ZEVEntry &source, const ZEVEntry &destination)
+ZEVFileFailure copyBeside(const ZEVPlace &source, const ZEVPlace &destination,
+                          const ZEVFileOperations::Handling &handling)
 {
-    struct stat status { };
-    if (const int error = source.readStatus(status))
-        return error;
-    if (S_ISDIR(status.st_mode) && liesWithin(destination, status))
-        return EINVAL;
-    return destination.checkIsFree();
-}
-
-/// Copies under another name beside \a destination, then lets \a finish put it in its place.
-int copyBeside(const ZEVEntry &source, const ZEVEntry &destination,
-               const ZEVFileOperations::Progress &progress, Owner owner, const auto &finish)
-{
-    const ZEVEntry temporary = destination.sibling(ZEVPlaces::temporaryName());
-    int error = ZEVItemCopying(progress, owner).copy(source, temporary);
-    if (!error)
-        error = finish(temporary);
-    if (error)
+    const ZEVEntry temporary = destination.entry().sibling(ZEVTemporaries::name());
+    ZEVItemCopying copying(handling, ZEVItemCopying::Owner::Process, source.path(), destination.path());
+    ZEVFileFailure failure = copying.copy(source.entry(), temporary);
+    if (!failure) {
+        const int error = renameWithoutReplacing(temporary, destination.entry());
+        failure = ZEVItemMoving::failureOfRenaming(error, end(destination), end(destination));
+    }
+    if (failure)
         remove(temporary, Force::MakeWritable);
-    return error;
-}
-
-int removeMoved(const ZEVEntry &source, const ZEVEntry &destination)
-{
-    qint64 removed = 0;
-    const int error = remove(source, Force::None, &removed);
-    if (error && removed == 0)
-        remove(destination, Force::MakeWritable);
-    return error;
-}
-
-bool mayRemove(const ZEVEntry &entry)
-{
-    const bool isWritable = faccessat(entry.folder, ".", W_OK | X_OK, AT_EACCESS) == 0;
-    const QByteArray path = "/proc/self/fd/" + QByteArray::number(entry.folder) + '/' + entry.name;
-    return isWritable && !ZEVFileOperations::isImmutable(path);
-}
-
-/// The copy is on the disk before its source is touched.
-int moveToOtherVolume(const ZEVEntry &source, const ZEVEntry &destination,
-                      const ZEVFileOperations::Progress &progress)
-{
-    if (!mayRemove(source))
-        return EACCES;
-    const int error =
-        copyBeside(source, destination, progress, Owner::Source, [&](const ZEVEntry &temporary) {
-            const int failure = synchronize(temporary);
-            return failure ? failure : renameWithoutReplacing(temporary, destination);
-        });
-    if (error)
-        return error;
-    synchronizeFolder(destination);
-    return removeMoved(source, destination);
-}
-
-int firstError(const ZEVPlace &one, const ZEVPlace &other)
-{
-    return one.error() ? one.error() : other.error();
+    return failure;
 }
 
 int writeFile(const ZEVEntry &entry, const QByteArray &contents)
@@ -116,88 +80,121 @@ int makeFolder(const QByteArray &path)
 
 } // namespace
 
-int ZEVFileOperations::copyItem(const QByteArray &source, const QByteArray &destination,
-                                const Progress &progress)
+ZEVFileFailure ZEVFileOperations::copyItem(const QByteArray &source, const QByteArray &destination,
+                                           const Handling &handling)
 {
     const ZEVPlace from(source);
     const ZEVPlace to(destination);
-    if (const int error = firstError(from, to))
+    if (const ZEVFileFailure failure = prepare(from, to))
+        return failure;
+    if (const int error = to.entry().checkIsFree())
         return error;
-    if (const int error = obstacle(from.entry(), to.entry()))
-        return error;
-    return copyBeside(from.entry(), to.entry(), progress, Owner::Process, [&](const ZEVEntry &temporary) {
-        return renameWithoutReplacing(temporary, to.entry());
-    });
+    return copyBeside(from, to, handling);
 }
 
-int ZEVFileOperations::moveItem(const QByteArray &source, const QByteArray &destination,
-                                const Progress &progress)
+ZEVFileFailure ZEVFileOperations::moveItem(const QByteArray &source, const QByteArray &destination,
+                                           const Handling &handling)
 {
     const ZEVPlace from(source);
     const ZEVPlace to(destination);
-    if (const int error = firstError(from, to))
-        return error;
-    const int error = obstacle(from.entry(), to.entry());
-    if (error == EEXIST && from.entry().name != to.entry().name && isSameName(from.entry(), to.entry()))
-        return ZEVPlaces::errnoOf(renameat(from.entry().folder, from.entry().name.constData(),
-                                           to.entry().folder, to.entry().name.constData()));
+    if (const ZEVFileFailure failure = prepare(from, to))
+        return failure;
+    int error = to.entry().checkIsFree();
+    if (error == EEXIST && isSameName(from.entry(), to.entry()))
+        return ZEVItemMoving::failureOfRenaming(rename(from.entry(), to.entry()), end(from), end(to));
     if (error)
         return error;
-    const int failure = renameWithoutReplacing(from.entry(), to.entry());
-    return failure == EXDEV ? moveToOtherVolume(from.entry(), to.entry(), progress) : failure;
+    error = renameWithoutReplacing(from.entry(), to.entry());
+    return error == EXDEV ? ZEVItemMoving::moveByCopying(end(from), end(to), handling)
+                          : ZEVItemMoving::failureOfRenaming(error, end(from), end(to));
 }
 
-int ZEVFileOperations::replaceItem(const QByteArray &item, const QByteArray &replacement)
+ZEVFileFailure ZEVFileOperations::replaceItem(const QByteArray &item, const QByteArray &replacement)
 {
     const ZEVPlace to(item);
     const ZEVPlace from(replacement);
-    const int error = firstError(to, from);
-    return error ? error : replace(to.entry(), from.entry());
+    if (const ZEVFileFailure failure = prepare(from, to))
+        return failure;
+    if (const ZEVFileFailure failure = ZEVItemMoving::obstacleToReplacing(end(from), end(to)))
+        return failure;
+    return ZEVItemMoving::replace(end(to), end(from));
 }
 
-int ZEVFileOperations::removeItem(const QByteArray &path)
+ZEVFileFailure ZEVFileOperations::moveReplacing(const QByteArray &source, const QByteArray &destination,
+                                                const Handling &handling)
+{
+    const ZEVPlace from(source);
+    const ZEVPlace to(destination);
+    if (const ZEVFileFailure failure = prepare(from, to))
+        return failure;
+    if (const ZEVFileFailure failure = ZEVItemMoving::obstacleToReplacing(end(from), end(to)))
+        return failure;
+    if (const ZEVFileFailure failure = obstacleToRemoval(to.entry(), to.path(), Force::MakeWritable))
+        return failure;
+    return ZEVItemMoving::moveByCopying(end(from), end(to), handling, ZEVItemMoving::Taken::Replace);
+}
+
+ZEVFileFailure ZEVFileOperations::removeItem(const QByteArray &path)
 {
     const ZEVPlace place(path);
     return place.error() ? place.error() : remove(place.entry(), Force::None);
 }
 
-int ZEVFileOperations::createDirectory(const QByteArray &path, bool withIntermediateDirectories)
+ZEVFileFailure ZEVFileOperations::removeTemporary(const QByteArray &path)
 {
-    int error = makeFolder(path);
+    const ZEVPlace place(path);
+    return place.error() ? place.error() : remove(place.entry(), Force::MakeWritable);
+}
+
+ZEVFileFailure ZEVFileOperations::obstacleToReplacing(const QByteArray &source, const QByteArray &destination)
+{
+    const ZEVPlace from(source);
+    const ZEVPlace to(destination);
+    const ZEVFileFailure failure = failureOfOpening(from, to);
+    return failure ? failure : ZEVItemMoving::obstacleToReplacing(end(from), end(to));
+}
+
+ZEVFileFailure ZEVFileOperations::createDirectory(const QByteArray &path, bool withIntermediateDirectories,
+                                                  QByteArrayList *created)
+{
     const qsizetype slash = path.lastIndexOf('/');
+    int error = makeFolder(path);
     if (error == ENOENT && withIntermediateDirectories && slash > 0) {
-        error = createDirectory(path.first(slash), true);
-        error = error ? error : makeFolder(path);
+        if (const ZEVFileFailure failure = createDirectory(path.first(slash), true, created))
+            return failure;
+        error = makeFolder(path);
     }
+    if (!error && created)
+        created->append(path);
     const bool isThere =
         error == EEXIST && withIntermediateDirectories && status(path) && status(path)->isDirectory;
+    if (error == EACCES || error == EROFS || error == ENOENT || error == ENOTDIR)
+        return {error, Reason::Folder, path.first(std::max<qsizetype>(slash, 1))};
     return isThere ? 0 : error;
 }
 
-int ZEVFileOperations::createTemporaryDirectory(const QByteArray &path, QByteArray &created)
+void ZEVFileOperations::removeEmptyDirectory(const QByteArray &path) { rmdir(path.constData()); }
+
+ZEVFileFailure ZEVFileOperations::createTemporaryDirectory(const QByteArray &path, QByteArray &created)
 {
-    created = path.first(path.lastIndexOf('/') + 1) + ZEVPlaces::temporaryName();
-    return ZEVPlaces::errnoOf(mkdir(created.constData(), S_IRWXU));
+    const QByteArray folder = path.first(path.lastIndexOf('/') + 1);
+    created = folder + ZEVTemporaries::name();
+    const int error = ZEVPlaces::errnoOf(mkdir(created.constData(), S_IRWXU));
+    return error ? ZEVFileFailure(error, Reason::Folder, folder.chopped(folder.size() > 1 ? 1 : 0)) : 0;
 }
 
-int ZEVFileOperations::createFile(const QByteArray &path, const QByteArray &contents)
+ZEVFileFailure ZEVFileOperations::createFile(const QByteArray &path, const QByteArray &contents)
 {
     const ZEVPlace place(path);
-    if (place.error())
-        return place.error();
+    if (const ZEVFileFailure failure = failureOfOpening(place, place))
+        return failure;
     if (const int error = place.entry().checkIsFree()) // saves writing it all; the renaming decides
         return error;
-    const ZEVEntry temporary = place.entry().sibling(ZEVPlaces::temporaryName());
+    const ZEVEntry temporary = place.entry().sibling(ZEVTemporaries::name());
     int error = writeFile(temporary, contents);
     if (!error)
         error = renameWithoutReplacing(temporary, place.entry());
     if (error)
         remove(temporary, Force::None);
-    return error;
-}
-
-bool ZEVFileOperations::mayRemove(const QByteArray &path)
-{
-    const ZEVPlace place(path);
-    return place.error() == 0 && ::mayRemove(place.entry());
+    return ZEVItemMoving::failureOfRenaming(error, end(place), end(place));
 }

@@ -7,19 +7,41 @@
 
 // Nothing is done to files where the calls are not known: every operation says so.
 
-int ZEVFileOperations::copyItem(const QByteArray &, const QByteArray &, const Progress &) { return ENOSYS; }
-int ZEVFileOperations::moveItem(const QByteArray &, const QByteArray &, const Progress &) { return ENOSYS; }
-int ZEVFileOperations::replaceItem(const QByteArray &, const QByteArray &) { return ENOSYS; }
-int ZEVFileOperations::removeItem(const QByteArray &) { return ENOSYS; }
-int ZEVFileOperations::createDirectory(const QByteArray &, bool) { return ENOSYS; }
-int ZEVFileOperations::createTemporaryDirectory(const QByteArray &, QByteArray &) { return ENOSYS; }
-int ZEVFileOperations::createFile(const QByteArray &, const QByteArray &) { return ENOSYS; }
+ZEVFileFailure ZEVFileOperations::copyItem(const QByteArray &, const QByteArray &, const Handling &)
+{
+    return ENOSYS;
+}
+ZEVFileFailure ZEVFileOperations::moveItem(const QByteArray &, const QByteArray &, const Handling &)
+{
+    return ENOSYS;
+}
+ZEVFileFailure ZEVFileOperations::replaceItem(const QByteArray &, const QByteArray &) { return ENOSYS; }
+ZEVFileFailure ZEVFileOperations::moveReplacing(const QByteArray &, const QByteArray &, const Handling &)
+{
+    return ENOSYS;
+}
+ZEVFileFailure ZEVFileOperations::removeItem(const QByteArray &) { return ENOSYS; }
+ZEVFileFailure ZEVFileOperations::removeTemporary(const QByteArray &) { return ENOSYS; }
+ZEVFileFailure ZEVFileOperations::obstacleToReplacing(const QByteArray &, const QByteArray &)
+{
+    return ENOSYS;
+}
+ZEVFileFailure ZEVFileOperations::createDirectory(const QByteArray &, bool, QByteArrayList *)
+{
+    return ENOSYS;
+}
+void ZEVFileOperations::removeEmptyDirectory(const QByteArray &) { }
+ZEVFileFailure ZEVFileOperations::createTemporaryDirectory(const QByteArray &, QByteArray &)
+{
+    return ENOSYS;
+}
+ZEVFileFailure ZEVFileOperations::createFile(const QByteArray &, const QByteArray &) { return ENOSYS; }
 std::optional<ZEVFileOperations::Status> ZEVFileOperations::status(const QByteArray &) { return {}; }
 QByteArray ZEVFileOperations::nameOfItem(const Status &, const QByteArray &) { return {}; }
 bool ZEVFileOperations::hasAccess(const QByteArray &, Access) { return false; }
-bool ZEVFileOperations::mayRemove(const QByteArray &) { return false; }
 int ZEVFileOperations::setPermissions(const QByteArray &, unsigned) { return ENOSYS; }
 bool ZEVFileOperations::isImmutable(const QByteArray &) { return false; }
+bool ZEVFileOperations::isLink(const QByteArray &) { return false; }
 int ZEVFileOperations::setImmutable(const QByteArray &, bool) { return ENOSYS; }
 std::optional<QString> ZEVFileOperations::tags(const QByteArray &) { return {}; }
 int ZEVFileOperations::setTags(const QByteArray &, const QString &) { return ENOSYS; }

@@ -44,8 +44,8 @@ int writeAll(int target, const char *bytes, size_t size, qint64 offset)
 
 bool ZEVItemCopying::goesOn(qint64 bytes)
 {
-    m_copied += bytes;
-    return !m_progress || m_progress(m_copied);
+    m_bytes += bytes;
+    return !m_handling.progress || m_handling.progress(m_bytes);
 }
 
 int ZEVItemCopying::copyData(int source, int target, const struct stat &status)
@@ -58,21 +58,32 @@ int ZEVItemCopying::copyData(int source, int target, const struct stat &status)
     return copyRange(source, target, 0, std::numeric_limits<qint64>::max());
 }
 
-/// Only what is not a hole.
+/// Only what is not a hole. A file may say that it is longer than what can be read of it.
 int ZEVItemCopying::copyExtents(int source, int target, qint64 size)
 {
+    m_isAtEnd = false;
     qint64 end = 0;
-    while (end < size) {
+    while (end < size && !m_isAtEnd) {
         const qint64 begin = lseek(source, end, SEEK_DATA);
         if (begin < 0 && errno == ENXIO)
-            break; // one hole up to the end
+            return copyHole(source, target, size);
         end = begin < 0 ? -1 : lseek(source, begin, SEEK_HOLE);
         if (end < 0)
             return errno == EINVAL ? copyRange(source, target, 0, std::numeric_limits<qint64>::max()) : errno;
         if (const int error = copyRange(source, target, begin, end))
             return error;
     }
-    return ZEVPlaces::errnoOf(ftruncate(target, size));
+    return 0;
+}
+
+/// Up to the end, if there is one.
+int ZEVItemCopying::copyHole(int source, int target, qint64 size)
+{
+    char last = 0;
+    const ssize_t read = pread(source, &last, 1, size - 1);
+    if (read < 0)
+        return errno;
+    return read == 0 ? 0 : ZEVPlaces::errnoOf(ftruncate(target, size));
 }
 
 /// Up to the end of the file where that comes first.
@@ -104,6 +115,7 @@ int ZEVItemCopying::copyByReading(int source, int target, qint64 begin, qint64 e
         const ssize_t read = pread(source, buffer.data(), wanted, begin);
         if (read < 0 && errno == EINTR)
             continue;
+        m_isAtEnd = read == 0;
         if (read <= 0)
             return ZEVPlaces::errnoOf(int(read));
         if (const int error = writeAll(target, buffer.data(), size_t(read), begin))

@@ -1,27 +1,34 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVCopiedItems_p.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVItemRenaming_p.h>
 
 #include <cerrno>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
 
 class Removal {
 public:
-    Removal(ZEVItemRenaming::Force force, qint64 &removed)
+    Removal(ZEVItemRenaming::Force force, qint64 &removed, const ZEVCopiedItems *copied = nullptr)
         : m_force(force)
         , m_removed(removed)
+        , m_copied(copied)
     {
     }
+
+    const QByteArray &name() const { return m_name; }
 
     int remove(const ZEVEntry &entry)
     {
         struct stat status { };
         if (const int error = entry.readStatus(status))
-            return error;
+            return m_copied && error == ENOENT ? 0 : error; // whoever took it away has it
+        if (m_copied && !m_copied->hasBytesOf(m_name, status))
+            return EBUSY;
         const bool isFolder = S_ISDIR(status.st_mode);
         const bool isOpened = isFolder && m_force == ZEVItemRenaming::Force::MakeWritable
             && (status.st_mode & S_IRWXU) != S_IRWXU
@@ -43,9 +50,12 @@ private:
         QByteArrayList names;
         if (const int error = ZEVPlaces::readNames(folder.get(), names))
             return error;
+        const qsizetype length = m_name.size();
         for (const QByteArray &name : names) {
+            m_name += '/' + name;
             if (const int error = remove({folder.get(), name}))
-                return error;
+                return error; // the name stays that of the item
+            m_name.truncate(length);
         }
         return 0;
     }
@@ -59,12 +69,96 @@ private:
 
     ZEVItemRenaming::Force m_force;
     qint64 &m_removed;
+    const ZEVCopiedItems *m_copied;
+    QByteArray m_name; ///< from the item on that is removed
+};
+
+/// Looks for what would stop a removal.
+class Survey {
+public:
+    explicit Survey(ZEVItemRenaming::Force force)
+        : m_force(force)
+    {
+    }
+
+    /// \a folder is that which the entry lies in.
+    ZEVFileFailure look(const ZEVEntry &entry, const struct stat &folder, const QByteArray &path) const
+    {
+        struct stat status { };
+        if (const int error = entry.readStatus(status))
+            return error == ENOENT ? ZEVFileFailure() : ZEVFileFailure(error, Reason::Removal, path);
+        const bool isOthers = !isOurs(folder) && !isOurs(status);
+        if (((folder.st_mode & S_ISVTX) && isOthers) || isFixed(entry.folder, entry.name))
+            return {EPERM, Reason::Removal, path};
+        return S_ISDIR(status.st_mode) ? lookWithin(entry, status, path) : 0;
+    }
+
+    /// Whether anything in a folder may be removed.
+    bool mayChange(int folder) const
+    {
+        return faccessat(folder, ".", W_OK | X_OK, AT_EACCESS) == 0 && !isFixed(folder, "");
+    }
+
+private:
+    using Reason = ZEVFileFailure::Reason;
+
+    ZEVFileFailure lookWithin(const ZEVEntry &entry, const struct stat &status, const QByteArray &path) const
+    {
+        const bool canOpen = m_force == ZEVItemRenaming::Force::MakeWritable && isOurs(status);
+        const ZEVDescriptor folder = ZEVPlaces::openFolder(entry);
+        if (!folder)
+            return canOpen ? 0 : ZEVFileFailure(errno, Reason::Removal, path);
+        QByteArrayList names;
+        if (const int error = ZEVPlaces::readNames(folder.get(), names))
+            return {error, Reason::Removal, path};
+        if (!names.isEmpty() && !canOpen && !mayChange(folder.get()))
+            return {EACCES, Reason::Removal, path + '/' + names.first()};
+        for (const QByteArray &name : std::as_const(names)) {
+            if (const ZEVFileFailure failure = look({folder.get(), name}, status, path + '/' + name))
+                return failure;
+        }
+        return 0;
+    }
+
+    static bool isOurs(const struct stat &status) { return geteuid() == 0 || status.st_uid == geteuid(); }
+
+    /// Immutable, or one that is only added to.
+    static bool isFixed(int folder, const QByteArray &name)
+    {
+        struct statx status { };
+        const int flags = AT_SYMLINK_NOFOLLOW | AT_EMPTY_PATH | AT_STATX_DONT_SYNC;
+        return statx(folder, name.constData(), flags, STATX_TYPE, &status) == 0
+            && (status.stx_attributes & (STATX_ATTR_IMMUTABLE | STATX_ATTR_APPEND)) != 0;
+    }
+
+    ZEVItemRenaming::Force m_force;
 };
 
 } // namespace
+
+ZEVFileFailure ZEVItemRenaming::obstacleToRemoval(const ZEVEntry &entry, const QByteArray &path, Force force)
+{
+    const Survey survey(force);
+    struct stat folder { };
+    if (fstat(entry.folder, &folder) < 0)
+        return errno;
+    if (!survey.mayChange(entry.folder))
+        return {EACCES, ZEVFileFailure::Reason::Folder,
+                path.first(std::max<qsizetype>(path.lastIndexOf('/'), 1))};
+    return survey.look(entry, folder, path);
+}
 
 int ZEVItemRenaming::remove(const ZEVEntry &entry, Force force, qint64 *removed)
 {
     qint64 count = 0;
     return Removal(force, removed ? *removed : count).remove(entry);
+}
+
+int ZEVItemRenaming::removeCopied(const ZEVEntry &entry, const ZEVCopiedItems &copied, QByteArray &changed,
+                                  qint64 &removed)
+{
+    Removal removal(Force::None, removed, &copied);
+    const int error = removal.remove(entry);
+    changed = removal.name();
+    return error == ENOTEMPTY ? EBUSY : error; // what has just come in was not copied
 }

@@ -3,8 +3,6 @@
 
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVPlace_p.h>
 
-#include <QRandomGenerator>
-
 #include <cerrno>
 #include <dirent.h>
 #include <fcntl.h>
@@ -41,6 +39,7 @@ int ZEVEntry::checkIsFree() const
 }
 
 ZEVPlace::ZEVPlace(const QByteArray &path)
+    : m_path(path)
 {
     const qsizetype slash = path.lastIndexOf('/');
     m_name = path.sliced(slash + 1);
@@ -48,15 +47,13 @@ ZEVPlace::ZEVPlace(const QByteArray &path)
         m_error = EINVAL;
         return;
     }
-    const QByteArray folder = path.first(std::max<qsizetype>(slash, 1));
-    m_folder = ZEVDescriptor(open(folder.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+    m_folder = ZEVDescriptor(open(folderPath().constData(), O_PATH | O_DIRECTORY | O_CLOEXEC));
     m_error = m_folder ? 0 : errno;
 }
 
-QByteArray ZEVPlaces::temporaryName()
+QByteArray ZEVPlace::folderPath() const
 {
-    const QByteArray random = QByteArray::number(QRandomGenerator::system()->generate64(), 16);
-    return ".zev-" + random.rightJustified(16, '0') + ".tmp";
+    return m_path.first(std::max<qsizetype>(m_path.lastIndexOf('/'), 1));
 }
 
 ZEVDescriptor ZEVPlaces::openFolder(const ZEVEntry &entry)
@@ -86,4 +83,11 @@ int ZEVPlaces::errnoOf(int result) { return result < 0 ? errno : 0; }
 bool ZEVPlaces::isSameItem(const struct stat &one, const struct stat &other)
 {
     return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
+}
+
+bool ZEVPlaces::isSameFolder(const ZEVEntry &one, const ZEVEntry &other)
+{
+    struct stat first { };
+    struct stat second { };
+    return fstat(one.folder, &first) == 0 && fstat(other.folder, &second) == 0 && isSameItem(first, second);
 }

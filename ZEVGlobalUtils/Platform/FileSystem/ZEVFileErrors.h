@@ -37,7 +37,16 @@ enum class Operation {
 ZEV_EXPORT ZEVError error(int posixCode, Operation operation, const QUrl &source,
                           const QUrl &destination = {});
 
-/// The errno beneath an error, or 0.
+/// The item that an error is about, with the bytes of its name; invalid where it is about none.
+ZEV_EXPORT QUrl itemURL(const ZEVError &error);
+
+/// \a error with another one beneath it: that of the repair which was tried because of it.
+ZEV_EXPORT ZEVError withErrorBeneath(const ZEVError &error, const ZEVError &beneath);
+
+/// What to tell the user of an error and of those beneath it, a line each.
+ZEV_EXPORT QString fullDescription(const ZEVError &error);
+
+/// The errno at the bottom of an error, or 0.
 ZEV_EXPORT int posixCode(const ZEVError &error);
 
 } // namespace ZEVFileErrors

@@ -20,17 +20,6 @@ bool isExtension(const QByteArray &bytes)
 
 bool continuesCharacter(char byte) { return (byte & 0xC0) == 0x80; }
 
-/// Not in the middle of a character of UTF-8; of bytes that are none, wherever it falls.
-QByteArray shortened(const QByteArray &bytes, qsizetype size)
-{
-    if (bytes.size() <= size)
-        return bytes;
-    qsizetype end = std::max<qsizetype>(size, 0);
-    for (int back = 0; back < 3 && end > 0 && continuesCharacter(bytes.at(end)); ++back)
-        --end;
-    return bytes.first(end);
-}
-
 } // namespace
 
 ZEVFileName::ZEVFileName(const QByteArray &name)
@@ -47,6 +36,17 @@ QByteArray ZEVFileName::fitting() const
 {
     const QByteArray end = extension.isEmpty() ? QByteArray() : '.' + extension;
     return shortened(base, LongestName - end.size()) + end;
+}
+
+/// Not in the middle of a character of UTF-8; of bytes that are none, wherever it falls.
+QByteArray ZEVFileName::shortened(const QByteArray &bytes, qsizetype size)
+{
+    if (bytes.size() <= size)
+        return bytes;
+    qsizetype end = std::max<qsizetype>(size, 0);
+    for (int back = 0; back < 3 && end > 0 && continuesCharacter(bytes.at(end)); ++back)
+        --end;
+    return bytes.first(end);
 }
 
 QByteArray ZEVFileName::numbered(int number, Dot dot) const

@@ -22,6 +22,9 @@ struct ZEVFileName {
     /// The name itself, shortened in the same way.
     QByteArray fitting() const;
 
+    /// At most so many bytes, and no part of a character of UTF-8.
+    static QByteArray shortened(const QByteArray &bytes, qsizetype size);
+
     QByteArray base;
     QByteArray extension; ///< without its dot
 };

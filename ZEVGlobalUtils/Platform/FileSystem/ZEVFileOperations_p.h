@@ -3,35 +3,54 @@
 
 #pragma once
 
-#include <QByteArray>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileFailure_p.h>
+
+#include <QByteArrayList>
 #include <QString>
 
 #include <functional>
 #include <optional>
 
-/// What is asked of the system about files. Paths are absolute and bytes; failures come as an errno, 0 being
-/// success. No operation follows a symbolic link in the last place unless it says so, none leaves a half item
+/// What is asked of the system about files. Paths are absolute and bytes; failures are those of
+/// ZEVFileFailure, or an errno alone. No operation follows a symbolic link in the last place unless it says so, none leaves a half item
 /// under a final name, and what fails leaves source and destination as they were.
 namespace ZEVFileOperations {
 
-/// Told how many bytes an operation has copied so far; false cancels it (ECANCELED).
-using Progress = std::function<bool(qint64 bytes)>;
+/// What is asked while items are copied.
+struct Handling {
+    /// Told how many bytes an operation has copied so far; false cancels it (ECANCELED).
+    std::function<bool(qint64 bytes)> progress;
+
+    /// Whether the item may lose attributes that are too large for the volume.
+    std::function<bool(const QByteArray &path)> mayLeaveOutAttributes;
+};
 
 /// Whole folders too; EEXIST where the destination exists.
-int copyItem(const QByteArray &source, const QByteArray &destination, const Progress &progress);
-int moveItem(const QByteArray &source, const QByteArray &destination, const Progress &progress);
+ZEVFileFailure copyItem(const QByteArray &source, const QByteArray &destination, const Handling &handling);
+ZEVFileFailure moveItem(const QByteArray &source, const QByteArray &destination, const Handling &handling);
 
 /// Durable: puts \a replacement in the place of \a item, at once. EXDEV across volumes.
-int replaceItem(const QByteArray &item, const QByteArray &replacement);
-int removeItem(const QByteArray &path);
+ZEVFileFailure replaceItem(const QByteArray &item, const QByteArray &replacement);
 
-int createDirectory(const QByteArray &path, bool withIntermediateDirectories);
+/// The same from another volume: what is replaced goes when the source has gone.
+ZEVFileFailure moveReplacing(const QByteArray &source, const QByteArray &destination,
+                             const Handling &handling);
+
+/// Whether the destination is a folder around the source, whose place nothing from within may take.
+ZEVFileFailure obstacleToReplacing(const QByteArray &source, const QByteArray &destination);
+
+ZEVFileFailure removeItem(const QByteArray &path);
+ZEVFileFailure removeTemporary(const QByteArray &path); ///< with all in it, whatever its rights are
+
+ZEVFileFailure createDirectory(const QByteArray &path, bool withIntermediateDirectories,
+                               QByteArrayList *created = nullptr);
+void removeEmptyDirectory(const QByteArray &path);
 
 /// A private folder beside \a path, whose name is none of the user's.
-int createTemporaryDirectory(const QByteArray &path, QByteArray &created);
+ZEVFileFailure createTemporaryDirectory(const QByteArray &path, QByteArray &created);
 
 /// A new file, of which all is there or nothing; EEXIST where the name is taken.
-int createFile(const QByteArray &path, const QByteArray &contents);
+ZEVFileFailure createFile(const QByteArray &path, const QByteArray &contents);
 
 struct Status {
     bool isDirectory = false;
@@ -46,10 +65,10 @@ QByteArray nameOfItem(const Status &identity, const QByteArray &folder);
 
 enum class Access { Read = 4, Write = 2 };
 bool hasAccess(const QByteArray &path, Access access); ///< follows links
-bool mayRemove(const QByteArray &path);
 
 int setPermissions(const QByteArray &path, unsigned mode); ///< follows links
 bool isImmutable(const QByteArray &path); ///< follows links
+bool isLink(const QByteArray &path);
 int setImmutable(const QByteArray &path, bool immutable); ///< follows links
 
 /// Of a folder or file, in the order given to them; follows links.

@@ -3,11 +3,14 @@
 
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
 
+#include <QSysInfo>
+
 using namespace Qt::StringLiterals;
 
 QByteArray ZEVFileURL::path(const QUrl &url)
 {
-    const bool isOurs = url.host().isEmpty() || url.host() == u"localhost";
+    const bool isOurs = url.host().isEmpty() || url.host() == u"localhost"
+        || url.host().compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0;
     const QByteArray given = QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1());
     if (!url.isLocalFile() || !isOurs || !given.startsWith('/') || given.contains('\0'))
         return {};

@@ -13,8 +13,8 @@
 /// QUrl::toLocalFile() loses such names. Any thread.
 namespace ZEVFileURL {
 
-/// Absolute, without doubled or trailing slashes; empty for what is no file of this machine, a URL with
-/// another host, a relative path or a zero byte in it.
+/// Absolute, without doubled or trailing slashes; empty for what is no file of this machine (RFC 8089: a
+/// program may name it), a URL with another host, a relative path or a zero byte in it.
 ZEV_EXPORT QByteArray path(const QUrl &url);
 
 /// \a path is absolute.

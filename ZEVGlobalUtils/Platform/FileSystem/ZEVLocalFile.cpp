@@ -3,14 +3,15 @@
 
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVLocalFile_p.h>
 
-#include <QSysInfo>
-#include <QUrl>
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
+
+#include <QFile>
 
 std::optional<QString> ZEVLocalFile::path(const QUrl &url)
 {
-    const QString host = url.host();
-    const bool isHere = host.isEmpty() || host == u"localhost"
-        || host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0;
-    const QString path = url.path(QUrl::FullyDecoded);
-    return url.scheme() == u"file" && isHere && !path.isEmpty() ? std::optional(path) : std::nullopt;
+    const QByteArray path = ZEVFileURL::path(url);
+    const bool namesFolder = url.path().endsWith(u'/') && path != "/";
+    if (path.isEmpty())
+        return std::nullopt;
+    return QFile::decodeName(path) + (namesFolder ? QStringLiteral("/") : QString());
 }

@@ -57,17 +57,17 @@ public:
     /// Why the folder could not be opened; an errno.
     int error() const { return m_error; }
     ZEVEntry entry() const { return {m_folder.get(), m_name}; }
+    const QByteArray &path() const { return m_path; }
+    QByteArray folderPath() const;
 
 private:
+    QByteArray m_path;
     ZEVDescriptor m_folder;
     QByteArray m_name;
     int m_error = 0;
 };
 
 namespace ZEVPlaces {
-
-/// Hidden, and told from the user's own by its beginning and end: ".zev-0123456789abcdef.tmp".
-QByteArray temporaryName();
 
 /// Opens a folder for reading, and never one that a link leads to.
 ZEVDescriptor openFolder(const ZEVEntry &entry);
@@ -79,5 +79,8 @@ int readNames(int folder, QByteArrayList &names);
 int errnoOf(int result);
 
 bool isSameItem(const struct stat &one, const struct stat &other);
+
+/// Two descriptors of one folder differ as numbers.
+bool isSameFolder(const ZEVEntry &one, const ZEVEntry &other);
 
 } // namespace ZEVPlaces

@@ -18,17 +18,27 @@ using ZEVFileErrors::Operation;
 using ZEVFileURL::path;
 
 /// Runs \a operation on the paths of the URLs, all of which must be files of this machine.
-int perform(const auto &operation, const QUrl &url, const auto &...others)
+ZEVFileFailure perform(const auto &operation, const QUrl &url, const auto &...others)
 {
     const bool areFiles = !path(url).isEmpty() && (!path(others).isEmpty() && ...);
-    return areFiles ? operation(path(url), path(others)...) : EINVAL;
+    return areFiles ? operation(path(url), path(others)...) : ZEVFileFailure(EINVAL);
 }
 
-bool succeeded(int code, ZEVError *error, const QUrl &url)
+bool succeeded(const ZEVFileFailure &failure, ZEVError *error, const QUrl &url)
 {
-    if (code && error)
-        *error = ZEVFileErrors::error(code, Operation::Change, url);
-    return code == 0;
+    if (failure && error)
+        *error = ZEVFileErrors::error(failure, Operation::Change, url);
+    return !failure;
+}
+
+ZEVFileOperations::Handling handlingOf(ZEVPlainFileManager &manager)
+{
+    const auto mayLeaveOut = [&manager](const QByteArray &path) {
+        ZEVPlainFileManagerDelegate *delegate = manager.delegate();
+        return delegate
+            && delegate->shouldProceedWithoutAttributesOfItemAtURL(manager, ZEVFileURL::withPath(path));
+    };
+    return {manager.progressHandler(), mayLeaveOut};
 }
 
 } // namespace
@@ -49,6 +59,12 @@ bool ZEVPlainFileManagerDelegate::shouldProceedAfterErrorCopyingItemAtURL(ZEVPla
     return false;
 }
 
+bool ZEVPlainFileManagerDelegate::shouldProceedWithoutAttributesOfItemAtURL(ZEVPlainFileManager &,
+                                                                            const QUrl &)
+{
+    return false;
+}
+
 ZEVPlainFileManager *ZEVPlainFileManager::defaultManager()
 {
     static ZEVPlainFileManager manager;
@@ -57,16 +73,18 @@ ZEVPlainFileManager *ZEVPlainFileManager::defaultManager()
 
 ZEVPlainFileManager::~ZEVPlainFileManager() = default;
 
+QString ZEVPlainFileManager::temporaryNameFilter() { return u".zev-*.tmp"_s; }
+
 bool ZEVPlainFileManager::copyItemAtURL(const QUrl &srcURL, const QUrl &dstURL, ZEVError *error)
 {
-    const int code = perform(
+    const ZEVFileFailure problem = perform(
         [this](const QByteArray &source, const QByteArray &destination) {
-            return ZEVFileOperations::copyItem(source, destination, m_progressHandler);
+            return ZEVFileOperations::copyItem(source, destination, handlingOf(*this));
         },
         srcURL, dstURL);
-    if (code == 0)
+    if (!problem)
         return true;
-    const ZEVError failure = ZEVFileErrors::error(code, Operation::Copy, srcURL, dstURL);
+    const ZEVError failure = ZEVFileErrors::error(problem, Operation::Copy, srcURL, dstURL);
     if (m_delegate && m_delegate->shouldProceedAfterErrorCopyingItemAtURL(*this, failure, srcURL, dstURL))
         return true;
     if (error)
@@ -76,14 +94,14 @@ bool ZEVPlainFileManager::copyItemAtURL(const QUrl &srcURL, const QUrl &dstURL, 
 
 bool ZEVPlainFileManager::moveItemAtURL(const QUrl &srcURL, const QUrl &dstURL, ZEVError *error)
 {
-    const int code = perform(
+    const ZEVFileFailure problem = perform(
         [this](const QByteArray &source, const QByteArray &destination) {
-            return ZEVFileOperations::moveItem(source, destination, m_progressHandler);
+            return ZEVFileOperations::moveItem(source, destination, handlingOf(*this));
         },
         srcURL, dstURL);
-    if (code == 0)
+    if (!problem)
         return true;
-    const ZEVError failure = ZEVFileErrors::error(code, Operation::Move, srcURL, dstURL);
+    const ZEVError failure = ZEVFileErrors::error(problem, Operation::Move, srcURL, dstURL);
     if (m_delegate && m_delegate->shouldProceedAfterErrorMovingItemAtURL(*this, failure, srcURL, dstURL))
         return true;
     if (error)
@@ -94,10 +112,23 @@ bool ZEVPlainFileManager::moveItemAtURL(const QUrl &srcURL, const QUrl &dstURL, 
 bool ZEVPlainFileManager::replaceItemAtURL(const QUrl &originalItemURL, const QUrl &newItemURL,
                                            QUrl *resultingItemURL, ZEVError *error)
 {
-    const int code = perform(ZEVFileOperations::replaceItem, originalItemURL, newItemURL);
-    if (code == 0 && resultingItemURL)
-        *resultingItemURL = originalItemURL;
-    return succeeded(code, error, originalItemURL);
+    const ZEVFileFailure failure = perform(ZEVFileOperations::replaceItem, originalItemURL, newItemURL);
+    const QUrl resulting = originalItemURL; // which may be the same as what it is written to
+    if (!failure && resultingItemURL)
+        *resultingItemURL = resulting;
+    return succeeded(failure, error, resulting);
+}
+
+bool ZEVPlainFileManager::moveItemReplacingItemAtURL(const QUrl &srcURL, const QUrl &dstURL, ZEVError *error)
+{
+    const ZEVFileFailure failure = perform(
+        [this](const QByteArray &source, const QByteArray &destination) {
+            return ZEVFileOperations::moveReplacing(source, destination, handlingOf(*this));
+        },
+        srcURL, dstURL);
+    if (failure && error)
+        *error = ZEVFileErrors::error(failure, Operation::Move, srcURL, dstURL);
+    return !failure;
 }
 
 bool ZEVPlainFileManager::removeItemAtURL(const QUrl &url, ZEVError *error)
@@ -160,5 +191,5 @@ bool ZEVPlainFileManager::setTagNames(const QStringList &names, const QUrl &url)
     const auto set = [&](const QByteArray &path) {
         return ZEVFileOperations::setTags(path, names.join(u','));
     };
-    return perform(set, url) == 0;
+    return !perform(set, url);
 }

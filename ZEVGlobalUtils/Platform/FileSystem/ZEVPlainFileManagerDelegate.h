@@ -21,4 +21,8 @@ public:
     virtual bool shouldProceedAfterErrorCopyingItemAtURL(ZEVPlainFileManager &fileManager,
                                                          const ZEVError &error, const QUrl &srcURL,
                                                          const QUrl &dstURL);
+
+    /// Asked before such an error: extended attributes of the item are too large for the volume. True lets the
+    /// copy go on without them.
+    virtual bool shouldProceedWithoutAttributesOfItemAtURL(ZEVPlainFileManager &fileManager, const QUrl &url);
 };

@@ -6,9 +6,11 @@
 #include <ZEVGlobalUtils/Export.h>
 
 #include <QIcon>
+#include <QPixmap>
 #include <QStringList>
 
 #include <functional>
+#include <optional>
 
 class QWidget;
 class ZEVError;
@@ -24,7 +26,7 @@ public:
     /// The error's texts, and a button for each of its recovery options, or "OK" where it has none.
     static ZEVAlert alertWithError(const ZEVError &error);
 
-    QString windowTitle;
+    std::optional<QString> windowTitle; ///< nil is the application's name; an empty one shows none
     QString messageText;
     QString informativeText;
     QIcon icon; ///< a null one is that of a warning
@@ -36,8 +38,12 @@ public:
     QString suppressionTitle;
     bool isSuppressed = false; ///< whether its box is ticked
 
-    /// Makes what stands below the texts; may be empty.
-    std::function<QWidget *(QWidget *parent)> accessoryView;
+    /// What the question is about: shown below the texts, one below the other.
+    struct Item {
+        QPixmap picture;
+        QString text; ///< its lines, as they stand
+    };
+    QList<Item> items;
 
     /// Returns the button's answer; closing the window is the last button's. A quitting application closes
     /// it.

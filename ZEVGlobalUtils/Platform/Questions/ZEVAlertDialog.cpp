@@ -45,8 +45,7 @@ ZEVAlertDialog::ZEVAlertDialog(const ZEVAlert &alert, QWidget *parent)
     : QDialog(parent)
     , m_escapeButton(alert.escapeButton)
 {
-    setWindowTitle(alert.windowTitle.isEmpty() ? QGuiApplication::applicationDisplayName()
-                                               : alert.windowTitle);
+    setWindowTitle(alert.windowTitle.value_or(QGuiApplication::applicationDisplayName()));
     auto *rows = new QVBoxLayout(this);
     auto *columns = new QHBoxLayout;
     auto *column = new QVBoxLayout;
@@ -55,8 +54,7 @@ ZEVAlertDialog::ZEVAlertDialog(const ZEVAlert &alert, QWidget *parent)
     rows->addLayout(columns, 1);
     rows->addSpacing(style()->pixelMetric(QStyle::PM_LayoutVerticalSpacing));
     addTexts(column, alert);
-    if (alert.accessoryView)
-        column->addWidget(alert.accessoryView(this));
+    addItems(column, alert);
     addSuppression(column, alert);
     column->addStretch();
     rows->addLayout(makeButtons(alert));
@@ -93,6 +91,24 @@ void ZEVAlertDialog::addTexts(QVBoxLayout *column, const ZEVAlert &alert)
     if (!alert.informativeText.isEmpty())
         addText(column, alert.informativeText);
     setAccessibleDescription(alert.messageText + u'\n' + alert.informativeText);
+}
+
+void ZEVAlertDialog::addItems(QVBoxLayout *column, const ZEVAlert &alert)
+{
+    auto *grid = new QGridLayout;
+    for (const ZEVAlert::Item &item : alert.items) {
+        const int row = grid->rowCount();
+        auto *picture = new QLabel;
+        picture->setPixmap(item.picture);
+        picture->setAlignment(Qt::AlignCenter);
+        auto *text = new QLabel(breakable(item.text));
+        text->setTextFormat(Qt::PlainText);
+        text->setWordWrap(true);
+        grid->addWidget(picture, row, 0, Qt::AlignTop);
+        grid->addWidget(text, row, 1, Qt::AlignTop);
+    }
+    grid->setColumnStretch(1, 1);
+    column->addLayout(grid);
 }
 
 void ZEVAlertDialog::addSuppression(QVBoxLayout *column, const ZEVAlert &alert)

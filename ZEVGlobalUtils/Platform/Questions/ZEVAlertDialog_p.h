@@ -29,6 +29,7 @@ private:
     QLabel *addIcon(const ZEVAlert &alert);
     QLabel *addText(QVBoxLayout *column, const QString &text);
     void addTexts(QVBoxLayout *column, const ZEVAlert &alert);
+    void addItems(QVBoxLayout *column, const ZEVAlert &alert);
     void addSuppression(QVBoxLayout *column, const ZEVAlert &alert);
     QLayout *makeButtons(const ZEVAlert &alert);
 

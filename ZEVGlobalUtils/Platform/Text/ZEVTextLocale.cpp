@@ -25,3 +25,11 @@ const QByteArray &ZEVTextLocale::userIdentifier()
     }
     return lastIdentifier;
 }
+
+QByteArray ZEVTextLocale::dateIdentifier()
+{
+    const QString dates = qEnvironmentVariable("LC_TIME");
+    const bool isOverruled = dates.isEmpty() || !qEnvironmentVariable("LC_ALL").isEmpty()
+        || QLocale().name() != QLocale::system().name();
+    return isOverruled ? userIdentifier() : identifier(QLocale(dates));
+}

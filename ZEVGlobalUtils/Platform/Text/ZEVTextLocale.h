@@ -19,4 +19,7 @@ ZEV_EXPORT QByteArray identifier(const QLocale &locale);
 /// Any thread.
 ZEV_EXPORT const QByteArray &userIdentifier();
 
+/// That of dates: LC_TIME's (POSIX), unless the host has set another locale than the system's. Any thread.
+ZEV_EXPORT QByteArray dateIdentifier();
+
 } // namespace ZEVTextLocale

@@ -3,7 +3,8 @@
 
 #pragma once
 
+#include <ZEVGlobalUtils/Export.h>
+
 /// The version as the library's binary carries it, for `strings` and `what`.
-inline constexpr double ZEVGlobalUtilsVersionNumber = 1.0;
-inline constexpr char ZEVGlobalUtilsVersionString[] =
-    "@(#)PROGRAM:ZEVGlobalUtils  PROJECT:ZEVGlobalUtils-1\n";
+ZEV_EXPORT extern const double ZEVGlobalUtilsVersionNumber;
+ZEV_EXPORT extern const char ZEVGlobalUtilsVersionString[];

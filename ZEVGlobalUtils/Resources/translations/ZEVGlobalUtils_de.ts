@@ -364,6 +364,66 @@
         <translation>Auswahl zum Suchen &amp;verwenden</translation>
     </message>
     <message>
+        <source>the folder “%1” does not exist</source>
+        <translation>den Ordner „%1“ gibt es nicht</translation>
+    </message>
+    <message>
+        <source>“%1” is not a folder</source>
+        <translation>„%1“ ist kein Ordner</translation>
+    </message>
+    <message>
+        <source>you do not have permission to change the folder “%1”</source>
+        <translation>die Berechtigung zum Ändern des Ordners „%1“ fehlt</translation>
+    </message>
+    <message>
+        <source>you do not have permission to read “%1”</source>
+        <translation>die Berechtigung zum Lesen von „%1“ fehlt</translation>
+    </message>
+    <message>
+        <source>“%1” may not be removed from where it is</source>
+        <translation>„%1“ darf dort, wo es ist, nicht entfernt werden</translation>
+    </message>
+    <message>
+        <source>a folder cannot be put into itself</source>
+        <translation>ein Ordner kann nicht in sich selbst gelegt werden</translation>
+    </message>
+    <message>
+        <source>it lies in the folder “%1”, whose place it would take</source>
+        <translation>es liegt in dem Ordner „%1“, dessen Platz es einnehmen würde</translation>
+    </message>
+    <message>
+        <source>the volume does not allow the name “%1”</source>
+        <translation>der Datenträger lässt den Namen „%1“ nicht zu</translation>
+    </message>
+    <message>
+        <source>the volume takes “%1” for the name of another item in the same folder</source>
+        <translation>der Datenträger hält „%1“ für den Namen eines anderen Objekts im selben Ordner</translation>
+    </message>
+    <message>
+        <source>“%1” has more attributes than the volume can keep</source>
+        <translation>„%1“ hat mehr Attribute, als der Datenträger aufbewahren kann</translation>
+    </message>
+    <message>
+        <source>“%1” is a socket or a device</source>
+        <translation>„%1“ ist ein Socket oder ein Gerät</translation>
+    </message>
+    <message>
+        <source>“%1” is a link or a pipe, which the volume does not have</source>
+        <translation>„%1“ ist ein Verweis oder eine Pipe, die der Datenträger nicht kennt</translation>
+    </message>
+    <message>
+        <source>others could read “%1” on the volume, which keeps no permissions</source>
+        <translation>andere könnten „%1“ auf dem Datenträger lesen, der keine Berechtigungen aufbewahrt</translation>
+    </message>
+    <message>
+        <source>“%1” has changed meanwhile, and was kept</source>
+        <translation>„%1“ hat sich inzwischen geändert und wurde behalten</translation>
+    </message>
+    <message>
+        <source>“%1”: %2</source>
+        <translation>„%1“: %2</translation>
+    </message>
+    <message>
         <source>the item does not exist</source>
         <translation>das Objekt gibt es nicht</translation>
     </message>

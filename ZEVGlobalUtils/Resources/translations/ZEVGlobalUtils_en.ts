@@ -364,6 +364,66 @@
         <translation>Use &amp;Selection for Find</translation>
     </message>
     <message>
+        <source>the folder “%1” does not exist</source>
+        <translation>the folder “%1” does not exist</translation>
+    </message>
+    <message>
+        <source>“%1” is not a folder</source>
+        <translation>“%1” is not a folder</translation>
+    </message>
+    <message>
+        <source>you do not have permission to change the folder “%1”</source>
+        <translation>you do not have permission to change the folder “%1”</translation>
+    </message>
+    <message>
+        <source>you do not have permission to read “%1”</source>
+        <translation>you do not have permission to read “%1”</translation>
+    </message>
+    <message>
+        <source>“%1” may not be removed from where it is</source>
+        <translation>“%1” may not be removed from where it is</translation>
+    </message>
+    <message>
+        <source>a folder cannot be put into itself</source>
+        <translation>a folder cannot be put into itself</translation>
+    </message>
+    <message>
+        <source>it lies in the folder “%1”, whose place it would take</source>
+        <translation>it lies in the folder “%1”, whose place it would take</translation>
+    </message>
+    <message>
+        <source>the volume does not allow the name “%1”</source>
+        <translation>the volume does not allow the name “%1”</translation>
+    </message>
+    <message>
+        <source>the volume takes “%1” for the name of another item in the same folder</source>
+        <translation>the volume takes “%1” for the name of another item in the same folder</translation>
+    </message>
+    <message>
+        <source>“%1” has more attributes than the volume can keep</source>
+        <translation>“%1” has more attributes than the volume can keep</translation>
+    </message>
+    <message>
+        <source>“%1” is a socket or a device</source>
+        <translation>“%1” is a socket or a device</translation>
+    </message>
+    <message>
+        <source>“%1” is a link or a pipe, which the volume does not have</source>
+        <translation>“%1” is a link or a pipe, which the volume does not have</translation>
+    </message>
+    <message>
+        <source>others could read “%1” on the volume, which keeps no permissions</source>
+        <translation>others could read “%1” on the volume, which keeps no permissions</translation>
+    </message>
+    <message>
+        <source>“%1” has changed meanwhile, and was kept</source>
+        <translation>“%1” has changed meanwhile, and was kept</translation>
+    </message>
+    <message>
+        <source>“%1”: %2</source>
+        <translation>“%1”: %2</translation>
+    </message>
+    <message>
         <source>the item does not exist</source>
         <translation>the item does not exist</translation>
     </message>

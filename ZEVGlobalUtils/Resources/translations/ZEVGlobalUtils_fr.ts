@@ -364,6 +364,66 @@
         <translation>&amp;Utiliser la sélection pour la recherche</translation>
     </message>
     <message>
+        <source>the folder “%1” does not exist</source>
+        <translation>le dossier «&#xa0;%1&#xa0;» n’existe pas</translation>
+    </message>
+    <message>
+        <source>“%1” is not a folder</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un dossier</translation>
+    </message>
+    <message>
+        <source>you do not have permission to change the folder “%1”</source>
+        <translation>vous n’avez pas l’autorisation de modifier le dossier «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>you do not have permission to read “%1”</source>
+        <translation>vous n’avez pas l’autorisation de lire «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>“%1” may not be removed from where it is</source>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être retiré de son emplacement</translation>
+    </message>
+    <message>
+        <source>a folder cannot be put into itself</source>
+        <translation>un dossier ne peut pas être placé dans lui-même</translation>
+    </message>
+    <message>
+        <source>it lies in the folder “%1”, whose place it would take</source>
+        <translation>il se trouve dans le dossier «&#xa0;%1&#xa0;», dont il prendrait la place</translation>
+    </message>
+    <message>
+        <source>the volume does not allow the name “%1”</source>
+        <translation>le volume n’accepte pas le nom «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>the volume takes “%1” for the name of another item in the same folder</source>
+        <translation>le volume confond «&#xa0;%1&#xa0;» avec le nom d’un autre élément du même dossier</translation>
+    </message>
+    <message>
+        <source>“%1” has more attributes than the volume can keep</source>
+        <translation>«&#xa0;%1&#xa0;» a plus d’attributs que le volume ne peut en conserver</translation>
+    </message>
+    <message>
+        <source>“%1” is a socket or a device</source>
+        <translation>«&#xa0;%1&#xa0;» est un socket ou un périphérique</translation>
+    </message>
+    <message>
+        <source>“%1” is a link or a pipe, which the volume does not have</source>
+        <translation>«&#xa0;%1&#xa0;» est un lien ou un tube, que le volume ne connaît pas</translation>
+    </message>
+    <message>
+        <source>others could read “%1” on the volume, which keeps no permissions</source>
+        <translation>d’autres pourraient lire «&#xa0;%1&#xa0;» sur le volume, qui ne conserve pas les autorisations</translation>
+    </message>
+    <message>
+        <source>“%1” has changed meanwhile, and was kept</source>
+        <translation>«&#xa0;%1&#xa0;» a changé entre-temps et a été conservé</translation>
+    </message>
+    <message>
+        <source>“%1”: %2</source>
+        <translation>«&#xa0;%1&#xa0;»&#xa0;: %2</translation>
+    </message>
+    <message>
         <source>the item does not exist</source>
         <translation>l’élément n’existe pas</translation>
     </message>

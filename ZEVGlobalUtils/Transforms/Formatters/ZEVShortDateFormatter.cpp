@@ -42,5 +42,5 @@ const ZEVShortDateFormatter &ZEVShortDateFormatter::sharedInstance()
 
 QString ZEVShortDateFormatter::stringFromDate(const QDateTime &date) const
 {
-    return d->formatFor(ZEVTextLocale::userIdentifier()).stringFromDate(date);
+    return d->formatFor(ZEVTextLocale::dateIdentifier()).stringFromDate(date);
 }

@@ -9,6 +9,7 @@
 #include <tageditor/tracks/TrackTableModel.h>
 #include <tageditor/window/ProgressView.h>
 
+#include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileErrors.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
 #include <ZEVGlobalUtils/Platform/Questions/ZEVOpenPanel.h>
 
@@ -181,7 +182,7 @@ void FileActions::finish(const FileBatch::Result &result)
         text += tr(", stopped");
     if (!result.errors.isEmpty())
         text = tr("%1, %Ln failed: %2", nullptr, int(result.errors.size()))
-                   .arg(text, result.errors.first().localizedDescription());
+                   .arg(text, ZEVFileErrors::fullDescription(result.errors.first()));
     Q_EMIT reported(text, !result.errors.isEmpty());
 }
 

@@ -173,14 +173,27 @@ private:
             change.replaced = trashed(change.destination);
         const bool isFree = change.replaced.isValid();
         ZEVError error = conflict;
-        if (isFree
-                ? bring(change, error)
-                : m_manager.attemptFixingFileExistsError(conflict, answer, change.source, change.destination))
+        if (isFree ? bring(change, error) : follow(answer, change, error))
             note(change);
         else if (answer == ZEVFileExistsRecoveryKeepBoth || answer == ZEVFileExistsRecoveryReplace)
             m_result.errors.append(error);
         if (isFree && !QFileInfo::exists(change.destination.toLocalFile()))
             m_manager.moveItemAtURL(change.replaced, change.destination);
+    }
+
+    bool follow(unsigned answer, FileChange &change, ZEVError &error)
+    {
+        const ZEVError conflict = error;
+        ZEVError failure;
+        bool isDone = false;
+        if (answer == ZEVFileExistsRecoveryKeepBoth)
+            isDone = m_manager.attemptRecoveryFromFileExistsErrorByFindingUniqueNameAtURL(
+                conflict, change.destination, change.source, &failure);
+        if (answer == ZEVFileExistsRecoveryReplace)
+            isDone = m_manager.attemptRecoveryFromFileExistsErrorByReplacingItemAtURL(
+                conflict, change.destination, change.source, &failure);
+        error = ZEVFileErrors::withErrorBeneath(conflict, failure);
+        return isDone;
     }
 
     void note(const FileChange &change)
