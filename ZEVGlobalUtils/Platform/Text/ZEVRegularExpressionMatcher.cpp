@@ -73,11 +73,21 @@ public:
     {
         m_textLength = textLength;
         m_running = false;
+        m_wasInterrupted = false;
         beginStretch(0);
     }
 
+    void setInterruption(const std::function<bool()> &asked) { m_isInterrupted = asked; }
+    bool wasInterrupted() const { return m_wasInterrupted; }
+
     bool mayGoOn()
     {
+        if (m_isInterrupted && m_isInterrupted()) {
+            m_wasInterrupted = true;
+            return false;
+        }
+        if (m_limit == 0ns)
+            return true;
         const nanoseconds now = threadTime();
         if (!m_running) {
             m_running = true;
@@ -150,6 +160,8 @@ private:
     qint64 m_textLength = 0;
     qint64 m_stretchBegin = 0;
     unsigned m_attempts = 0;
+    std::function<bool()> m_isInterrupted;
+    bool m_wasInterrupted = false;
     bool m_running = false;
     bool m_asksForPosition = false;
 };
@@ -222,6 +234,15 @@ ZEVRegularExpressionMatcher::ZEVRegularExpressionMatcher(const ZEVRegularExpress
 
 ZEVRegularExpressionMatcher::~ZEVRegularExpressionMatcher() = default;
 
+void ZEVRegularExpressionMatcher::setInterruption(const std::function<bool()> &asked)
+{
+    if (!d->watch)
+        d->watch.emplace(*d->matcher, 0ns, runsUncounted(d->expression.pattern()));
+    d->watch->setInterruption(asked);
+}
+
+bool ZEVRegularExpressionMatcher::wasInterrupted() const { return d->watch && d->watch->wasInterrupted(); }
+
 void ZEVRegularExpressionMatcher::setText(QStringView text)
 {
     if (text.size() <= LongestAlias)
@@ -235,17 +256,17 @@ void ZEVRegularExpressionMatcher::setText(QStringView text)
 
 std::optional<ZEVRange> ZEVRegularExpressionMatcher::findNext()
 {
-    if (d->textStruck)
+    if (d->textStruck || wasInterrupted())
         return std::nullopt;
     UErrorCode code = U_ZERO_ERROR;
     const bool found = d->matcher->find(code);
-    if (U_FAILURE(code))
+    if (U_FAILURE(code) && !wasInterrupted())
         d->strike(code);
     if (!found || U_FAILURE(code))
         return std::nullopt;
     const qint64 start = d->matcher->start64(0, code);
     const qint64 end = d->matcher->end64(0, code);
-    if (d->watch && !d->watch->mayGoOnAfterMatch(end))
+    if (d->watch && !d->watch->mayGoOnAfterMatch(end) && !wasInterrupted())
         d->strike(U_REGEX_TIME_OUT);
     return ZEVRange{static_cast<qsizetype>(start), static_cast<qsizetype>(end - start)};
 }

@@ -8,6 +8,7 @@
 
 #include <QStringView>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -22,6 +23,11 @@ public:
     explicit ZEVRegularExpressionMatcher(const ZEVRegularExpression &expression);
     ~ZEVRegularExpressionMatcher();
     Q_DISABLE_COPY_MOVE(ZEVRegularExpressionMatcher)
+
+    /// \a asked is asked every few thousand steps, from within a match too, and ends the text there by true.
+    /// That is no strike: whoever interrupts may match the text anew.
+    void setInterruption(const std::function<bool()> &asked);
+    bool wasInterrupted() const;
 
     /// The characters of \a text must stay where they are until the next setText().
     void setText(QStringView text);
