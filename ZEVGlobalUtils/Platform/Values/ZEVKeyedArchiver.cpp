@@ -4,6 +4,7 @@
 #include <ZEVGlobalUtils/Platform/Values/ZEVKeyedArchiver.h>
 
 #include <ZEVGlobalUtils/Platform/Values/ZEVArchiveFormat_p.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVUnreadableObject.h>
 
 #include <QCborArray>
 #include <QHash>
@@ -89,6 +90,8 @@ QCborValue ZEVKeyedArchiver::encodedObject(const ZEVKeyedCoding &object)
 
 QCborValue ZEVKeyedArchiver::encodedValue(const QVariant &object)
 {
+    if (object.metaType() == QMetaType::fromType<ZEVUnreadableObject>())
+        return object.value<ZEVUnreadableObject>().archived;
     if (const ValueClass valueClass = registeredClass(object.metaType()); valueClass.encoder) {
         ZEVKeyedArchiver archiver;
         valueClass.encoder(object, archiver);

@@ -4,6 +4,7 @@
 #include <ZEVGlobalUtils/Platform/Values/ZEVKeyedUnarchiver.h>
 
 #include <ZEVGlobalUtils/Platform/Values/ZEVArchiveFormat_p.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVUnreadableObject.h>
 
 #include <QCborArray>
 #include <QHash>
@@ -23,6 +24,17 @@ Registry &registry()
     return shared;
 }
 
+/// Undefined for foreign or damaged bytes.
+QCborValue rootOfArchive(const QByteArray &archive)
+{
+    QCborParserError error;
+    const QCborMap envelope = QCborValue::fromCbor(archive, &error).toMap();
+    if (error.error || error.offset != archive.size()
+        || envelope.value(ZEVArchiveFormat::NameKey) != ZEVArchiveFormat::Name)
+        return QCborValue::Undefined;
+    return envelope.value(ZEVArchiveFormat::RootKey);
+}
+
 } // namespace
 
 void ZEVKeyedUnarchiver::registerClass(const QString &name, const Maker &maker)
@@ -33,14 +45,21 @@ void ZEVKeyedUnarchiver::registerClass(const QString &name, const Maker &maker)
 
 QVariant ZEVKeyedUnarchiver::unarchivedObject(const QByteArray &archive)
 {
-    QCborParserError error;
-    const QCborMap envelope = QCborValue::fromCbor(archive, &error).toMap();
-    if (error.error || error.offset != archive.size()
-        || envelope.value(ZEVArchiveFormat::NameKey) != ZEVArchiveFormat::Name)
-        return {};
     ZEVKeyedUnarchiver unarchiver({}, 0);
-    const QVariant object = unarchiver.decodedValue(envelope.value(ZEVArchiveFormat::RootKey));
+    const QVariant object = unarchiver.decodedValue(rootOfArchive(archive));
     return unarchiver.m_failed ? QVariant() : object;
+}
+
+QVariantList ZEVKeyedUnarchiver::unarchivedElements(const QByteArray &archive)
+{
+    QVariantList elements;
+    for (const auto &element : rootOfArchive(archive).toArray()) {
+        ZEVKeyedUnarchiver unarchiver({}, 0);
+        const QVariant object = unarchiver.decodedValue(element);
+        elements.append(unarchiver.m_failed ? QVariant::fromValue(ZEVUnreadableObject{QCborValue(element)})
+                                            : object);
+    }
+    return elements;
 }
 
 QVariant ZEVKeyedUnarchiver::decodeObject(QStringView key)

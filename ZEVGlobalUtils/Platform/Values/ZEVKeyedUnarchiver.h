@@ -21,6 +21,10 @@ public:
     /// Invalid for nil.
     static QVariant unarchivedObject(const QByteArray &archive);
 
+    /// The elements of a root object that is a list, each on its own: one that cannot be read is a
+    /// ZEVUnreadableObject. Empty for any other root object.
+    static QVariantList unarchivedElements(const QByteArray &archive);
+
     /// Nil also when the root object is no \a T.
     template <typename T>
     static std::optional<T> unarchivedObjectOfClass(const QByteArray &archive)

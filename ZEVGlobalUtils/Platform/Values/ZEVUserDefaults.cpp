@@ -35,11 +35,22 @@ ZEVUserDefaults::ZEVUserDefaults(std::unique_ptr<QSettings> store, QObject *pare
 
 ZEVUserDefaults::~ZEVUserDefaults() = default;
 
-QVariant ZEVUserDefaults::objectForKey(const QString &key) const
+/// Empty for what is no archive.
+QByteArray ZEVUserDefaults::archiveForKey(const QString &key) const
 {
     const QByteArray text = m_store->value(storeKey(key)).toString().toLatin1();
     const auto decoded = QByteArray::fromBase64Encoding(text, QByteArray::AbortOnBase64DecodingErrors);
-    return decoded ? ZEVKeyedUnarchiver::unarchivedObject(*decoded) : QVariant();
+    return decoded ? *decoded : QByteArray();
+}
+
+QVariant ZEVUserDefaults::objectForKey(const QString &key) const
+{
+    return ZEVKeyedUnarchiver::unarchivedObject(archiveForKey(key));
+}
+
+QVariantList ZEVUserDefaults::elementsForKey(const QString &key) const
+{
+    return ZEVKeyedUnarchiver::unarchivedElements(archiveForKey(key));
 }
 
 void ZEVUserDefaults::setObject(const QVariant &value, const QString &key)

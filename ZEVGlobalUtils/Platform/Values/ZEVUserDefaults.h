@@ -31,6 +31,10 @@ public:
     /// Invalid when nothing is stored under \a key, or only bytes that cannot be read.
     QVariant objectForKey(const QString &key) const;
 
+    /// The elements of a list that is stored under \a key, each as far as it can be read by itself: one that
+    /// cannot is a ZEVUnreadableObject, which setObject() stores again as it was. Empty for anything else.
+    QVariantList elementsForKey(const QString &key) const;
+
     /// Stores a boolean, number, string, byte array, list or map of these, or an object of a class that is
     /// registered for archives; an invalid \a value removes the key.
     void setObject(const QVariant &value, const QString &key);
@@ -44,5 +48,7 @@ Q_SIGNALS:
     void didChange(const QString &key);
 
 private:
+    QByteArray archiveForKey(const QString &key) const;
+
     std::unique_ptr<QSettings> m_store;
 };
