@@ -25,6 +25,8 @@ public:
     {
     }
 
+    void setWidth(int width) { m_width = width; }
+
     int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override
     {
         return metric == PM_SmallIconSize ? m_width : QProxyStyle::pixelMetric(metric, option, widget);
@@ -33,6 +35,18 @@ public:
 private:
     int m_width;
 };
+
+/// A menu is filled again at every opening, and keeps the one style that it has got.
+void setImageWidth(QMenu *menu, int width)
+{
+    for (QObject *child : menu->children()) {
+        if (auto *style = dynamic_cast<WideImagesStyle *>(child))
+            return style->setWidth(width);
+    }
+    auto *style = new WideImagesStyle(width);
+    style->setParent(menu);
+    menu->setStyle(style);
+}
 
 /// The token as fields show it, without the room around it.
 QPixmap imageOfItem(const ZEVPatternItem &item, const QMenu &menu, const QWidget &view)
@@ -92,9 +106,7 @@ void ZEVPatternTokens::fillMenu(QMenu *menu, ZEVTokenField *tokenField, const Gr
         if (!groups[group].isEmpty() && group + 1 < groups.size())
             menu->addSeparator();
     }
-    auto *style = new WideImagesStyle(widestImage(*menu));
-    style->setParent(menu);
-    menu->setStyle(style);
+    setImageWidth(menu, widestImage(*menu));
 }
 
 ZEVTokenStyle ZEVPatternTokens::styleForRepresentedObject(const OEXTokenField *, const QVariant &object) const
