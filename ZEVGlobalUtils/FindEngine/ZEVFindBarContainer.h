@@ -6,6 +6,7 @@
 #include <ZEVGlobalUtils/Export.h>
 
 class QWidget;
+class ZEVTextFinder;
 
 /// What a window part offers that can show a find bar above or below its own content.
 class ZEV_EXPORT ZEVFindBarContainer {
@@ -24,4 +25,7 @@ public:
 
     /// The window that the container is in.
     virtual QWidget *window() const = 0;
+
+    /// Optional: whose bar it shows, so that it can answer find actions for its content; null for nobody's.
+    virtual void setFinder(ZEVTextFinder *) { }
 };

@@ -96,20 +96,18 @@ QString ZEVFindPanelQuery::expressionPattern() const
 
 std::optional<ZEVRegularExpression> ZEVFindPanelQuery::searchExpression() const
 {
-    if (!m_searchPattern || m_searchPattern->isEmpty())
-        return std::nullopt;
     ZEVError error;
-    auto expression =
-        ZEVRegularExpression::compile(expressionPattern(), optionFor(m_caseInsensitiveSearch), &error);
-    if (!expression)
+    const auto expression = searchExpression(&error);
+    if (!expression && hasPattern())
         ZEVErrorPresentation::presentError(error);
     return expression;
 }
 
-bool ZEVFindPanelQuery::isQueryOf(const ZEVRegularExpression &expression) const
+std::optional<ZEVRegularExpression> ZEVFindPanelQuery::searchExpression(ZEVError *error) const
 {
-    return m_searchPattern && !m_searchPattern->isEmpty() && expressionPattern() == expression.pattern()
-        && optionFor(m_caseInsensitiveSearch) == expression.options();
+    if (!hasPattern())
+        return std::nullopt;
+    return ZEVRegularExpression::compile(expressionPattern(), optionFor(m_caseInsensitiveSearch), error);
 }
 
 /// Named groups around every item tell its number in whatever surrounds it: escapes, sets, quotations and

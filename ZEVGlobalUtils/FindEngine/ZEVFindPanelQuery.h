@@ -11,6 +11,7 @@
 #include <optional>
 
 class ZEVAttributedString;
+class ZEVError;
 class ZEVFindPanelScope;
 class ZEVKeyedArchiver;
 class ZEVKeyedUnarchiver;
@@ -48,6 +49,7 @@ public:
     /// A list of QString and ZEVPatternItem, or nil.
     const std::optional<QVariantList> &searchPattern() const { return m_searchPattern; }
     void setSearchPattern(const std::optional<QVariantList> &pattern) { m_searchPattern = pattern; }
+    bool hasPattern() const { return m_searchPattern && !m_searchPattern->isEmpty(); }
 
     qint64 matchingType() const { return m_matchingType; }
     void setMatchingType(qint64 matchingType) { m_matchingType = matchingType; }
@@ -59,8 +61,8 @@ public:
     /// presented to the user at every call. Main thread.
     std::optional<ZEVRegularExpression> searchExpression() const;
 
-    /// Whether \a expression is what searchExpression() makes of this query, told without compiling it.
-    bool isQueryOf(const ZEVRegularExpression &expression) const;
+    /// The same without a word to the user: \a error, which may be null, is set for one that does not compile.
+    std::optional<ZEVRegularExpression> searchExpression(ZEVError *error) const;
 
     /// Which group of the expression each item of the pattern captures with, in the pattern's order: the
     /// outer one of its fragment. Whatever groups the fragments and the user's own expression hold are

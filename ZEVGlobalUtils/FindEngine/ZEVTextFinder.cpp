@@ -3,28 +3,128 @@
 
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
 
-#include <ZEVGlobalUtils/FindEngine/ZEVTextFinderEditableClient.h>
-#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
-#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpressionMatcher.h>
+#include <ZEVGlobalUtils/FindEngine/TextSearch_p.h>
+#include <ZEVGlobalUtils/FindEngine/ZEVFindBarContainer.h>
+#include <ZEVGlobalUtils/FindEngine/ZEVTextFinderClient.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVWeakRef.h>
 
-#include <QDeadlineTimer>
 #include <QMetaMethod>
-#include <QPointer>
-#include <QTimer>
 
 using namespace std::chrono_literals;
 
 ZEVTextFinderClient::~ZEVTextFinderClient() = default;
+ZEVTextFinderUserInterfaceDelegate::~ZEVTextFinderUserInterfaceDelegate() = default;
 
-ZEVTextFinder::ZEVTextFinder(QObject *parent)
-    : QObject(parent)
-    , m_expression(std::make_unique<std::optional<ZEVRegularExpression>>())
+void ZEVTextFinderUserInterfaceDelegate::search(const ZEVFindRequest &request)
+{
+    performSearchAgainstExpression(request.expression);
+}
+
+void ZEVTextFinderUserInterfaceDelegate::customizeFindMenuBeforeDisplay(ZEVTextFinderUserInterface *, QMenu *)
 {
 }
 
-ZEVTextFinder::~ZEVTextFinder() = default;
+ZEVTextFinderUserInterface::~ZEVTextFinderUserInterface()
+{
+    if (m_finder)
+        m_finder->removeInterface(this);
+}
 
-const std::optional<ZEVRegularExpression> &ZEVTextFinder::expression() const { return *m_expression; }
+ZEVTextFinder::ZEVTextFinder(QObject *parent)
+    : QObject(parent)
+{
+}
+
+ZEVTextFinder::~ZEVTextFinder()
+{
+    m_search.reset();
+    for (ZEVTextFinderUserInterface *findInterface : std::as_const(m_interfaces))
+        findInterface->m_finder = nullptr;
+}
+
+void ZEVTextFinder::setFindBarContainer(ZEVFindBarContainer *container)
+{
+    if (container == m_findBarContainer)
+        return;
+    if (ZEVFindBarContainer *old = std::exchange(m_findBarContainer, container))
+        old->setFinder(nullptr);
+    if (container)
+        container->setFinder(this);
+}
+
+ZEVTextFinderUserInterface *ZEVTextFinder::textFinderViewController()
+{
+    if (!m_textFinderViewController)
+        setTextFinderViewController(ZEVTextFinderUserInterface::makeFindBar());
+    return m_textFinderViewController.get();
+}
+
+void ZEVTextFinder::setTextFinderViewController(std::unique_ptr<ZEVTextFinderUserInterface> controller)
+{
+    m_textFinderViewController = std::move(controller);
+    if (m_textFinderViewController)
+        addInterface(m_textFinderViewController.get());
+}
+
+void ZEVTextFinder::addInterface(ZEVTextFinderUserInterface *findInterface)
+{
+    if (m_interfaces.contains(findInterface))
+        return;
+    if (findInterface->m_finder)
+        findInterface->m_finder->removeInterface(findInterface);
+    findInterface->m_finder = this;
+    findInterface->setDelegate(this);
+    m_interfaces.append(findInterface);
+    if (!m_request.asker)
+        findInterface->setNumberOfMatches(m_numberOfMatches);
+}
+
+void ZEVTextFinder::removeInterface(ZEVTextFinderUserInterface *findInterface)
+{
+    if (!m_interfaces.removeOne(findInterface))
+        return;
+    findInterface->m_finder = nullptr;
+    if (m_request.asker == findInterface)
+        m_request.asker = nullptr;
+}
+
+ZEVTextFinderUserInterface *ZEVTextFinder::currentInterface() const
+{
+    return m_request.asker ? m_request.asker : m_textFinderViewController.get();
+}
+
+QVariantList ZEVTextFinder::replacePattern() const
+{
+    const ZEVTextFinderUserInterface *findInterface = currentInterface();
+    return findInterface ? findInterface->replacePattern() : QVariantList();
+}
+
+bool ZEVTextFinder::wrapAround() const
+{
+    const ZEVTextFinderUserInterface *findInterface = currentInterface();
+    return !findInterface || findInterface->wrapAround();
+}
+
+/// Every interface runs code of the host, which may take any of them away, or the finder.
+void ZEVTextFinder::tellInterfaces(const std::function<void(ZEVTextFinderUserInterface &)> &tell)
+{
+    const QPointer guard(this);
+    for (ZEVTextFinderUserInterface *findInterface : QList(m_interfaces)) {
+        const bool isAsked = !m_request.asker || m_request.asker == findInterface;
+        if (isAsked && m_interfaces.contains(findInterface))
+            tell(*findInterface);
+        if (!guard)
+            return;
+    }
+}
+
+void ZEVTextFinder::tellCount()
+{
+    if (m_request.asker)
+        m_request.asker->setNumberOfMatches(m_numberOfMatches);
+    else if (!m_interfaces.isEmpty())
+        tellInterfaces([number = m_numberOfMatches](auto &one) { one.setNumberOfMatches(number); });
+}
 
 void ZEVTextFinder::setNumberOfMatches(std::optional<qsizetype> number)
 {
@@ -36,123 +136,121 @@ void ZEVTextFinder::setNumberOfMatches(std::optional<qsizetype> number)
 
 void ZEVTextFinder::announceNumberOfMatches()
 {
-    if (m_textFinderViewController)
-        m_textFinderViewController->setNumberOfMatches(m_numberOfMatches);
-    Q_EMIT numberOfMatchesChanged();
+    const QPointer guard(this);
+    tellCount();
+    if (guard)
+        Q_EMIT numberOfMatchesChanged();
 }
 
-/// One walk over the client's text. Every announced match runs code of the host, after which the finder may
-/// be gone, busy with a newer search, or without its client.
-class ZEVTextFinder::Search {
-public:
-    explicit Search(ZEVTextFinder *finder)
-        : m_finder(finder)
-        , m_isObserved(
-              finder->m_textFinderViewController
-              || finder->isSignalConnected(QMetaMethod::fromSignal(&ZEVTextFinder::numberOfMatchesChanged)))
-    {
-    }
-
-    bool isCurrent() const { return m_finder && m_finder->m_search.get() == this; }
-
-    void begin(const ZEVRegularExpression &expression)
-    {
-        m_client = m_finder->m_client;
-        m_total = m_client->stringLength();
-        m_changeStamp = changeStamp();
-        if (m_total > 0)
-            m_matcher.emplace(expression);
-    }
-
-    bool hasBegun() const { return m_matcher.has_value(); }
-    bool limitReached() const { return m_matcher && m_matcher->limitReached(); }
-
-    /// Matches that were found before the text changed lie anywhere. Only some clients tell.
-    bool textHasChanged() const { return m_client != m_finder->m_client || m_changeStamp != changeStamp(); }
-
-    /// Whether the search is over, after \a duration at the most; none has no end. A piece is never left half
-    /// searched.
-    bool run(std::chrono::milliseconds duration)
-    {
-        const QDeadlineTimer deadline(duration > 0ms ? QDeadlineTimer(duration, Qt::PreciseTimer)
-                                                     : QDeadlineTimer(QDeadlineTimer::Forever));
-        for (unsigned pieces = 1; searchPiece(); ++pieces)
-            if (pieces % PiecesPerReading == 0 && deadline.hasExpired())
-                return false;
-        return true;
-    }
-
-private:
-    static constexpr unsigned PiecesPerReading = 16;
-
-    std::optional<quint64> changeStamp() const
-    {
-        const auto *client = dynamic_cast<ZEVTextFinderEditableClient *>(m_finder->m_client);
-        return client ? std::optional(client->changeStamp()) : std::nullopt;
-    }
-
-    /// False when there is nothing more to search.
-    bool searchPiece()
-    {
-        if (!m_matcher || !m_finder->m_client || m_index >= m_total || m_matcher->isExhausted())
-            return false;
-        ZEVRange piece;
-        const QString text = m_finder->m_client->stringAtIndex(m_index, piece);
-        if (piece.length <= 0 || !collect(text, piece.location) || piece.length > m_total - m_index)
-            return false; // the last for a client that claims more than it has
-        m_index += piece.length;
-        return true;
-    }
-
-    /// False when the host's answer to a match ends this search.
-    bool collect(const QString &text, qsizetype offset)
-    {
-        m_matcher->setText(text);
-        while (const auto match = m_matcher->findNext()) {
-            ZEVTextFinder *finder = m_finder;
-            finder->m_foundMatches.append({offset + match->location, match->length});
-            finder->m_numberOfMatches = finder->m_foundMatches.size();
-            if (m_isObserved && !announce())
-                return false;
-        }
-        return true;
-    }
-
-    bool announce()
-    {
-        m_finder->announceNumberOfMatches();
-        return isCurrent() && m_finder->m_client;
-    }
-
-    QPointer<ZEVTextFinder> m_finder;
-    std::optional<ZEVRegularExpressionMatcher> m_matcher;
-    const ZEVTextFinderClient *m_client = nullptr; ///< only compared
-    qsizetype m_total = 0;
-    qsizetype m_index = 0;
-    std::optional<quint64> m_changeStamp;
-    bool m_isObserved; // a signal for every match costs a tenth of a search even where nobody listens
-};
+void ZEVTextFinder::setMarksMatches(bool marks)
+{
+    if (marks == m_marksMatches)
+        return;
+    m_marksMatches = marks;
+    Q_EMIT marksMatchesChanged();
+}
 
 void ZEVTextFinder::performSearchAgainstExpression(const std::optional<ZEVRegularExpression> &expression)
 {
-    beginSearch(expression, m_sliceDuration);
+    search({{}, expression, nullptr});
 }
 
-void ZEVTextFinder::beginSearch(const std::optional<ZEVRegularExpression> &expression,
-                                std::chrono::milliseconds duration)
+void ZEVTextFinder::search(const ZEVFindRequest &request)
 {
-    const auto search = std::make_shared<Search>(this);
-    m_search = search; // whichever was under way ends here
+    m_marksMatches = true; // the search itself has them drawn
+    beginSearch(request, m_sliceDuration);
+}
+
+void ZEVTextFinder::searchAgain() { beginSearch(lastRequest(), m_sliceDuration); }
+
+/// The count of another interface is not that of its own pattern any more.
+void ZEVTextFinder::prepareSearch()
+{
+    const QPointer guard(this);
+    if (m_request.asker && m_interfaces.size() > 1) {
+        for (ZEVTextFinderUserInterface *other : QList(m_interfaces)) {
+            if (guard && other != m_request.asker && m_interfaces.contains(other))
+                other->setNumberOfMatches(std::nullopt);
+        }
+    }
+    if (guard)
+        setNumberOfMatches(std::nullopt);
+}
+
+void ZEVTextFinder::beginSearch(const ZEVFindRequest &request, std::chrono::milliseconds duration)
+{
+    const QPointer guard(this);
+    ZEVFindRequest newRequest = request; // which may be the last one
+    if (!m_interfaces.contains(newRequest.asker))
+        newRequest.asker = nullptr;
+    m_request = std::move(newRequest);
+    // Whichever was under way ends here, and one that an observer begins now ends this one.
+    const auto marker = m_search = std::make_shared<TextSearch>(nullptr, std::nullopt);
     m_isSearching = true;
-    *m_expression = expression;
     m_foundMatches.clear();
     m_limitReached = false;
-    setNumberOfMatches(std::nullopt);
-    if (!search->isCurrent())
+    prepareSearch();
+    if (guard && m_search == marker)
+        Q_EMIT searchBegins();
+    if (!guard || m_search != marker)
         return;
-    if (m_client && *m_expression)
-        search->begin(**m_expression);
+    const auto search = m_search = std::make_shared<TextSearch>(m_client, m_request.expression);
+    m_isObserved = !m_interfaces.isEmpty()
+        || isSignalConnected(QMetaMethod::fromSignal(&ZEVTextFinder::numberOfMatchesChanged));
     goOn(search, duration);
+}
+
+/// Every announced match runs code of the host, after which the finder may be gone, busy with a newer search,
+/// or without its client.
+bool ZEVTextFinder::addMatch(const TextSearch *search, const ZEVRange &match)
+{
+    m_foundMatches.append(match);
+    m_numberOfMatches = m_foundMatches.size();
+    if (!m_isObserved)
+        return true;
+    const QPointer guard(this);
+    const ZEVTextFinderClient *client = m_client;
+    announceNumberOfMatches();
+    return guard && m_search.get() == search && m_client == client;
+}
+
+/// Whoever calls this holds the search, which an observer may end.
+void ZEVTextFinder::goOn(const std::shared_ptr<TextSearch> &search, std::chrono::milliseconds duration)
+{
+    const QPointer guard(this);
+    const auto state =
+        search->run(duration, [&](const ZEVRange &match) { return addMatch(search.get(), match); });
+    if (!guard || m_search != search)
+        return;
+    if (state != TextSearch::State::Unfinished)
+        return endSearch(search);
+    tellInterfaces([](auto &one) { one.setSearching(true); });
+    if (guard && m_search == search)
+        goOnInBackground(search);
+}
+
+void ZEVTextFinder::goOnInBackground(const std::shared_ptr<TextSearch> &search)
+{
+    search->matchInBackground(m_sliceDuration, this, [this, weak = std::weak_ptr(search)] {
+        const auto current = weak.lock();
+        if (current && current == m_search && m_isSearching && current->hasBackgroundMatches())
+            takeBackgroundMatches(current);
+    });
+}
+
+void ZEVTextFinder::takeBackgroundMatches(const std::shared_ptr<TextSearch> &search)
+{
+    if (!isTextUnchanged())
+        return searchAgain();
+    const QPointer guard(this);
+    const auto state =
+        search->takeBackgroundMatches([&](const ZEVRange &match) { return addMatch(search.get(), match); });
+    if (!guard || m_search != search)
+        return;
+    if (state == TextSearch::State::Unfinished)
+        goOnInBackground(search);
+    else
+        endSearch(search);
 }
 
 void ZEVTextFinder::finishSearch()
@@ -160,45 +258,53 @@ void ZEVTextFinder::finishSearch()
     if (!m_isSearching)
         return;
     const auto search = m_search;
-    if (search->textHasChanged())
-        beginSearch(std::optional(*m_expression), 0ms);
-    else
+    if (isTextUnchanged())
         goOn(search, 0ms);
-}
-
-void ZEVTextFinder::goOnSoon(const std::shared_ptr<Search> &search)
-{
-    QTimer::singleShot(0, this, [this, search] {
-        if (!m_isSearching || !search->isCurrent())
-            return;
-        if (search->textHasChanged())
-            beginSearch(std::optional(*m_expression), m_sliceDuration);
-        else
-            goOn(search, m_sliceDuration);
-    });
-}
-
-/// Whoever calls this holds the search, which an observer may end.
-void ZEVTextFinder::goOn(const std::shared_ptr<Search> &search, std::chrono::milliseconds duration)
-{
-    const bool isOver = search->run(duration);
-    if (!search->isCurrent())
-        return;
-    if (isOver)
-        endSearch(*search);
     else
-        goOnSoon(search);
+        beginSearch(lastRequest(), 0ms);
 }
 
-void ZEVTextFinder::endSearch(const Search &search)
+bool ZEVTextFinder::stopSearch()
 {
+    if (!m_isSearching)
+        return false;
+    const QPointer guard(this);
     m_isSearching = false;
-    m_limitReached = search.limitReached();
-    if (search.hasBegun())
+    m_search->giveUpBackground();
+    tellInterfaces([](auto &one) { one.setSearching(false); });
+    if (guard)
+        Q_EMIT searchPerformed();
+    return true;
+}
+
+bool ZEVTextFinder::isTextUnchanged() const { return m_search && m_search->isOfTextOf(m_client); }
+
+qsizetype ZEVTextFinder::stringLength() const { return m_search ? m_search->stringLength() : 0; }
+
+void ZEVTextFinder::setFoundMatches(const QList<ZEVRange> &matches)
+{
+    const QPointer guard(this);
+    m_foundMatches = QList(matches);
+    m_search = std::make_shared<TextSearch>(m_client, m_request.expression);
+    m_isSearching = false;
+    setNumberOfMatches(m_foundMatches.size());
+    if (guard)
+        Q_EMIT searchPerformed();
+}
+
+void ZEVTextFinder::endSearch(const std::shared_ptr<TextSearch> &search)
+{
+    const QPointer guard(this);
+    m_isSearching = false;
+    m_limitReached = search->limitReached();
+    if (search->hasBegun())
         setNumberOfMatches(m_foundMatches.size()); // 0, no longer nil, where nothing was found
-    if (!search.isCurrent())
+    if (!guard || m_search != search)
         return;
-    if (m_textFinderViewController)
-        m_textFinderViewController->setSearchLimitReached(m_limitReached);
-    Q_EMIT searchPerformed();
+    tellInterfaces([limitReached = m_limitReached](auto &one) {
+        one.setSearching(false);
+        one.setSearchLimitReached(limitReached);
+    });
+    if (guard && m_search == search)
+        Q_EMIT searchPerformed();
 }

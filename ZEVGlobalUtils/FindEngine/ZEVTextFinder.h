@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <ZEVGlobalUtils/FindEngine/ZEVFindRequest.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderUserInterface.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVRange.h>
 
@@ -10,9 +11,11 @@
 #include <QObject>
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <optional>
 
+class TextSearch;
 class ZEVFindBarContainer;
 class ZEVTextFinderClient;
 
@@ -33,11 +36,16 @@ public:
 
     /// Where the find bar is shown; a plain pointer, as the client. Null shows none.
     ZEVFindBarContainer *findBarContainer() const { return m_findBarContainer; }
-    void setFindBarContainer(ZEVFindBarContainer *container) { m_findBarContainer = container; }
+    void setFindBarContainer(ZEVFindBarContainer *container);
 
-    /// The find bar, made at the first call.
+    /// The find bar, made at the first call. Null takes the present one away.
     ZEVTextFinderUserInterface *textFinderViewController();
     void setTextFinderViewController(std::unique_ptr<ZEVTextFinderUserInterface> controller);
+
+    /// Another interface beside the bar, a panel for one, which the finder does not own. Whichever has asked
+    /// for a search gets its count.
+    void addInterface(ZEVTextFinderUserInterface *findInterface);
+    void removeInterface(ZEVTextFinderUserInterface *findInterface);
 
     /// Whether the finder, and not the text view that has the focus, handles \a action.
     bool canTakeTextFinderActionOwnerShip(qint64 action);
@@ -55,25 +63,50 @@ public:
     /// The name of a replace action in the user's language. Throws for any other action.
     static QString localizedNameForAction(qint64 action);
 
-    /// Collects every match of \a expression in the client's pieces. A match that would span two pieces is
-    /// not found. Nil finds nothing. An observer may search anew or delete the finder while the count grows.
+    /// Collects every match in the client's pieces. A match that would span two pieces is not found. An
+    /// observer may search anew or delete the finder while the count grows.
+    void search(const ZEVFindRequest &request) override;
+
+    /// The same without a query and for nobody: every interface gets the count. Nil finds nothing.
     void performSearchAgainstExpression(const std::optional<ZEVRegularExpression> &expression) override;
 
-    /// How long a search may hold up its caller and the user at a time. What is left is searched once other
-    /// events have been handled, from the start where an editable client's text has changed; a new search
-    /// ends it. 0, as at first: until it is done. A find bar that searches at every key press sets some 30.
+    /// What was searched for last. Its query has the groups of the matches, its asker the replacement.
+    const ZEVFindRequest &lastRequest() const { return m_request; }
+    const std::optional<ZEVRegularExpression> &expression() const { return m_request.expression; }
+
+    /// Of the interface that has asked last or, where nobody did, of the find bar.
+    QVariantList replacePattern() const;
+    bool wrapAround() const;
+
+    /// How long a search may hold up its caller and the user at a time, whatever the expression. What is left
+    /// is matched on another thread, from the start where the client's text has changed; a new search ends
+    /// it. 0, as at first: until it is done, here. A find bar that searches at every key press sets some 30.
     void setSliceDuration(std::chrono::milliseconds duration) { m_sliceDuration = duration; }
 
-    /// Matches may still be added. finishSearch() does the rest at once.
+    /// Matches may still be added. finishSearch() does the rest at once; stopSearch() leaves it.
     bool isSearching() const { return m_isSearching; }
     void finishSearch();
+    bool stopSearch() override;
 
-    /// What was searched last; nil before any search, and for a query that was none.
-    const std::optional<ZEVRegularExpression> &expression() const;
+    /// Whether the client's text is still the one that was searched, or is being searched. Of a client that is
+    /// no ZEVTextFinderEditableClient only the length is compared.
+    bool isTextUnchanged() const;
+
+    /// The last request once more, over the text as it is.
+    void searchAgain();
+
+    /// The length of the text that was searched last, in UTF-16 units.
+    qsizetype stringLength() const;
 
     /// The matches of the last search in text order, as ranges of the client's whole text. They stay until
-    /// the next search, also when the text changes.
+    /// the next search, also when the text changes. A host that replaces by its own code may set what has
+    /// become of them, which ends a search that is under way.
     const QList<ZEVRange> &foundMatches() const { return m_foundMatches; }
+    void setFoundMatches(const QList<ZEVRange> &matches);
+
+    /// For the host's use: the finder itself neither fills nor reads them.
+    const QList<ZEVRange> &visibleMatchRanges() const { return m_visibleMatchRanges; }
+    void setVisibleMatchRanges(const QList<ZEVRange> &ranges) { m_visibleMatchRanges = ranges; }
 
     /// Nil before any search and when nothing was searched; 0 when a search found nothing.
     std::optional<qsizetype> numberOfMatches() const { return m_numberOfMatches; }
@@ -82,38 +115,58 @@ public:
     /// said when the search has ended.
     bool limitReached() const { return m_limitReached; }
 
+    /// Whether clients mark the matches: from a search or the showing of the bar until the bar is hidden.
+    bool marksMatches() const { return m_marksMatches; }
+
 Q_SIGNALS:
     /// Emitted for every match, so that observers see the count grow.
     void numberOfMatchesChanged();
 
+    /// lastRequest() is about to be searched for: a host may yet tell its client where.
+    void searchBegins();
+
     /// A search is over, whatever it found.
     void searchPerformed();
+
+    void marksMatchesChanged();
 
     /// Next, previous, replace, replace all and their kin: whoever can, acts on foundMatches().
     void actionLeftToHost(qint64 action);
 
 private:
-    class Search;
+    void tellInterfaces(const std::function<void(ZEVTextFinderUserInterface &)> &tell);
+    void tellCount();
     void setNumberOfMatches(std::optional<qsizetype> number);
     void announceNumberOfMatches();
-    void beginSearch(const std::optional<ZEVRegularExpression> &expression,
-                     std::chrono::milliseconds duration);
-    void goOn(const std::shared_ptr<Search> &search, std::chrono::milliseconds duration);
-    void goOnSoon(const std::shared_ptr<Search> &search);
-    void endSearch(const Search &search);
+    void beginSearch(const ZEVFindRequest &request, std::chrono::milliseconds duration);
+    void prepareSearch();
+    bool addMatch(const TextSearch *search, const ZEVRange &match);
+    void goOn(const std::shared_ptr<TextSearch> &search, std::chrono::milliseconds duration);
+    void goOnInBackground(const std::shared_ptr<TextSearch> &search);
+    void takeBackgroundMatches(const std::shared_ptr<TextSearch> &search);
+    void endSearch(const std::shared_ptr<TextSearch> &search);
+    void setMarksMatches(bool marks);
+    ZEVTextFinderUserInterface *currentInterface() const;
     QWidget *firstResponder() const;
+    QWidget *textViewInFocus() const;
     bool findBarHasFocus();
     void showFindBar(qint64 action);
     void hideFindBar();
+    void leaveToHost(qint64 action);
 
     ZEVTextFinderClient *m_client = nullptr;
     ZEVFindBarContainer *m_findBarContainer = nullptr;
     std::unique_ptr<ZEVTextFinderUserInterface> m_textFinderViewController;
-    std::unique_ptr<std::optional<ZEVRegularExpression>> m_expression;
+    QList<ZEVTextFinderUserInterface *> m_interfaces; ///< the bar among them
+    ZEVFindRequest m_request;
     QList<ZEVRange> m_foundMatches;
+    QList<ZEVRange> m_visibleMatchRanges;
     std::optional<qsizetype> m_numberOfMatches;
-    std::shared_ptr<Search> m_search; ///< the last one, done or not
+    std::shared_ptr<TextSearch> m_search; ///< the last one, done or not
     std::chrono::milliseconds m_sliceDuration{0};
     bool m_isSearching = false;
+    bool m_isObserved =
+        false; ///< a signal for every match costs a tenth of a search even where nobody listens
     bool m_limitReached = false;
+    bool m_marksMatches = false;
 };

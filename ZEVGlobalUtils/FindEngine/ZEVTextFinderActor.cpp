@@ -3,14 +3,14 @@
 
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderActor.h>
 
+#include <ZEVGlobalUtils/FindEngine/ZEVFindActionNumber.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVOrvCaptureMatch.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
-#include <ZEVGlobalUtils/FindEngine/ZEVTextFinderAction.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
 
 #include <algorithm>
 
-using namespace ZEVTextFinderAction;
+using namespace ZEVFindActionNumber;
 
 namespace {
 
@@ -25,7 +25,6 @@ ZEVTextFinderActor::ZEVTextFinderActor(ZEVTextFinder *finder, QObject *parent)
 {
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &ZEVTextFinderActor::searchAgain);
-    connect(finder, &ZEVTextFinder::searchPerformed, this, &ZEVTextFinderActor::searchEnded);
     connect(finder, &ZEVTextFinder::actionLeftToHost, this, &ZEVTextFinderActor::performAction);
 }
 
@@ -38,7 +37,8 @@ const QList<ZEVRange> &ZEVTextFinderActor::matches() const { return m_finder->fo
 
 void ZEVTextFinderActor::performAction(qint64 action)
 {
-    if (!searchIfChanged())
+    const bool moves = action == NextMatch || action == PreviousMatch;
+    if (!(moves && hasMatchesToMoveTo()) && !searchIfChanged())
         return;
     switch (action) {
     case NextMatch:
@@ -64,10 +64,11 @@ void ZEVTextFinderActor::performAction(qint64 action)
     }
 }
 
-bool ZEVTextFinderActor::isFresh() const
+bool ZEVTextFinderActor::wrapsAround() const { return m_wrapsAround && m_finder && m_finder->wrapAround(); }
+
+bool ZEVTextFinderActor::hasMatchesToMoveTo() const
 {
-    return !m_finder->isSearching() && m_searchedClient == client()
-        && m_changeStamp == client()->changeStamp();
+    return client() && m_finder->isSearching() && m_finder->isTextUnchanged() && !matches().isEmpty();
 }
 
 /// Observers of a search may do anything.
@@ -77,11 +78,11 @@ bool ZEVTextFinderActor::searchIfChanged()
         return false;
     const QPointer guard(this);
     m_finder->finishSearch();
-    if (guard && client() && !isFresh())
-        m_finder->performSearchAgainstExpression(std::optional(m_finder->expression()));
+    if (guard && client() && !m_finder->isTextUnchanged())
+        m_finder->searchAgain();
     if (guard && m_finder)
         m_finder->finishSearch();
-    return guard && client() && isFresh();
+    return guard && client() && m_finder->isTextUnchanged();
 }
 
 void ZEVTextFinderActor::searchAgainSoon()
@@ -96,24 +97,8 @@ void ZEVTextFinderActor::searchAgainSoon()
 void ZEVTextFinderActor::searchAgain()
 {
     m_sinceSearch.start();
-    if (client() && !m_finder->isSearching() && !isFresh())
-        m_finder->performSearchAgainstExpression(std::optional(m_finder->expression()));
-}
-
-/// The user may have gone on typing: the query before is still the one of a text that was searched again.
-void ZEVTextFinderActor::searchEnded()
-{
-    const ZEVTextFinderEditableClient *searched = client();
-    m_searchedClient = searched;
-    m_changeStamp = searched ? std::optional(searched->changeStamp()) : std::nullopt;
-    const auto &expression = m_finder->expression();
-    if (!expression)
-        return;
-    if (const ZEVFindPanelQuery query = m_querySource ? m_querySource() : ZEVFindPanelQuery();
-        query.isQueryOf(*expression))
-        m_query = query;
-    else if (!m_query.isQueryOf(*expression))
-        m_query = {};
+    if (client() && !m_finder->isSearching() && !m_finder->isTextUnchanged())
+        m_finder->searchAgain();
 }
 
 qsizetype ZEVTextFinderActor::firstMatchAt(qsizetype location) const
@@ -143,7 +128,7 @@ void ZEVTextFinderActor::step(int direction)
     const qsizetype start = firstMatchAt(selection.isEmpty() ? 0 : selection.first().location);
     const qsizetype next = selected >= 0 || direction < 0 ? start + direction : start;
     const bool wraps = next < 0 || next >= count;
-    if (wraps && !m_wrapsAround)
+    if (wraps && !wrapsAround())
         return;
     select((next + count) % count, wraps);
 }

@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <ZEVGlobalUtils/FindEngine/ZEVFindPanelQuery.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVReplacementPreview.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVReplacementTemplate.h>
 
@@ -16,14 +15,8 @@ class ZEVTextFinder;
 
 /// Does what a finder leaves to its host: moves between the matches, selects and replaces them, where the
 /// finder's client is a ZEVTextFinderEditableClient. A text that has changed since the search is searched
-/// again first. Main thread only. A host has find and replace by
-///
-///     auto *finder = new ZEVTextFinder(window);
-///     finder->setFindBarContainer(container);
-///     auto *client = new ZEVTextEditFinderClient(editor, finder);
-///     auto *actor = new ZEVTextFinderActor(finder, finder);
-///     actor->setQuerySource([controller] { return controller->query(); });
-///     connect(client, &ZEVTextEditFinderClient::textChanged, actor, &ZEVTextFinderActor::searchAgainSoon);
+/// again first. What is put in for a match comes from the interface that has asked for the search, and what its
+/// tokens have captured from the query (ZEVTextFinder::lastRequest()). Main thread only.
 class ZEV_EXPORT ZEVTextFinderActor : public QObject {
     Q_OBJECT
 
@@ -34,25 +27,17 @@ public:
 
     explicit ZEVTextFinderActor(ZEVTextFinder *finder, QObject *parent = nullptr);
 
-    /// Whether next goes on at the beginning and previous at the end; true at first.
-    bool wrapsAround() const { return m_wrapsAround; }
+    /// Whether next goes on at the beginning and previous at the end: true at first, and where the find
+    /// interface says so too.
+    bool wrapsAround() const;
     void setWrapsAround(bool wraps) { m_wrapsAround = wraps; }
-
-    /// Asked after every search for the query behind it. Without one, or when its expression is not the one
-    /// that was searched for, no item of a replacement has a captured text.
-    void setQuerySource(const std::function<ZEVFindPanelQuery()> &source) { m_querySource = source; }
-
-    /// By default the find bar's replacePattern().
-    void setReplacePatternSource(const std::function<QVariantList()> &source)
-    {
-        m_replacePatternSource = source;
-    }
 
     void setPlaceholderValue(const PlaceholderValue &value) { m_placeholderValue = value; }
 
     /// The finder's actions 2 to 6 and 8 to 10; any other does nothing. Replace, and replace and find, act on
     /// the selected match; where none is selected they select the next one. After replacing, the text is
-    /// searched again.
+    /// searched again. While a search is under way, moving makes do with the matches so far, and all else
+    /// finishes it first.
     void performAction(qint64 action);
 
     /// What replace all would do. Matches that are not editable are left out.
@@ -81,10 +66,8 @@ private:
     class Replacer;
     ZEVTextFinderEditableClient *client() const;
     const QList<ZEVRange> &matches() const;
-    bool isFresh() const;
+    bool hasMatchesToMoveTo() const;
     void searchAgain();
-    void searchEnded();
-    QVariantList replacePattern() const;
     ZEVReplacementPreview previewOf(const QList<ZEVRange> &matches) const;
     bool replace(const QList<ZEVTextReplacement> &replacements, qint64 action);
     QList<ZEVRange> matchesInSelection() const;
@@ -96,12 +79,7 @@ private:
     void selectBehind(const ZEVTextReplacement &replacement, bool findsNext);
 
     QPointer<ZEVTextFinder> m_finder;
-    std::function<ZEVFindPanelQuery()> m_querySource;
-    std::function<QVariantList()> m_replacePatternSource;
     PlaceholderValue m_placeholderValue;
-    ZEVFindPanelQuery m_query; ///< of the last search; without a pattern when it is not known
-    std::optional<quint64> m_changeStamp; ///< of the text that was searched
-    const void *m_searchedClient = nullptr; ///< only compared
     QTimer m_timer;
     QElapsedTimer m_sinceSearch;
     bool m_wrapsAround = true;

@@ -3,14 +3,14 @@
 
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderActor.h>
 
+#include <ZEVGlobalUtils/FindEngine/ZEVFindActionNumber.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVOrvCaptureGroup.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVOrvCaptureMatch.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
-#include <ZEVGlobalUtils/FindEngine/ZEVTextFinderAction.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpressionMatcher.h>
 
-using namespace ZEVTextFinderAction;
+using namespace ZEVFindActionNumber;
 
 /// One run over the pieces that hold matches. Each is matched anew, which tells what the groups captured and
 /// lets go of any range that is no match of the text as it is.
@@ -20,7 +20,7 @@ public:
         : m_actor(actor)
         , m_client(*actor.client())
         , m_matcher(*actor.m_finder->expression())
-        , m_template(actor.replacePattern(), actor.m_query.captureGroups())
+        , m_template(actor.m_finder->replacePattern(), actor.m_finder->lastRequest().query.captureGroups())
         , m_matches(matches)
         , m_match(m_matches.begin())
     {
@@ -76,17 +76,11 @@ private:
     QList<ZEVTextReplacement> m_result;
 };
 
-QVariantList ZEVTextFinderActor::replacePattern() const
-{
-    return m_replacePatternSource ? m_replacePatternSource()
-                                  : m_finder->textFinderViewController()->replacePattern();
-}
-
 ZEVReplacementPreview ZEVTextFinderActor::previewOf(const QList<ZEVRange> &matches) const
 {
     if (matches.isEmpty())
         return {};
-    return {Replacer(*this, matches).run(), *m_changeStamp};
+    return {Replacer(*this, matches).run(), client()->changeStamp()};
 }
 
 ZEVReplacementPreview ZEVTextFinderActor::preview()
@@ -139,7 +133,7 @@ void ZEVTextFinderActor::selectBehind(const ZEVTextReplacement &replacement, boo
     qsizetype next = firstMatchAt(end.location);
     if (replacement.range.length == 0 && next < matches().size() && matches().at(next) == end)
         ++next;
-    const bool wraps = next == matches().size() && m_wrapsAround && !matches().isEmpty()
+    const bool wraps = next == matches().size() && wrapsAround() && !matches().isEmpty()
         && matches().first().location < replacement.range.location;
     if (!findsNext || (next == matches().size() && !wraps))
         return client()->setSelectedRanges({end});

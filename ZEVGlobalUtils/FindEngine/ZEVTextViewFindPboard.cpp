@@ -3,29 +3,31 @@
 
 #include <ZEVGlobalUtils/FindEngine/ZEVTextViewFindPboard.h>
 
-#include <ZEVGlobalUtils/FindEngine/ZEVTextFinderAction.h>
+#include <ZEVGlobalUtils/FindEngine/ZEVFindActionNumber.h>
 #include <ZEVGlobalUtils/Platform/Desktop/ZEVApplicationActivity_p.h>
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFindPasteboard_p.h>
 
+#include <QAbstractSpinBox>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QTextDocumentFragment>
 #include <QTextEdit>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
+/// As it is in the document: a plain text of the selection would have plain spaces for those that do not break.
 QString selectedText(const QWidget *textView)
 {
+    QString text;
     if (const auto *line = qobject_cast<const QLineEdit *>(textView))
-        return line->selectedText();
-    QTextDocumentFragment selection;
-    if (const auto *edit = qobject_cast<const QTextEdit *>(textView))
-        selection = edit->textCursor().selection();
+        text = line->selectedText();
+    else if (const auto *edit = qobject_cast<const QTextEdit *>(textView))
+        text = edit->textCursor().selectedText();
     else if (const auto *plainEdit = qobject_cast<const QPlainTextEdit *>(textView))
-        selection = plainEdit->textCursor().selection();
-    return selection.toPlainText();
+        text = plainEdit->textCursor().selectedText();
+    return text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
 }
 
 /// Both classes of editors search alike, without a common base.
@@ -38,6 +40,12 @@ void findInEditor(Editor *editor, const QString &string, QTextDocument::FindFlag
     editor->moveCursor(flags & QTextDocument::FindBackward ? QTextCursor::End : QTextCursor::Start);
     if (!editor->find(string, flags))
         editor->setTextCursor(before);
+}
+
+/// Asked first, since a call of a method that is not there makes Qt complain.
+bool answers(const QObject *responder)
+{
+    return responder->metaObject()->indexOfMethod("performTextFinderAction(QObject*)") >= 0;
 }
 
 void findNext(QWidget *textView, QTextDocument::FindFlags flags)
@@ -65,8 +73,25 @@ bool ZEVTextViewFindPboard::isFieldEditor(const QWidget *textView)
     return qobject_cast<const QLineEdit *>(textView) || textView->property("isFieldEditor").toBool();
 }
 
+QWidget *ZEVTextViewFindPboard::textViewOf(QWidget *focused)
+{
+    if (auto *box = qobject_cast<QComboBox *>(focused))
+        return box->lineEdit();
+    if (auto *box = qobject_cast<QAbstractSpinBox *>(focused))
+        return box->findChild<QLineEdit *>();
+    return focused && isTextView(focused) ? focused : nullptr;
+}
+
+bool ZEVTextViewFindPboard::isSecret(const QWidget *textView)
+{
+    const auto *line = qobject_cast<const QLineEdit *>(textView);
+    return line && line->echoMode() != QLineEdit::Normal;
+}
+
 void ZEVTextViewFindPboard::placeEditorStringOnFindPasteboard(const QWidget *textView)
 {
+    if (isSecret(textView))
+        return;
     auto pasteboard = ZEVFindPasteboard::findPasteboard();
     if (!pasteboard)
         return;
@@ -77,16 +102,20 @@ void ZEVTextViewFindPboard::placeEditorStringOnFindPasteboard(const QWidget *tex
 
 void ZEVTextViewFindPboard::performTextFinderAction(QWidget *textView, QObject *sender)
 {
-    if (QMetaObject::invokeMethod(textView, "performTextFinderAction", Q_ARG(QObject *, sender)))
-        return;
+    for (QObject *responder = textView; responder; responder = responder->parent()) {
+        if (answers(responder)) {
+            QMetaObject::invokeMethod(responder, "performTextFinderAction", Q_ARG(QObject *, sender));
+            return;
+        }
+    }
     switch (sender->property("tag").toLongLong()) {
-    case ZEVTextFinderAction::NextMatch:
+    case ZEVFindActionNumber::NextMatch:
         findNext(textView, {});
         break;
-    case ZEVTextFinderAction::PreviousMatch:
+    case ZEVFindActionNumber::PreviousMatch:
         findNext(textView, QTextDocument::FindBackward);
         break;
-    case ZEVTextFinderAction::SetSearchString:
+    case ZEVFindActionNumber::SetSearchString:
         placeEditorStringOnFindPasteboard(textView);
         break;
     default:

@@ -45,7 +45,7 @@ void goDark(QApplication &application)
 }
 
 /// The text is a pattern, as the find field shows it.
-ZEVFindPanelQuery queryOf(const CommandLine &commandLine, FindBar &bar)
+ZEVFindPanelQuery queryOf(const CommandLine &commandLine, ZEVTextFinderViewController &bar)
 {
     bar.view();
     ZEVFindPanelQuery query;

@@ -56,7 +56,7 @@ struct LyingClient : ZEVTextFinderClient {
 
 struct Finder : ZEVTextFinder {
     explicit Finder(ZEVTextFinderClient *client = nullptr) { setClient(client); }
-    std::optional<qsizetype> search(const QString &pattern)
+    std::optional<qsizetype> find(const QString &pattern)
     {
         performSearchAgainstExpression(ZEVRegularExpression::compile(pattern));
         return numberOfMatches();
@@ -76,16 +76,16 @@ private Q_SLOTS:
         Pieces client({u"Track 1"_s, u"x"_s, u"Track 22 Track 3"_s}), empty({});
         Finder finder(&client);
         QCOMPARE(finder.numberOfMatches(), std::nullopt);
-        QCOMPARE(finder.search(u"Track (\\d+)"_s), 3);
+        QCOMPARE(finder.find(u"Track (\\d+)"_s), 3);
         QCOMPARE(finder.foundMatches(), (QList<ZEVRange>{{0, 7}, {8, 8}, {17, 7}}));
         QVERIFY(!finder.limitReached());
-        QCOMPARE(finder.search(u"1x"_s), 0); // would span two pieces
-        QCOMPARE(finder.search(u"^|$"_s), 6); // anchors at every piece, empty matches
+        QCOMPARE(finder.find(u"1x"_s), 0); // would span two pieces
+        QCOMPARE(finder.find(u"^|$"_s), 6); // anchors at every piece, empty matches
         finder.performSearchAgainstExpression(std::nullopt);
         QCOMPARE(finder.numberOfMatches(), std::nullopt);
         QVERIFY(finder.foundMatches().isEmpty());
-        QCOMPARE(Finder().search(u"a"_s), std::nullopt);
-        QCOMPARE(Finder(&empty).search(u"^"_s), std::nullopt);
+        QCOMPARE(Finder().find(u"a"_s), std::nullopt);
+        QCOMPARE(Finder(&empty).find(u"^"_s), std::nullopt);
     }
 
     void observersSeeTheCountGrowAndMaySearchAnew()
@@ -97,12 +97,12 @@ private Q_SLOTS:
             counts.append(finder.numberOfMatches());
             QCOMPARE(finder.foundMatches().size(), finder.numberOfMatches().value_or(0));
             if (counts.size() == 6)
-                finder.search(u"b"_s);
+                finder.find(u"b"_s);
         });
-        finder.search(u"a"_s);
-        finder.search(u"z"_s);
+        finder.find(u"a"_s);
+        finder.find(u"z"_s);
         QCOMPARE(counts, (QList<std::optional<qsizetype>>{1, 2, std::nullopt, 0}));
-        finder.search(u"a"_s);
+        finder.find(u"a"_s);
         QCOMPARE(finder.foundMatches(), (QList<ZEVRange>{{1, 1}})); // nothing of the search that it ended
     }
 
@@ -115,19 +115,19 @@ private Q_SLOTS:
             for (QDeadlineTimer slow(3); finder.numberOfMatches() == 1 && !slow.hasExpired();) { }
         });
         const QSignalSpy performed(&finder, &ZEVTextFinder::searchPerformed);
-        QVERIFY(finder.search(u"a"_s) < 100);
+        QVERIFY(finder.find(u"a"_s) < 100);
         QVERIFY(finder.isSearching() && performed.isEmpty());
         QTRY_COMPARE(performed.size(), 1);
         QCOMPARE(finder.numberOfMatches(), 100);
 
-        finder.search(u"a"_s);
-        finder.search(u"b"_s);
+        finder.find(u"a"_s);
+        finder.find(u"b"_s);
         QTRY_COMPARE(performed.size(), 2);
         QCOMPARE(finder.numberOfMatches(), 0);
-        finder.search(u"a"_s);
+        finder.find(u"a"_s);
         finder.finishSearch();
         QCOMPARE(finder.numberOfMatches(), 100);
-        finder.search(u"a"_s);
+        finder.find(u"a"_s);
         finder.setClient(nullptr); // as one does that goes
         QTRY_COMPARE(performed.size(), 4);
         QCOMPARE(finder.numberOfMatches(), std::nullopt);
@@ -144,7 +144,7 @@ private Q_SLOTS:
                 client.reset();
             }
         });
-        QCOMPARE(finder.search(u"a"_s), 2);
+        QCOMPARE(finder.find(u"a"_s), 2);
 
         QPointer<Finder> dying = new Finder(&other);
         connect(dying, &ZEVTextFinder::numberOfMatchesChanged, this, [&] { delete dying; });
@@ -165,7 +165,7 @@ private Q_SLOTS:
             LyingClient client;
             client.length = length;
             client.range = range;
-            COMPARE_ROW(name, Finder(&client).search(u"a"_s), found);
+            COMPARE_ROW(name, Finder(&client).find(u"a"_s), found);
         }
     }
 
@@ -205,10 +205,10 @@ private Q_SLOTS:
         QTest::failOnWarning(QRegularExpression(u"."_s));
         Pieces client(QStringList(500, QString(60, u'a') + u'!'));
         Finder finder(&client);
-        QCOMPARE(finder.search(u"(a+)+$"_s), 0);
+        QCOMPARE(finder.find(u"(a+)+$"_s), 0);
         QVERIFY(finder.limitReached());
         QVERIFY2(client.asked >= 3 && client.asked <= 6, qPrintable(QString::number(client.asked)));
-        QCOMPARE(finder.search(u"!"_s), 500); // the next search begins afresh
+        QCOMPARE(finder.find(u"!"_s), 500); // the next search begins afresh
         QVERIFY(!finder.limitReached());
     }
 };

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
+#include "../FindInterfaceStub.h"
 #include "../Rows.h"
 
 #include <ZEVGlobalUtils/FindEngine/ZEVOrvCaptureGroup.h>
@@ -10,6 +11,8 @@
 #include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
 
 #include <QDeadlineTimer>
+#include <QElapsedTimer>
+#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -79,18 +82,18 @@ ZEVFindPanelQuery queryFor(const QVariantList &pattern, qint64 type)
 struct Round {
     Round(const QString &text, const QVariantList &search, const QVariantList &replacement, qint64 type = 4)
         : client(text)
-        , query(queryFor(search, type))
+        , request{queryFor(search, type), queryFor(search, type).searchExpression(), &asker}
+        , asker(replacement)
         , actor(&finder)
     {
         finder.setClient(&client);
-        actor.setQuerySource([this] { return query; });
-        actor.setReplacePatternSource([replacement] { return replacement; });
+        finder.addInterface(&asker);
         actor.setPlaceholderValue([](const ZEVPatternItem &item, const ZEVRange &range) {
             if (item.valueTransformerName())
                 return ZEVOrvCaptureMatch{item, 2'000'000};
             return ZEVOrvCaptureMatch{item, u"%1@%2"_s.arg(*item.title()).arg(range.location)};
         });
-        finder.performSearchAgainstExpression(query.searchExpression());
+        finder.search(request);
     }
     QString after(const QList<qint64> &actions)
     {
@@ -100,7 +103,8 @@ struct Round {
     }
 
     Lines client;
-    ZEVFindPanelQuery query;
+    ZEVFindRequest request;
+    FindInterfaceStub asker;
     ZEVTextFinder finder;
     ZEVTextFinderActor actor;
 };
@@ -184,7 +188,7 @@ private Q_SLOTS:
             COMPARE_ROW(name, round.client.selection.value(0), selection);
         }
         Round once(u"a-a"_s, {u"a"_s}, {});
-        once.actor.setWrapsAround(false);
+        once.asker.wraps = false; // as its user has chosen
         once.after({2, 2, 2});
         QCOMPARE(once.client.selection, (QList<ZEVRange>{{2, 1}}));
     }
@@ -230,7 +234,6 @@ private Q_SLOTS:
                         {token(ZEVPatternItem::digits())});
             round.after({2});
             round.client.text = u"xa1-a2"_s;
-            round.query.setSearchPattern(QVariantList{u"("_s}); // typed since, and no expression yet
             QCOMPARE(round.after({action}), action == 4 ? u"x1-2"_s : u"xa1-a2"_s);
             QCOMPARE(round.after({action}), action == 4 ? u"x1-2"_s : u"x1-a2"_s);
         }
@@ -239,7 +242,7 @@ private Q_SLOTS:
         connect(&underWay.finder, &ZEVTextFinder::numberOfMatchesChanged, this, [&] {
             for (QDeadlineTimer slow(3); underWay.finder.numberOfMatches() == 1 && !slow.hasExpired();) { }
         });
-        underWay.finder.performSearchAgainstExpression(underWay.query.searchExpression());
+        underWay.finder.search(underWay.request);
         underWay.client.text.prepend(u"xx\n"_s);
         QVERIFY(underWay.finder.isSearching());
         QCOMPARE(underWay.after({4}), u"xx\n"_s + QString(u"b\n"_s).repeated(99));
@@ -250,11 +253,72 @@ private Q_SLOTS:
         QTRY_COMPARE(later.finder.numberOfMatches(), 2);
     }
 
+    void whoAsksGetsTheCountAndGivesTheReplacement()
+    {
+        Round round(u"a1 b2 b3"_s, {u"a"_s, token(ZEVPatternItem::digits())}, {u"x"_s});
+        auto panel =
+            std::make_unique<FindInterfaceStub>(QVariantList{token(ZEVPatternItem::digits()), u"y"_s});
+        round.finder.addInterface(panel.get());
+        QCOMPARE(round.asker.count, 1);
+        QCOMPARE(panel->count, std::nullopt);
+        const auto query = queryFor({u"b"_s, token(ZEVPatternItem::digits())}, 0);
+        round.finder.search({query, query.searchExpression(), panel.get()});
+        QCOMPARE(panel->count, 2);
+        QCOMPARE(round.asker.count, std::nullopt); // nothing of its own was counted
+        QCOMPARE(round.after({2, 5}), u"a1 b2 b3"_s.replace(u"b2"_s, u"2y"_s));
+        round.finder.search(round.finder.lastRequest());
+        QCOMPARE(round.finder.lastRequest().query, query);
+        panel.reset();
+        QCOMPARE(round.finder.lastRequest().asker, nullptr);
+        round.finder.performSearchAgainstExpression(ZEVRegularExpression::compile(u"\\d"_s));
+        QCOMPARE(round.asker.count, 3); // nobody's, so everybody's
+        QCOMPARE(round.after({2}), u"a1 2y b3"_s);
+        round.finder.setFoundMatches({{0, 2}});
+        QCOMPARE(round.asker.count, 1);
+        QCOMPARE(round.after({9}), u"a1 2y b3"_s);
+        QCOMPARE(round.client.selection, (QList<ZEVRange>{{0, 2}}));
+    }
+
+    /// A text on which the engine spends its whole limit, which holds up nobody.
+    void noExpressionHoldsUpTheUser()
+    {
+        const QString runaway = QString(60, u'a') + u'!';
+        Round round(QStringList{u"a!"_s, runaway, u"a!"_s}.join(u'\n'), {u"z"_s}, {u"-"_s});
+        round.finder.setSliceDuration(5ms);
+        const auto query = queryFor({u"(a+)+$|!"_s}, 4);
+        const ZEVFindRequest request{query, query.searchExpression(), &round.asker};
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Matching was cut short"_s));
+        round.asker.searchings.clear();
+        QElapsedTimer timer;
+        timer.start();
+        round.finder.search(request);
+        const qint64 held = timer.elapsed();
+        QVERIFY2(held < 150, qPrintable(u"held for %1 ms"_s.arg(held))); // the limit is 250
+        QVERIFY(round.finder.isSearching());
+        QCOMPARE(round.asker.searchings, QList<bool>{true});
+        round.after({2}); // moves to what there is
+        QCOMPARE(round.client.selection.value(0), (ZEVRange{1, 1}));
+        QTRY_VERIFY(!round.finder.isSearching());
+        QVERIFY(round.finder.limitReached());
+        QCOMPARE(round.asker.searchings, (QList<bool>{true, false}));
+        QCOMPARE(round.finder.foundMatches().first(), (ZEVRange{1, 1}));
+        QCOMPARE(round.finder.foundMatches().last(), (ZEVRange{round.client.text.size() - 1, 1}));
+
+        round.finder.search(request);
+        QVERIFY(round.finder.stopSearch());
+        QVERIFY(!round.finder.stopSearch() && !round.finder.isSearching());
+        QCOMPARE(round.finder.numberOfMatches(), 1);
+        round.finder.search(request);
+        round.client.text.prepend(u"!\n"_s); // what has been found lies elsewhere now
+        QTRY_VERIFY(!round.finder.isSearching());
+        QCOMPARE(round.finder.foundMatches().first(), (ZEVRange{0, 1}));
+        round.finder.search(request); // and it may end in the middle of it
+    }
+
     void anyoneMayGoAtAnyMoment()
     {
         auto round = std::make_unique<Round>(u"a-a"_s, QVariantList{u"a"_s}, QVariantList{u"b"_s});
         QPointer actor = new ZEVTextFinderActor(&round->finder);
-        actor->setReplacePatternSource([] { return QVariantList(); });
         connect(&round->finder, &ZEVTextFinder::searchPerformed, actor, [&] { delete actor; });
         actor->performAction(4);
         QVERIFY(!actor);

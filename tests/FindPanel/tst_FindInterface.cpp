@@ -4,19 +4,26 @@
 #include "../Rows.h"
 #include "Fields.h"
 
-#include <ZEVGlobalUtils/FindEngine/ZEVFindPanelScope.h>
+#include <ZEVGlobalUtils/FindEngine/ZEVFindPanelSharedScope.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderClient.h>
+#include <ZEVGlobalUtils/FindEngine/ZEVTextViewFindPboard.h>
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFindBarContainerView.h>
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFindPanelQueryParamsController.h>
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFocusTokenFieldCell.h>
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderBorderlessPopUpButton.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderFakeCellView.h>
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderMenu.h>
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderViewController.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
+#include <ZEVGlobalUtils/Menus/Observing/ZEVKeyValueObserver.h>
 #include <ZEVGlobalUtils/Platform/Desktop/ZEVApplicationActivity_p.h>
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFindPasteboard_p.h>
+#include <ZEVGlobalUtils/Platform/Questions/ZEVErrorPresentation.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVError.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVKeyedArchiver.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVKeyedUnarchiver.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVUserDefaults.h>
 
 namespace {
@@ -131,6 +138,25 @@ QStringList titles(const QMenu *menu)
 
 } // namespace
 
+/// Counts what observers are told.
+class Heard : public QObject {
+    Q_OBJECT
+
+public:
+    int count = 0;
+
+public Q_SLOTS:
+    void note() { ++count; }
+};
+
+/// An object of another program's.
+struct Foreign {
+    Foreign() = default;
+    explicit Foreign(ZEVKeyedUnarchiver &) { }
+    void encodeWithCoder(ZEVKeyedArchiver &archiver) const { archiver.encodeBool(true, u"field"); }
+};
+Q_DECLARE_METATYPE(Foreign)
+
 /// A host's own interface, which brings a file of its name, and one that does not.
 class HostInterface : public ZEVTextFinderUserInterfaceVC {
     Q_OBJECT
@@ -222,7 +248,9 @@ private Q_SLOTS:
         QVERIFY(!shown.controller.wrapAround());
         QCOMPARE(shownModes(), u"Find Find && Replace* - Wrap Around [Find  Replace]"_s);
         const QFontMetricsF metrics(modes->font());
-        QCOMPARE(modes->maxWidth(), std::floor(metrics.horizontalAdvance(u"Find  Replace"_s) + 15));
+        QCOMPARE(modes->maxWidth(), std::floor(metrics.horizontalAdvance(u"Find & Replace"_s) + 15));
+        modes->selectItem(std::make_unique<QAction>().get());
+        modes->setUp(); // of an item that has gone
         QCOMPARE(ZEVTextFinderBorderlessPopUpButton().maxWidth(), 0.0);
     }
 
@@ -256,7 +284,7 @@ private Q_SLOTS:
         replace->menu()->actions().last()->trigger();
         QTRY_COMPARE(replace->patternStringValue(), u"%(\\n)%"_s);
         // Kept: only the find field's tokens are known by their texts.
-        QCOMPARE(replace->conversionPatternForPatternString(u"%(\\n)%"_s), QVariantList());
+        QCOMPARE(replace->conversionPatternForPatternString(u"%(\\n)%"_s), QVariantList{u"%(\\n)%"_s});
         QCOMPARE(shown.controller.replacePattern().size(), 1);
     }
 
@@ -428,16 +456,54 @@ private Q_SLOTS:
         send(7);
         QCOMPARE(pasteboard.string(), u"one"_s);
         QCOMPARE(window.bar().findTokenField()->stringValue(), u"one"_s); // read again at once
-        window.editor.moveCursor(QTextCursor::Start);
-        send(3); // around the beginning, by the editor itself
-        QCOMPARE(window.editor.textCursor().selectionStart(), 8);
-        send(2);
-        QCOMPARE(window.editor.textCursor().selectionStart(), 0);
         const QSignalSpy left(&window.finder, &ZEVTextFinder::actionLeftToHost);
+        send(3); // the container answers for its editor
         window.line.setFocus();
         send(2);
         send(99);
-        QCOMPARE(left.size(), 2);
+        QCOMPARE(left.size(), 3);
+        window.finder.tryToPerformTextFinderAction(nullptr);
+
+        QTest::failOnWarning(QRegularExpression(u"."_s));
+        QPlainTextEdit alone(u"one two one"_s); // nobody answers for it
+        for (const auto &[action, location] : {std::pair(1, 0), std::pair(3, 8), std::pair(2, 0)}) {
+            sender.setProperty("tag", action);
+            ZEVTextViewFindPboard::performTextFinderAction(&alone, &sender);
+            QCOMPARE(alone.textCursor().selectionStart(), location);
+        }
+    }
+
+    void selectionsAreUsedAsTheyStand()
+    {
+        Window window;
+        auto pasteboard = ZEVFindPasteboard::findPasteboard().value();
+        const auto used = [&](QWidget *view) {
+            view->setFocus();
+            if (!window.finder.validateAction(7))
+                return u"off"_s;
+            window.finder.performAction(7);
+            return pasteboard.string().value_or(u"nil"_s);
+        };
+        auto *spins = new QSpinBox(window.content);
+        auto *combo = new QComboBox(window.content);
+        combo->setEditable(true);
+        for (QWidget *widget : {static_cast<QWidget *>(spins), static_cast<QWidget *>(combo)})
+            widget->show();
+        window.editor.setPlainText(u"a\u00A0b\nc"_s);
+        window.editor.selectAll();
+        QCOMPARE(used(&window.editor), u"a\u00A0b\nc"_s);
+        combo->setEditText(u"combo"_s);
+        combo->lineEdit()->selectAll();
+        QCOMPARE(used(combo), u"combo"_s);
+        spins->setValue(42);
+        spins->selectAll();
+        QCOMPARE(used(spins), u"42"_s);
+        window.line.setText(u"secret"_s);
+        window.line.setEchoMode(QLineEdit::Password);
+        window.line.selectAll();
+        QCOMPARE(used(&window.line), u"off"_s);
+        window.finder.performAction(7);
+        QCOMPARE(pasteboard.string(), u"42"_s);
     }
 
     void theFinderShowsItsBar()
@@ -496,8 +562,263 @@ private Q_SLOTS:
         QVERIFY(bar.findTokenField());
     }
 
+    /// What a host does with a query while it is typed takes nothing away from what is typed.
+    void hostsMayAnswerWhatIsTyped()
+    {
+        Shown<ZEVTextFinderViewController> shown;
+        connect(&shown.controller, &ZEVTextFinderUserInterfaceVC::queryChanged, this, [&] {
+            const QString text = shown.field().stringValue();
+            shown.controller.setCaseInsensitiveSearch(text == text.toLower());
+        });
+        connect(&shown.controller, &ZEVTextFinderUserInterfaceVC::queryChanged, &shown.controller,
+                &ZEVTextFinderUserInterfaceVC::performSearch);
+        for (const QChar character : u"abC жук 100%"_s) // smart case
+            QTest::sendKeyEvent(QTest::Click, &shown.field(), Qt::Key_unknown, QString(character), {});
+        QCOMPARE(shown.field().stringValue(), u"abC жук 100%"_s);
+        QVERIFY(!shown.controller.query().caseInsensitiveSearch());
+        QCOMPARE(shown.listener.searches.last(), u"abC жук 100%"_s);
+        shown.controller.setMatchingType(7);
+        QCOMPARE(shown.controller.query().matchingType(), 7);
+        shown.field().insertToken(QVariant::fromValue(ZEVPatternItem::digits()));
+        QCOMPARE(shown.field().patternStringValue(), u"abC жук 100%%%(\\d+)%"_s);
+
+        ZEVTextFinderViewController early;
+        early.setSearchPattern(QVariantList{u"early"_s}); // before there is a field to hold it
+        QVERIFY(!early.showReplace());
+        early.view();
+        QCOMPARE(early.searchPattern(), QVariantList{u"early"_s});
+    }
+
+    void propertiesCanBeObserved()
+    {
+        Shown<ZEVTextFinderViewController> shown;
+        Heard heard;
+        std::vector<std::unique_ptr<ZEVKeyValueObserver>> observers;
+        for (const auto &key : {u"query"_s, u"searchPattern"_s, u"replacePattern"_s, u"lastQuery"_s,
+                                u"numberOfMatches"_s, u"searchTermUnchanged"_s})
+            observers.push_back(ZEVKeyValueObserver::observeObject(&shown.controller, key, &heard, "note",
+                                                                   ZEVKeyValueObserver::New));
+        const auto scope = std::make_shared<ZEVFindPanelScope>(u"Library"_s);
+        const std::tuple<const char *, std::function<void()>, int> rows[] = {
+            {"typed: query, pattern, unchanged twice, last", [&] { QTest::keyClick(&shown.field(), u'a'); },
+             5},
+            {"replacement", [&] { shown.controller.replaceTokenField()->setObjectValue({u"b"_s}); }, 1},
+            {"count", [&] { shown.controller.setNumberOfMatches(1); }, 1},
+            {"the same count", [&] { shown.controller.setNumberOfMatches(1); }, 0},
+            {"scope", [&] { shown.controller.setScope(scope); }, 3},
+            {"its title", [&] { scope->setTitle(u"Selection"_s); }, 3},
+        };
+        for (const auto &[name, change, expected] : rows) {
+            heard.count = 0;
+            change();
+            COMPARE_ROW(name, heard.count, expected);
+        }
+    }
+
+    void ofTwoBarsTheOneThatIsUsedSpeaks()
+    {
+        Shown<ZEVTextFinderViewController> left, right;
+        auto pasteboard = ZEVFindPasteboard::findPasteboard().value();
+        ZEVApplicationActivity *activity = ZEVApplicationActivity::shared();
+        QTest::keyClicks(&right.field(), u"r"_s);
+        QTest::keyClicks(&left.field(), u"l"_s);
+        Q_EMIT activity->willResignActive();
+        QCOMPARE(pasteboard.string(), u"l"_s);
+        pasteboard.setString(u"other"_s);
+        const qsizetype searches = right.listener.searches.size();
+        right.window.hide();
+        Q_EMIT activity->didBecomeActive();
+        QCOMPARE(right.field().stringValue(), u"other"_s);
+        QCOMPARE(right.listener.searches.size(), searches); // unseen
+        const qint64 count = pasteboard.changeCount();
+        Q_EMIT activity->willResignActive();
+        QCOMPARE(pasteboard.changeCount(), count); // nothing was typed since
+        right.window.show();
+        QTRY_COMPARE(right.listener.searches.last(), u"other"_s);
+    }
+
+    void expressionsThatAreNoneArePresentedWhereNothingElseTells()
+    {
+        QStringList presented;
+        const auto before = ZEVErrorPresentation::setPresenter(
+            [&](const ZEVError &error) { presented += error.localizedDescription(); });
+        {
+            Shown<ZEVTextFinderViewController> shown;
+            shown.controller.setMatchingType(ZEVFindPanelQuery::RegularExpression);
+            QTest::keyClicks(&shown.field(), u"("_s);
+            QVERIFY(presented.isEmpty());
+            delete shown.child<QLabel>(u"messageLabel"_s);
+            QTest::keyClicks(&shown.field(), u"("_s);
+        }
+        ZEVErrorPresentation::setPresenter(before);
+        QCOMPARE(presented.size(), 1);
+    }
+
+    void savedQueriesAreNeverLost()
+    {
+        const auto queryOf = [](const QString &text) {
+            ZEVFindPanelQuery query;
+            query.setSearchPattern(QVariantList{text});
+            return query;
+        };
+        const auto textsOf = [](const ZEVFindPanelQueryParamsController &panel) {
+            QString texts;
+            for (const ZEVFindPanelQuery &query : panel.savedQueries())
+                texts += query.searchPattern()->value(0).toString();
+            return texts;
+        };
+        const QString key = kZEVFindPanelSavedQueriesAutosaveName.toString();
+        ZEVFindPanelQueryParamsController first, second;
+        for (const auto &text : {u"c"_s, u"b"_s, u"a"_s})
+            first.addSavedQuery(queryOf(text)); // before there is a view
+        QCOMPARE(textsOf(first), u"abc"_s);
+        first.addSavedQuery(first.savedQueries().at(1));
+        QCOMPARE(textsOf(first), u"bac"_s);
+        first.addSavedQuery(first.savedQueries().last());
+        QCOMPARE(textsOf(second), u"cba"_s);
+        second.addSavedQuery(queryOf(u"d"_s));
+        first.removeSavedQuery(first.savedQueries().last());
+        QCOMPARE(textsOf(second), u"dcb"_s);
+
+        ZEVKeyedArchiver::registerClass<Foreign>(u"Foreign"_s); // and nobody reads it here
+        ZEVUserDefaults *defaults = ZEVUserDefaults::standardUserDefaults();
+        defaults->setObject(
+            QVariantList{QVariant::fromValue(Foreign()), QVariant::fromValue(queryOf(u"x"_s))}, key);
+        QCOMPARE(textsOf(first), u"x"_s);
+        first.addSavedQuery(queryOf(u"y"_s));
+        ZEVKeyedUnarchiver::registerClass<Foreign>(u"Foreign"_s);
+        const QVariantList stored = defaults->objectForKey(key).toList();
+        QCOMPARE(stored.size(), 3);
+        QVERIFY(stored.last().canConvert<Foreign>());
+    }
+
+    void scopesAreChosenFromAMenu()
+    {
+        Shown<ZEVFindPanelQueryParamsController> shown;
+        const auto library = std::make_shared<ZEVFindPanelSharedScope>(u"R & B"_s);
+        const auto selection = std::make_shared<ZEVFindPanelSharedScope>(u"Selection"_s);
+        shown.controller.setScopes({library, selection});
+        auto *button = shown.child<QPushButton>(u"scopeButton"_s);
+        QCOMPARE(button->text(), u"R && B"_s);
+        QTest::keyClicks(&shown.field(), u"a"_s);
+        QTest::keyClick(&shown.field(), Qt::Key_Return);
+        shown.controller.setNumberOfMatches(1);
+        QVERIFY(shown.controller.replaceEnabled()); // its copy is itself
+        Q_EMIT button->menu()->aboutToShow();
+        QCOMPARE(titles(button->menu()), QStringList({u"R && B*"_s, u"Selection"_s}));
+        button->menu()->actions().last()->trigger();
+        QCOMPARE(shown.controller.query().scope(), selection);
+        QVERIFY(!shown.controller.replaceEnabled());
+        selection->setTitle(u"Two Tracks"_s);
+        QCOMPARE(button->text(), u"Two Tracks"_s);
+    }
+
+    void menusAreBuiltOnceAndHeardByAll()
+    {
+        Shown<ZEVTextFinderViewController> bar;
+        Shown<ZEVFindPanelQueryParamsController> panel;
+        int heard = 0;
+        for (const QMenu *menu : {bar.field().dropDownMenu(), panel.field().patternsMenu()}) {
+            connect(menu, &QMenu::aboutToShow, this, [&heard] { ++heard; });
+            Q_EMIT const_cast<QMenu *>(menu)->aboutToShow();
+        }
+        bar.controller.popupFindMenu();
+        bar.field().dropDownMenu()->close();
+        QCOMPARE(heard, 3);
+        const auto styles = [&] { return bar.window.findChildren<QStyle *>().size(); };
+        bar.controller.updateFindTokenFieldMenu();
+        const qsizetype before = styles();
+        bar.controller.menuNeedsUpdate(bar.field().menu());
+        QCOMPARE(styles(), before);
+        int updates = 0;
+        connect(&panel.controller, &ZEVFindPanelQueryParamsController::enabledChanged, this,
+                [&updates] { ++updates; });
+        QTest::keyClicks(&panel.field(), u"a"_s);
+        QTest::keyClick(&panel.field(), Qt::Key_Return);
+        for (qsizetype number = 1; number <= 5000; ++number)
+            panel.controller.setNumberOfMatches(number);
+        QCOMPARE(updates, 2); // there is something to find, and it has been found
+    }
+
+    void longSearchesSaySoAndCanBeStopped()
+    {
+        Window window(QStringList(20, QString(60, u'a') + u'!'));
+        ZEVRegularExpression::setTimeLimit(std::chrono::seconds(60));
+        window.finder.setSliceDuration(std::chrono::milliseconds(10));
+        window.finder.performAction(1);
+        window.bar().setMatchingType(ZEVFindPanelQuery::RegularExpression);
+        const auto *message = window.bar().view()->findChild<QLabel *>(u"messageLabel"_s);
+        window.bar().setSearchPattern(QVariantList{u"(a+)+$"_s});
+        QVERIFY(window.finder.isSearching() && !message->isVisible());
+        QTRY_VERIFY2(message->text().contains(u"Escape"), qPrintable(message->text()));
+        QTest::keyClick(window.bar().findTokenField(), Qt::Key_Escape);
+        QVERIFY(!window.finder.isSearching() && window.container.isFindBarVisible());
+        QVERIFY(message->text().contains(u"stopped"));
+        QTest::keyClick(window.bar().findTokenField(), Qt::Key_Escape);
+        QVERIFY(!window.container.isFindBarVisible());
+        ZEVRegularExpression::setTimeLimit(std::chrono::milliseconds(250));
+    }
+
+    /// At every width nothing is cut off, and fields that stand below each other line up.
+    void theBarFitsEveryWidth()
+    {
+        Window window;
+        window.finder.performAction(12);
+        QWidget *bar = window.bar().view();
+        auto *modes = bar->findChild<ZEVTextFinderBorderlessPopUpButton *>();
+        const auto *find = bar->findChild<ZEVTextFinderFakeCellView *>(u"findBackdrop"_s);
+        const auto *replace = bar->findChild<ZEVTextFinderFakeCellView *>(u"replaceBackdrop"_s);
+        for (const QString &language : {u"Find & Replace"_s, u"Rechercher et remplacer"_s}) {
+            ZEVMenuItem::setTitle(modes->menu()->actions().at(1), language);
+            modes->setUp();
+            for (const int width : {1280, 900, 640, 480, 320, 900}) {
+                const auto fault = [&] {
+                    if (find->mapTo(bar, QPoint()).x() != replace->mapTo(bar, QPoint()).x()
+                        || find->width() != replace->width() || find->width() < 190)
+                        return u"fields at %1 in %2"_s.arg(width).arg(language);
+                    for (const QAbstractButton *button : bar->findChildren<QAbstractButton *>()) {
+                        const QRect place(button->mapTo(bar, QPoint()), button->size());
+                        if (!bar->rect().contains(place) || button->width() < button->sizeHint().width())
+                            return u"%1 at %2 in %3"_s.arg(button->objectName()).arg(width).arg(language);
+                    }
+                    return QString();
+                };
+                window.container.resize(width, 400);
+                QTRY_COMPARE(fault(), QString());
+            }
+        }
+    }
+
     void survivesThatPartsGo()
     {
+        {
+            QPointer finder(new ZEVTextFinder);
+            Lines client;
+            client.lines = QStringList{u"aa"_s};
+            finder->setClient(&client);
+            Shown<ZEVTextFinderViewController> other;
+            auto *bar = static_cast<ZEVTextFinderViewController *>(finder->textFinderViewController());
+            other.window.layout()->addWidget(bar->view());
+            QPointer<ZEVTokenField> field = bar->findTokenField();
+            QCoreApplication::processEvents(); // now it is shown
+            field->setFocus();
+            connect(bar, &ZEVTextFinderViewController::numberOfMatchesChanged, finder,
+                    [&] { delete finder; });
+            QTest::keyClicks(field, u"a"_s);
+            QVERIFY(!finder);
+            QTRY_VERIFY(!field);
+
+            finder = new ZEVTextFinder(&other.window);
+            QVERIFY(finder->textFinderViewController());
+            finder->setTextFinderViewController(nullptr);
+            finder->performAction(2);
+            finder->performAction(11);
+            delete other.controller.findTokenField();
+            delete other.controller.replaceTokenField();
+            other.controller.popupFindMenu();
+            other.controller.popupReplaceMenu();
+            other.controller.navigationSegmentPressed(nullptr);
+        }
         auto window = std::make_unique<Window>(QStringList{u"a"_s});
         auto listener = std::make_unique<Listener>();
         window->finder.performAction(12);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
+#include "../FindInterfaceStub.h"
 #include "../Rows.h"
 
 #include <ZEVGlobalUtils/FindEngine/ZEVOrvCaptureMatch.h>
@@ -22,15 +23,17 @@ namespace {
 
 struct Finder : ZEVTextFinder {
     explicit Finder(const QString &replacement = {})
-        : actor(this)
+        : asker(QVariantList{replacement})
+        , actor(this)
     {
-        actor.setReplacePatternSource([replacement] { return QVariantList{replacement}; });
+        addInterface(&asker);
     }
-    qsizetype search(const QString &pattern)
+    qsizetype find(const QString &pattern)
     {
-        performSearchAgainstExpression(ZEVRegularExpression::compile(pattern));
+        search({{}, ZEVRegularExpression::compile(pattern), &asker});
         return numberOfMatches().value_or(-1);
     }
+    FindInterfaceStub asker;
     ZEVTextFinderActor actor;
 };
 
@@ -81,14 +84,14 @@ void checkEditor()
     editor.setPlainText(u"ab\nac\n\u00A0b\n\nba"_s);
     {
         ZEVTextEditFinderClient whole(&editor, &finder, ZEVTextEditFinderClient::Piece::WholeText);
-        QCOMPARE(finder.search(u"b\na|\u00A0"_s), 2);
+        QCOMPARE(finder.find(u"b\na|\u00A0"_s), 2);
     }
     QCOMPARE(finder.client(), nullptr);
     const ZEVTextEditFinderClient client(&editor, &finder);
     QCOMPARE(walk(client), u"ab|ac|\u00A0b||ba|"_s);
-    QCOMPARE(finder.search(u"\\s$"_s), 0);
-    QCOMPARE(finder.search(u"^$"_s), 1);
-    QCOMPARE(finder.search(u"^a"_s), 2);
+    QCOMPARE(finder.find(u"\\s$"_s), 0);
+    QCOMPARE(finder.find(u"^$"_s), 1);
+    QCOMPARE(finder.find(u"^a"_s), 2);
 
     QTextCursor cursor = editor.textCursor();
     cursor.setPosition(3);
@@ -108,7 +111,7 @@ void checkEditor()
     QCOMPARE(editor.toPlainText(), u"ab\nac\n b\n\nba"_s);
     QCOMPARE(editor.textCursor().selectedText(), u"a"_s);
     editor.setPlainText({});
-    QCOMPARE(finder.search(u"^"_s), -1);
+    QCOMPARE(finder.find(u"^"_s), -1);
     delete editor.document();
     finder.performAction(2);
 }
@@ -124,14 +127,14 @@ void checkMarks()
     editor.setExtraSelections({{editor.textCursor(), {}}}); // the host's own
     editor.show();
     QVERIFY(QTest::qWaitForWindowExposed(&editor));
-    finder.search(u"a"_s);
+    finder.find(u"a"_s);
     const qsizetype marks = editor.extraSelections().size();
     QVERIFY2(marks > 6 && marks < 200, qPrintable(QString::number(marks)));
     editor.verticalScrollBar()->setValue(editor.verticalScrollBar()->maximum());
     QVERIFY(editor.extraSelections().last().cursor.position() > 7000);
     editor.resize(200, 300);
     QTRY_VERIFY(editor.extraSelections().size() > marks);
-    finder.search(u"z"_s);
+    finder.find(u"z"_s);
     QCOMPARE(editor.extraSelections().size(), 1);
 }
 
@@ -194,7 +197,7 @@ private Q_SLOTS:
         QCOMPARE(client.cellOfRange({8, 1}, &range), source->index(1, 1));
         QCOMPARE(range, (ZEVRange{1, 1}));
         QVERIFY(!client.cellOfRange({10, 0}).isValid());
-        finder.search(u"$"_s);
+        finder.find(u"$"_s);
         QCOMPARE(client.matchesInCell(source->index(0, 1)).ranges, (QList<ZEVRange>{{2, 0}}));
         QVERIFY(client.matchesInCell(source->index(0, 0)).ranges.isEmpty());
         source->appendRow({});
@@ -215,7 +218,7 @@ private Q_SLOTS:
         view.setModel(source.get());
         Finder finder(u"x"_s);
         ZEVItemModelFinderClient client(source.get(), &view, &finder);
-        finder.search(u"b"_s);
+        finder.find(u"b"_s);
         view.setCurrentIndex(source->index(1, 1));
         for (const qsizetype current : {0, 1}) {
             finder.performAction(2);
@@ -248,7 +251,7 @@ private Q_SLOTS:
                 written += change.before + u'>' + change.after;
             return false;
         });
-        finder.search(u"a"_s);
+        finder.find(u"a"_s);
         finder.performAction(4);
         QCOMPARE(written, (QStringList{u"a>zz"_s, u"aa>zzzz"_s, u"ab>zzb"_s}));
         client.setWriter({});
@@ -264,7 +267,7 @@ private Q_SLOTS:
         } shown;
         shown.setSourceModel(source.get());
         ZEVItemModelFinderClient formatted(&shown, nullptr, &finder);
-        QCOMPARE(finder.search(u"kB"_s), 8);
+        QCOMPARE(finder.find(u"kB"_s), 8);
         QVERIFY(finder.actor.preview().replacements.isEmpty());
     }
 
@@ -275,7 +278,7 @@ private Q_SLOTS:
         auto view = std::make_unique<QTableView>();
         view->setModel(source.get());
         new ZEVItemModelFinderClient(source.get(), view.get(), &finder);
-        QCOMPARE(finder.search(u"a"_s), 1);
+        QCOMPARE(finder.find(u"a"_s), 1);
         source.reset();
         for (const qint64 action : {2, 4, 6, 8, 9})
             finder.performAction(action);

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
+#include <ZEVGlobalUtils/FindEngine/ZEVFindActionNumber.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
-#include <ZEVGlobalUtils/FindEngine/ZEVTextFinderAction.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderActor.h>
 #include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVItemModelFinderClient.h>
 #include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVMatchColors.h>
@@ -39,7 +39,7 @@ public:
         m_finder.performSearchAgainstExpression(query.searchExpression());
     }
 
-    void goToNextMatch() { m_actor.performAction(ZEVTextFinderAction::NextMatch); }
+    void goToNextMatch() { m_actor.performAction(ZEVFindActionNumber::NextMatch); }
 
     QStyleOptionViewItem &option() { return m_option; }
 

@@ -62,7 +62,7 @@ struct Shown {
         return bar().findTokenField();
     }
 
-    FindBar &bar() { return window.find().bar(); }
+    ZEVTextFinderViewController &bar() { return window.find().bar(); }
     QString count()
     {
         return bar().view()->findChild<QLabel *>(QStringLiteral("numberOfMatchesLabel"))->text();

@@ -3,6 +3,8 @@
 
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFindBarContainerView.h>
 
+#include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
+
 #include <QEvent>
 #include <QStyle>
 
@@ -10,7 +12,9 @@ ZEVFindBarContainerView::ZEVFindBarContainerView(QWidget *content, QWidget *pare
     : QWidget(parent)
     , m_content(content)
 {
+    const bool isHidden = content->isHidden() && content->testAttribute(Qt::WA_WState_ExplicitShowHide);
     content->setParent(this);
+    content->setVisible(!isHidden);
     setFocusProxy(content); // where the focus goes when the bar is hidden
     m_animation.setEasingCurve(QEasingCurve::OutCubic);
     connect(&m_animation, &QVariantAnimation::valueChanged, this, [this](const QVariant &height) {
@@ -24,7 +28,19 @@ ZEVFindBarContainerView::ZEVFindBarContainerView(QWidget *content, QWidget *pare
     });
 }
 
-ZEVFindBarContainerView::~ZEVFindBarContainerView() = default;
+ZEVFindBarContainerView::~ZEVFindBarContainerView()
+{
+    if (m_finder)
+        m_finder->setFindBarContainer(nullptr);
+}
+
+void ZEVFindBarContainerView::setFinder(ZEVTextFinder *finder) { m_finder = finder; }
+
+void ZEVFindBarContainerView::performTextFinderAction(QObject *sender)
+{
+    if (m_finder && sender)
+        m_finder->performAction(sender->property("tag").toLongLong());
+}
 
 void ZEVFindBarContainerView::setFindBarView(QWidget *view)
 {
@@ -66,7 +82,10 @@ void ZEVFindBarContainerView::findBarViewDidChangeHeight()
 
 int ZEVFindBarContainerView::fittingHeight() const
 {
-    return m_findBarView ? m_findBarView->sizeHint().height() : 0;
+    if (!m_findBarView)
+        return 0;
+    return m_findBarView->hasHeightForWidth() ? m_findBarView->heightForWidth(width())
+                                              : m_findBarView->sizeHint().height();
 }
 
 /// A duration of 0, which a style answers where the desktop asks for less motion, ends at once.
@@ -97,8 +116,7 @@ QSize ZEVFindBarContainerView::minimumSizeHint() const
     const QSize content = m_content->minimumSizeHint().expandedTo(m_content->minimumSize());
     if (!m_findBarVisible || !m_findBarView)
         return content;
-    const QSize bar = m_findBarView->minimumSizeHint();
-    return {qMax(bar.width(), content.width()), content.height() + fittingHeight()};
+    return {qMax(m_findBarView->minimumWidth(), content.width()), content.height() + fittingHeight()};
 }
 
 bool ZEVFindBarContainerView::eventFilter(QObject *watched, QEvent *event)
@@ -109,4 +127,9 @@ bool ZEVFindBarContainerView::eventFilter(QObject *watched, QEvent *event)
     return QWidget::eventFilter(watched, event);
 }
 
-void ZEVFindBarContainerView::resizeEvent(QResizeEvent *) { layOut(); }
+/// A bar of another width may need another height.
+void ZEVFindBarContainerView::resizeEvent(QResizeEvent *)
+{
+    findBarViewDidChangeHeight();
+    layOut();
+}

@@ -10,6 +10,7 @@
 #include <QWidget>
 
 /// Shows a find bar above a content, and makes it slide in and out where the style animates.
+/// Find actions that its content leaves go to the finder whose bar it shows.
 class ZEV_EXPORT ZEVFindBarContainerView : public QWidget, public ZEVFindBarContainer {
     Q_OBJECT
 
@@ -25,6 +26,10 @@ public:
     void setFindBarVisible(bool visible) override;
     void findBarViewDidChangeHeight() override;
     QWidget *window() const override { return QWidget::window(); }
+    void setFinder(ZEVTextFinder *finder) override;
+
+    /// \a sender carries the action in its property "tag".
+    Q_INVOKABLE void performTextFinderAction(QObject *sender);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -43,6 +48,7 @@ private:
 
     QWidget *m_content;
     QPointer<QWidget> m_findBarView;
+    QPointer<ZEVTextFinder> m_finder;
     QVariantAnimation m_animation;
     int m_shownHeight = 0;
     bool m_findBarVisible = false;

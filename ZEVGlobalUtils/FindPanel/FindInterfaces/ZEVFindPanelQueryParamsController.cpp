@@ -3,19 +3,20 @@
 
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFindPanelQueryParamsController.h>
 
+#include <ZEVGlobalUtils/FindEngine/ZEVFindActionNumber.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVFindPanelScope.h>
-#include <ZEVGlobalUtils/FindEngine/ZEVTextFinderAction.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/FindControls_p.h>
 #include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenField.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuBuilder.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItemHeadings.h>
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedImages_p.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVAttributedString.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVUserDefaults.h>
 
-#include <QAbstractButton>
+#include <QEvent>
 #include <QMenu>
+#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -23,49 +24,63 @@ namespace {
 
 QString localized(QStringView key) { return ZEVGlobalHelper::localizedStringForKey(key); }
 
-qint64 tagOf(const QObject *sender) { return sender->property("tag").toLongLong(); }
-
-bool hasPattern(const ZEVFindPanelQuery &query)
-{
-    return query.searchPattern() && !query.searchPattern()->isEmpty();
-}
-
 } // namespace
 
 ZEVFindPanelQueryParamsController::ZEVFindPanelQueryParamsController(QObject *parent)
-    : ZEVTextFinderUserInterfaceVC(parent)
+    : ZEVFindPanelQueryParamsController(QString(), parent)
 {
+}
+
+ZEVFindPanelQueryParamsController::ZEVFindPanelQueryParamsController(const QString &nibName, QObject *parent)
+    : ZEVTextFinderUserInterfaceVC(nibName, parent)
+{
+    connect(this, &ZEVTextFinderUserInterfaceVC::searchTermUnchangedChanged, this,
+            &ZEVFindPanelQueryParamsController::noteEnabled);
+    connect(this, &ZEVTextFinderUserInterfaceVC::numberOfMatchesChanged, this,
+            &ZEVFindPanelQueryParamsController::noteEnabled);
+    connect(ZEVUserDefaults::standardUserDefaults(), &ZEVUserDefaults::didChange, this,
+            [this](const QString &key) {
+                if (key == kZEVFindPanelSavedQueriesAutosaveName)
+                    m_hasLoadedQueries = false; // another panel has saved
+            });
 }
 
 ZEVFindPanelQueryParamsController::~ZEVFindPanelQueryParamsController() = default;
 
 void ZEVFindPanelQueryParamsController::viewDidLoad()
 {
-    loadSavedQueries();
     ZEVTextFinderUserInterfaceVC::viewDidLoad();
     setUpMenus();
     setUpButtons();
     connect(this, &ZEVTextFinderUserInterfaceVC::queryChanged, this,
-            &ZEVFindPanelQueryParamsController::enabledChanged);
-    connect(this, &ZEVTextFinderUserInterfaceVC::numberOfMatchesChanged, this,
-            &ZEVFindPanelQueryParamsController::enabledChanged);
-    connect(this, &ZEVFindPanelQueryParamsController::enabledChanged, this,
-            &ZEVFindPanelQueryParamsController::updateControls);
-    view()->installEventFilter(this);
+            &ZEVFindPanelQueryParamsController::updateScope);
     restoreLastQuery();
+    updateScope();
+    noteEnabled();
     updateControls();
 }
 
-void ZEVFindPanelQueryParamsController::loadSavedQueries()
+/// What cannot be read, the scope of another host for one, is kept as it is.
+void ZEVFindPanelQueryParamsController::loadSavedQueries() const
 {
-    const QVariant saved = ZEVUserDefaults::standardUserDefaults()->objectForKey(
-        kZEVFindPanelSavedQueriesAutosaveName.toString());
+    m_hasLoadedQueries = true;
     m_savedQueriesSet.clear();
-    for (const QVariant &query : saved.toList()) {
-        if (query.canConvert<ZEVFindPanelQuery>()
-            && !m_savedQueriesSet.contains(query.value<ZEVFindPanelQuery>()))
-            m_savedQueriesSet.append(query.value<ZEVFindPanelQuery>());
+    m_unreadableQueries.clear();
+    const QVariantList saved = ZEVUserDefaults::standardUserDefaults()->elementsForKey(
+        kZEVFindPanelSavedQueriesAutosaveName.toString());
+    for (const QVariant &element : saved) {
+        if (!element.canConvert<ZEVFindPanelQuery>())
+            m_unreadableQueries.append(element);
+        else if (const auto query = element.value<ZEVFindPanelQuery>(); !m_savedQueriesSet.contains(query))
+            m_savedQueriesSet.append(query);
     }
+}
+
+const QList<ZEVFindPanelQuery> &ZEVFindPanelQueryParamsController::savedQueries() const
+{
+    if (!m_hasLoadedQueries)
+        loadSavedQueries();
+    return m_savedQueriesSet;
 }
 
 void ZEVFindPanelQueryParamsController::restoreLastQuery()
@@ -87,7 +102,7 @@ void ZEVFindPanelQueryParamsController::persistSavedToDefaults()
     QVariantList queries;
     for (const ZEVFindPanelQuery &query : std::as_const(m_savedQueriesSet))
         queries.append(QVariant::fromValue(query));
-    ZEVUserDefaults::standardUserDefaults()->setObject(queries,
+    ZEVUserDefaults::standardUserDefaults()->setObject(queries + m_unreadableQueries,
                                                        kZEVFindPanelSavedQueriesAutosaveName.toString());
 }
 
@@ -97,42 +112,70 @@ void ZEVFindPanelQueryParamsController::setUpMenus()
     if (!findTokenField())
         return;
     m_recentsMenu = findTokenField()->patternsMenu();
-    ZEVMenuBuilder::setMenuBuilder(m_recentsMenu, [guard = QPointer(this)](QMenu *) {
+    ZEVMenuBuilder::setMenuBuilder(m_recentsMenu, [guard = QPointer(this)](QMenu *menu) {
         if (guard)
-            guard->updateRecentsMenu();
+            guard->menuNeedsUpdate(menu);
     });
+}
+
+void ZEVFindPanelQueryParamsController::menuNeedsUpdate(QMenu *menu)
+{
+    ZEVTextFinderUserInterfaceVC::menuNeedsUpdate(menu);
+    if (menu && menu == m_recentsMenu)
+        updateRecentsMenu();
 }
 
 void ZEVFindPanelQueryParamsController::setUpButtons()
 {
-    m_scopeButton = view()->findChild<QAbstractButton *>(u"scopeButton"_s);
-    m_findButton = view()->findChild<QAbstractButton *>(u"findButton"_s);
-    m_caseSensitiveButton = view()->findChild<QAbstractButton *>(u"caseSensitiveButton"_s);
-    if (m_findButton)
-        connect(m_findButton, &QAbstractButton::clicked, this, [this] { performSearch(); });
-    if (m_caseSensitiveButton)
-        connect(m_caseSensitiveButton, &QAbstractButton::clicked, this,
+    if (QAbstractButton *button = controls().findButton)
+        connect(button, &QAbstractButton::clicked, this, [this] { performSearch(); });
+    if (QAbstractButton *button = controls().caseSensitiveButton)
+        connect(button, &QAbstractButton::clicked, this,
                 [this](bool checked) { setCaseInsensitiveSearch(!checked); });
-    const auto connectMenuButton = [this](const QString &name, const QString &image, auto popUp) {
-        if (auto *button = view()->findChild<QAbstractButton *>(name)) {
-            button->setIcon(ZEVNamedImages::imageNamed(image));
-            connect(button, &QAbstractButton::pressed, this, [this, button, popUp] {
-                button->setDown(false);
-                (this->*popUp)();
-            });
-        }
-    };
-    connectMenuButton(u"findMenuButton"_s, u"icoFilter"_s, &ZEVFindPanelQueryParamsController::popupFindMenu);
-    connectMenuButton(u"replaceMenuButton"_s, u"icoMenuTemplate"_s,
-                      &ZEVFindPanelQueryParamsController::popupReplaceMenu);
-    for (QAbstractButton *button : view()->findChildren<QAbstractButton *>()) {
-        if (tagOf(button) == 0)
-            continue;
-        m_actionButtons.append(button);
-        const bool replacesAll = tagOf(button) == ZEVTextFinderAction::ReplaceAll;
-        connect(button, &QAbstractButton::clicked, this, [this, button, replacesAll] {
-            replacesAll ? replaceAllButtonPressed(button) : replaceButtonPressed(button);
-        });
+    setUpScopeMenu();
+}
+
+void ZEVFindPanelQueryParamsController::setUpScopeMenu()
+{
+    auto *button = qobject_cast<QPushButton *>(controls().scopeButton);
+    if (!button || button->menu() || m_scopes.isEmpty())
+        return;
+    auto *menu = new QMenu(button);
+    button->setMenu(menu);
+    connect(menu, &QMenu::aboutToShow, this, [this, menu] { updateScopeMenu(menu); });
+}
+
+void ZEVFindPanelQueryParamsController::actionButtonPressed(QObject *sender)
+{
+    if (tagOf(sender) == ZEVFindActionNumber::ReplaceAll)
+        replaceAllButtonPressed(sender);
+    else
+        replaceButtonPressed(sender);
+}
+
+void ZEVFindPanelQueryParamsController::setScopes(const Scopes &scopes)
+{
+    m_scopes = scopes;
+    setUpScopeMenu();
+    updateScope();
+}
+
+/// A query that was kept says nothing of where to search.
+void ZEVFindPanelQueryParamsController::updateScope()
+{
+    if (!query().scope() && !m_scopes.isEmpty())
+        return setScope(m_scopes.first()); // which comes back here
+    updateControls();
+}
+
+void ZEVFindPanelQueryParamsController::updateScopeMenu(QMenu *menu)
+{
+    menu->clear();
+    for (const std::shared_ptr<ZEVFindPanelScope> &scope : std::as_const(m_scopes)) {
+        QAction *item = menu->addAction(QString(), this, [this, scope] { setScope(scope); });
+        ZEVMenuItem::setTitle(item, scope->title().value_or(QString()));
+        item->setCheckable(true);
+        item->setChecked(query().scope() == scope);
     }
 }
 
@@ -146,47 +189,62 @@ bool ZEVFindPanelQueryParamsController::replaceEnabled() const
     return numberOfMatches().value_or(0) != 0 && searchTermUnchanged();
 }
 
+/// A search may find many thousands, of which only the first makes a difference here.
+void ZEVFindPanelQueryParamsController::noteEnabled()
+{
+    const std::pair enabled(findEnabled(), replaceEnabled());
+    if (std::exchange(m_toldEnabled, enabled) == enabled)
+        return;
+    updateControls();
+    Q_EMIT enabledChanged();
+}
+
 void ZEVFindPanelQueryParamsController::updateControls()
 {
-    if (m_findButton)
-        m_findButton->setEnabled(findEnabled());
-    if (m_caseSensitiveButton)
-        m_caseSensitiveButton->setChecked(!query().caseInsensitiveSearch());
-    if (m_scopeButton) {
-        m_scopeButton->setVisible(query().scope() != nullptr);
-        m_scopeButton->setText(query().scope() ? query().scope()->title().value_or(QString()) : QString());
+    const ZEVFindPanelQuery query = this->query();
+    if (QAbstractButton *button = controls().findButton)
+        button->setEnabled(findEnabled());
+    if (QAbstractButton *button = controls().caseSensitiveButton)
+        button->setChecked(!query.caseInsensitiveSearch());
+    if (QAbstractButton *button = controls().scopeButton) {
+        button->setVisible(query.scope() != nullptr);
+        button->setText(
+            (query.scope() ? query.scope()->title().value_or(QString()) : QString()).replace(u'&', u"&&"_s));
     }
-    for (QAbstractButton *button : std::as_const(m_actionButtons)) {
+    for (QAbstractButton *button : std::as_const(controls().actionButtons))
         if (button)
             button->setEnabled(replaceEnabled());
-    }
 }
 
 void ZEVFindPanelQueryParamsController::addSavedQuery(const ZEVFindPanelQuery &query)
 {
-    if (!hasPattern(query))
+    if (!query.hasPattern())
         return;
-    m_savedQueriesSet.removeAll(query);
-    m_savedQueriesSet.prepend(query);
+    const ZEVFindPanelQuery added = query; // which may be one of the list
+    loadSavedQueries();
+    m_savedQueriesSet.removeAll(added);
+    m_savedQueriesSet.prepend(added);
     persistSavedToDefaults();
 }
 
 void ZEVFindPanelQueryParamsController::removeSavedQuery(const ZEVFindPanelQuery &query)
 {
-    m_savedQueriesSet.removeAll(query);
+    const ZEVFindPanelQuery removed = query;
+    loadSavedQueries();
+    m_savedQueriesSet.removeAll(removed);
     persistSavedToDefaults();
 }
 
 void ZEVFindPanelQueryParamsController::updateRecentsMenu()
 {
     m_recentsMenu->clear();
-    if (!m_savedQueriesSet.isEmpty())
+    if (!savedQueries().isEmpty())
         m_recentsMenu->addAction(
             ZEVMenuItemHeadings::headingItemWithTitle(localized(u"Saved Queries"), m_recentsMenu));
-    for (const ZEVFindPanelQuery &query : std::as_const(m_savedQueriesSet))
+    for (const ZEVFindPanelQuery &query : savedQueries())
         addSavedQueryItem(query);
-    const bool isSaved = m_savedQueriesSet.contains(query());
-    if (!isSaved && !hasPattern(query()))
+    const bool isSaved = savedQueries().contains(query());
+    if (!isSaved && !query().hasPattern())
         return;
     m_recentsMenu->addSeparator();
     m_recentsMenu->addAction(localized(isSaved ? u"Remove From Saved" : u"Save Query"), this,
@@ -209,21 +267,17 @@ void ZEVFindPanelQueryParamsController::addSavedQueryItem(const ZEVFindPanelQuer
 
 void ZEVFindPanelQueryParamsController::popupFindMenu()
 {
-    findTokenField()->setMenuDelegate(this);
-    popUpMenuOfField(findTokenField()->dropDownMenu(), findTokenField());
+    if (findTokenField())
+        findTokenField()->setMenuDelegate(this);
+    ZEVTextFinderUserInterfaceVC::popupFindMenu();
 }
 
-void ZEVFindPanelQueryParamsController::popupReplaceMenu()
-{
-    popUpMenuOfField(replaceTokenField()->dropDownMenu(), replaceTokenField());
-}
-
-void ZEVFindPanelQueryParamsController::replaceButtonPressed(const QObject *sender)
+void ZEVFindPanelQueryParamsController::replaceButtonPressed(QObject *sender)
 {
     performAction(tagOf(sender));
 }
 
-void ZEVFindPanelQueryParamsController::replaceAllButtonPressed(const QObject *sender)
+void ZEVFindPanelQueryParamsController::replaceAllButtonPressed(QObject *sender)
 {
     performAction(tagOf(sender));
 }
@@ -241,7 +295,8 @@ bool ZEVFindPanelQueryParamsController::doCommandBySelector(OEXTokenField *contr
         return false;
     switch (command) {
     case ZEVTextCommand::CancelOperation:
-        field->clear();
+        if (!stopLongSearch())
+            field->clear();
         return true;
     case ZEVTextCommand::InsertNewline:
         field->insertNewline();

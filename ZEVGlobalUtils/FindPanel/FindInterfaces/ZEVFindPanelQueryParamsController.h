@@ -6,12 +6,9 @@
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderUserInterfaceVC.h>
 #include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenFieldMenuDelegate.h>
 
-class QAbstractButton;
-
 /// The query panel: remembers the last query and a list of saved ones in the user defaults, and enables its
-/// buttons as the last search allows. Beside what its base looks for, its view may hold scopeButton,
-/// findMenuButton, replaceMenuButton, findButton, caseSensitiveButton, and any number of buttons with an
-/// action number as property "tag".
+/// buttons as the last search allows. Beside what its base looks for, its view may hold scopeButton, findButton
+/// and caseSensitiveButton.
 class ZEV_EXPORT ZEVFindPanelQueryParamsController : public ZEVTextFinderUserInterfaceVC,
                                                      public ZEVTokenFieldMenuDelegate {
     Q_OBJECT
@@ -20,6 +17,8 @@ class ZEV_EXPORT ZEVFindPanelQueryParamsController : public ZEVTextFinderUserInt
 
 public:
     explicit ZEVFindPanelQueryParamsController(QObject *parent = nullptr);
+    /// Loads the interface file named \a nibName instead.
+    explicit ZEVFindPanelQueryParamsController(const QString &nibName, QObject *parent = nullptr);
     ~ZEVFindPanelQueryParamsController() override;
 
     bool showReplace() const override { return true; }
@@ -29,8 +28,14 @@ public:
     /// What is to be found has been found.
     bool replaceEnabled() const;
 
-    /// The last one that was saved comes first.
-    const QList<ZEVFindPanelQuery> &savedQueries() const { return m_savedQueriesSet; }
+    /// What the user may choose from at scopeButton; empty, as at first, leaves the choice to the host. A query
+    /// without a scope then gets the first of them. (See ZEVFindPanelSharedScope.)
+    using Scopes = QList<std::shared_ptr<ZEVFindPanelScope>>;
+    const Scopes &scopes() const { return m_scopes; }
+    void setScopes(const Scopes &scopes);
+
+    /// The last one that was saved comes first. All panels of the program share them.
+    const QList<ZEVFindPanelQuery> &savedQueries() const;
     /// A query without a pattern is not saved; one that is saved already moves to the front.
     void addSavedQuery(const ZEVFindPanelQuery &query);
     void removeSavedQuery(const ZEVFindPanelQuery &query);
@@ -38,33 +43,39 @@ public:
     bool doCommandBySelector(OEXTokenField *control, ZEVTextCommand command) override;
     void customizeMenuBeforeDisplay(ZEVTokenField *tokenField, QMenu *menu) override;
 
+public Q_SLOTS:
+    virtual void replaceButtonPressed(QObject *sender);
+    virtual void replaceAllButtonPressed(QObject *sender);
+    void popupFindMenu() override;
+    void menuNeedsUpdate(QMenu *menu) override;
+
 Q_SIGNALS:
     void enabledChanged();
 
 protected:
     void viewDidLoad() override;
+    void actionButtonPressed(QObject *sender) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-    void replaceButtonPressed(const QObject *sender);
-    void replaceAllButtonPressed(const QObject *sender);
-
 private:
-    void loadSavedQueries();
+    void loadSavedQueries() const;
     void restoreLastQuery();
     void persistLastQuery();
     void persistSavedToDefaults();
     void setUpMenus();
     void setUpButtons();
+    void setUpScopeMenu();
+    void noteEnabled();
     void updateControls();
+    void updateScope();
+    void updateScopeMenu(QMenu *menu);
     void updateRecentsMenu();
     void addSavedQueryItem(const ZEVFindPanelQuery &query);
-    void popupFindMenu();
-    void popupReplaceMenu();
 
     QPointer<QMenu> m_recentsMenu;
-    QPointer<QAbstractButton> m_scopeButton;
-    QPointer<QAbstractButton> m_findButton;
-    QPointer<QAbstractButton> m_caseSensitiveButton;
-    QList<QPointer<QAbstractButton>> m_actionButtons;
-    QList<ZEVFindPanelQuery> m_savedQueriesSet;
+    Scopes m_scopes;
+    mutable QList<ZEVFindPanelQuery> m_savedQueriesSet;
+    mutable QVariantList m_unreadableQueries; ///< as they are stored, behind the others
+    mutable bool m_hasLoadedQueries = false;
+    std::pair<bool, bool> m_toldEnabled; ///< to find, to replace
 };

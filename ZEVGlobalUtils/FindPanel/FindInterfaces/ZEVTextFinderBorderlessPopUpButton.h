@@ -5,6 +5,7 @@
 
 #include <ZEVGlobalUtils/Export.h>
 
+#include <QPointer>
 #include <QToolButton>
 
 /// A pop-up button without a frame, as wide as the wider of the first two items of its menu.
@@ -18,14 +19,17 @@ public:
     qreal maxWidth() const { return m_maxWidth; }
 
     /// The item whose image the button shows; null at first.
-    void selectItem(QAction *item) { m_selectedItem = item; }
+    void selectItem(QAction *item);
 
     /// Measures the items of the menu, once they are there.
     void setUp();
 
     QSize sizeHint() const override;
 
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
 private:
-    QAction *m_selectedItem = nullptr;
+    QPointer<QAction> m_selectedItem;
     qreal m_maxWidth = 0;
 };

@@ -3,8 +3,8 @@
 
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderMenu.h>
 
+#include <ZEVGlobalUtils/FindEngine/ZEVFindActionNumber.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
-#include <ZEVGlobalUtils/FindEngine/ZEVTextFinderAction.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 
@@ -12,7 +12,7 @@
 #include <QMenu>
 #include <QPointer>
 
-using namespace ZEVTextFinderAction;
+using namespace ZEVFindActionNumber;
 
 namespace {
 

@@ -12,17 +12,25 @@
 #include <QElapsedTimer>
 #include <QPointer>
 
+#include <memory>
+
 class QComboBox;
-class QLabel;
+struct FindControls;
 
 /// The controller behind a find interface: its two pattern fields, the pop-up of matching types and the query
 /// that is edited with them. Its view is loaded when it is first asked for, from an interface file named
 /// after the class, in which the controls are found by their object names (findTokenField,
-/// replaceTokenField, matchingTypeSelector, numberOfMatchesLabel, messageLabel; none is a must).
+/// replaceTokenField, matchingTypeSelector, numberOfMatchesLabel, messageLabel, findMenuButton,
+/// replaceMenuButton, and any number of buttons with an action number as property "tag"; none is a must).
 class ZEV_EXPORT ZEVTextFinderUserInterfaceVC : public ZEVPatternTokens, public ZEVTextFinderUserInterface {
     Q_OBJECT
+    Q_PROPERTY(ZEVFindPanelQuery query READ query NOTIFY queryChanged)
+    Q_PROPERTY(QVariantList searchPattern READ searchPattern NOTIFY queryChanged)
+    Q_PROPERTY(QVariantList replacePattern READ replacePattern NOTIFY replacePatternChanged)
+    Q_PROPERTY(std::optional<ZEVFindPanelQuery> lastQuery READ lastQuery NOTIFY lastQueryChanged)
+    Q_PROPERTY(bool searchTermUnchanged READ searchTermUnchanged NOTIFY searchTermUnchangedChanged)
+    Q_PROPERTY(std::optional<qsizetype> numberOfMatches READ numberOfMatches NOTIFY numberOfMatchesChanged)
     Q_PROPERTY(bool showReplace READ showReplace WRITE setShowReplace)
-    Q_PROPERTY(bool searchTermUnchanged READ searchTermUnchanged NOTIFY queryChanged)
     Q_PROPERTY(bool hasFocus READ hasFocus)
 
 public:
@@ -37,7 +45,8 @@ public:
     ZEVTextFinderUserInterfaceDelegate *delegate() const { return m_delegate.get(); }
     void setDelegate(ZEVWeakRef<ZEVTextFinderUserInterfaceDelegate> delegate) override;
 
-    const ZEVFindPanelQuery &query() const { return m_query; }
+    /// What would be searched for now: its pattern is what stands in the find field.
+    ZEVFindPanelQuery query() const;
     /// As it was when last searched for; nil before that.
     const std::optional<ZEVFindPanelQuery> &lastQuery() const { return m_lastQuery; }
     void setSearchPattern(const std::optional<QVariantList> &pattern);
@@ -49,8 +58,13 @@ public:
 
     /// Applies the query, gives the find field the focus and searches, on the next turn of the event loop.
     void performSearchForQuery(const ZEVFindPanelQuery &query);
+
+    /// Hands the query to the delegate. An expression that is none is told in messageLabel, since an alert at
+    /// every key press would be in the way, and presented to the user where there is no such label.
     void performSearch();
-    bool searchTermUnchanged() const { return m_lastQuery && m_query == *m_lastQuery; }
+    void searchIfChanged() override;
+    /// Kept: never with a scope, unless its copy is itself (see ZEVFindPanelSharedScope).
+    bool searchTermUnchanged() const { return m_lastQuery && query() == *m_lastQuery; }
 
     QVariantList searchPattern() const;
     QVariantList replacePattern() const override;
@@ -65,13 +79,15 @@ public:
     std::optional<qsizetype> numberOfMatches() const { return m_numberOfMatches; }
     void setNumberOfMatches(std::optional<qsizetype> number) override;
     void setSearchLimitReached(bool reached) override;
+    void setSearching(bool searching) override;
 
     bool hasFocus() const override;
     virtual bool showReplace() const { return m_showReplace; }
     void setShowReplace(bool show) override { m_showReplace = show; }
     void focusFieldForAction(qint64 action) override;
 
-    /// Reads the find pasteboard into the find field if it has changed, or writes the field's pattern to it.
+    /// Reads the find pasteboard into the find field if it has changed, or writes the field's pattern to it,
+    /// where that is the one that the user has edited last.
     void syncWithFindPboard(bool write);
 
     ZEVTokenField *findTokenField() const;
@@ -80,47 +96,75 @@ public:
 
     bool doCommandBySelector(OEXTokenField *control, ZEVTextCommand command) override;
 
+public Q_SLOTS:
+    virtual void findTokenFieldAction();
+    virtual void replaceTokenFieldAction();
+
+    /// Open the menus of the fields, in the small system font.
+    virtual void popupFindMenu();
+    virtual void popupReplaceMenu();
+
+    /// Fill the fields' insertion menus; menuNeedsUpdate() does so for either of the two, and is called before
+    /// they open.
+    virtual void menuNeedsUpdate(QMenu *menu);
+    virtual void updateFindTokenFieldMenu();
+    virtual void updateReplaceTokenFieldMenu();
+
 Q_SIGNALS:
-    /// The query, or whether it is the one that was last searched for.
     void queryChanged();
+    void lastQueryChanged();
+    void searchTermUnchangedChanged(); ///< or not: one of the two that it compares is another one
+    void replacePatternChanged();
     void numberOfMatchesChanged();
 
 protected:
     /// Sets up the view once it is loaded.
     virtual void viewDidLoad();
 
+    /// A button with the tag of an action.
+    virtual void actionButtonPressed(QObject *sender);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void timerEvent(QTimerEvent *event) override;
 
-    virtual void findTokenFieldAction();
-    virtual void replaceTokenFieldAction();
+    const FindControls &controls() const { return *m_controls; }
+    bool isShown() const;
     void performAction(qint64 action);
+    /// Ends a search that takes so long that the user has been told. False when there is none.
+    bool stopLongSearch();
     /// Opens \a menu below the field, in the small system font.
     void popUpMenuOfField(QMenu *menu, ZEVTokenField *field);
 
 private:
+    class Busy;
     void loadView();
     void setUpFields();
+    void setUpField(ZEVTokenField *field);
+    void setUpButtons();
     void setUpMatchingTypes();
-    void showQuery();
+    void noteEditedPattern();
+    void readPboard(const QString &string);
+    void showMatchingType();
     void showCount();
     void showMessage(const QString &message);
+    void updateColors();
     QString countText() const;
 
     QString m_nibName;
     QPointer<QWidget> m_view;
     ZEVWeakRef<ZEVTextFinderUserInterfaceDelegate> m_delegate;
-    QPointer<ZEVTokenField> m_findTokenField;
-    QPointer<ZEVTokenField> m_replaceTokenField;
-    QPointer<QComboBox> m_matchingTypeSelector;
-    QPointer<QLabel> m_numberOfMatchesLabel;
-    QPointer<QLabel> m_messageLabel;
-    ZEVFindPanelQuery m_query;
+    std::unique_ptr<FindControls> m_controls;
+    ZEVFindPanelQuery m_query; ///< without its pattern, where there is a field to hold that
     std::optional<ZEVFindPanelQuery> m_lastQuery;
+    QMetaObject::Connection m_scopeTitle;
     Groups m_replacePatternItems;
     std::optional<qsizetype> m_numberOfMatches;
     QElapsedTimer m_sinceCountShown;
     QBasicTimer m_countTimer;
+    QBasicTimer m_longSearchTimer;
     qint64 m_lastUsedFindPboardChangeCount = -1;
+    int m_calls = 0; ///< of the delegate, that are under way
     bool m_showReplace = true;
-    bool m_searchLimitReached = false;
+    bool m_isReadingPboard = false;
+    bool m_isLongSearch = false;
 };

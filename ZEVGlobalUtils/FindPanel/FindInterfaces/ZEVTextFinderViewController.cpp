@@ -3,34 +3,24 @@
 
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderViewController.h>
 
-#include <ZEVGlobalUtils/FindEngine/ZEVTextFinderAction.h>
+#include <ZEVGlobalUtils/FindEngine/ZEVFindActionNumber.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/FindBarLayout_p.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/FindControls_p.h>
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderBorderlessPopUpButton.h>
 #include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenField.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuBuilder.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
-#include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedImages_p.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 
-#include <QAbstractButton>
-#include <QComboBox>
-#include <QGridLayout>
 #include <QKeyEvent>
 #include <QMenu>
 
 using namespace Qt::StringLiterals;
-using namespace ZEVTextFinderAction;
+using namespace ZEVFindActionNumber;
 
 namespace {
 
-/// Finders make this bar where the host gives them no other.
-[[maybe_unused]] const bool isMaker = [] {
-    ZEVTextFinderUserInterface::maker() = [] { return std::make_unique<ZEVTextFinderViewController>(); };
-    return true;
-}();
-
 QString localized(QStringView key) { return ZEVGlobalHelper::localizedStringForKey(key); }
-
-qint64 tagOf(const QObject *sender) { return sender->property("tag").toLongLong(); }
 
 bool isReplaceAction(qint64 action)
 {
@@ -40,8 +30,18 @@ bool isReplaceAction(qint64 action)
 
 } // namespace
 
+std::unique_ptr<ZEVTextFinderUserInterface> ZEVTextFinderUserInterface::makeFindBar()
+{
+    return std::make_unique<ZEVTextFinderViewController>();
+}
+
 ZEVTextFinderViewController::ZEVTextFinderViewController(QObject *parent)
-    : ZEVTextFinderUserInterfaceVC(parent)
+    : ZEVTextFinderViewController(QString(), parent)
+{
+}
+
+ZEVTextFinderViewController::ZEVTextFinderViewController(const QString &nibName, QObject *parent)
+    : ZEVTextFinderUserInterfaceVC(nibName, parent)
     , m_modeSelectorItem(new QAction(this))
 {
 }
@@ -51,43 +51,45 @@ ZEVTextFinderViewController::~ZEVTextFinderViewController() = default;
 void ZEVTextFinderViewController::viewDidLoad()
 {
     ZEVTextFinderUserInterfaceVC::viewDidLoad();
-    m_replaceContainerView = view()->findChild<QWidget *>(u"replaceContainerView"_s);
-    setUpMenuButtons();
+    setUpFindMenu();
     setUpModes();
-    setUpSegments();
+    m_layout = std::make_unique<FindBarLayout>(view(), controls());
     setShowReplace(false);
-    view()->installEventFilter(this);
+    if (QAbstractButton *done = controls().doneButton)
+        connect(done, &QAbstractButton::clicked, this, [this] { donePressed(); });
     if (QComboBox *selector = matchingTypeSelector())
-        connect(selector, &QComboBox::activated, this, &ZEVTextFinderViewController::matchTypeSelected);
-    if (findTokenField())
-        connect(findTokenField(), &ZEVTokenField::patternStringValueChanged, this,
-                &ZEVTextFinderViewController::performSearch);
+        connect(selector, &QComboBox::activated, this, [this] { matchTypeSelected(); });
+    if (ZEVTokenField *field = findTokenField())
+        connect(field, &ZEVTokenField::patternStringValueChanged, this,
+                &ZEVTextFinderViewController::searchAsTyped);
 }
 
-void ZEVTextFinderViewController::setUpMenuButtons()
+/// What is not seen does not search: its count would take the place of another's.
+void ZEVTextFinderViewController::searchAsTyped()
 {
-    m_findMenuButton = view()->findChild<QAbstractButton *>(u"findMenuButton"_s);
-    m_replaceMenuButton = view()->findChild<QAbstractButton *>(u"replaceMenuButton"_s);
-    if (m_findMenuButton) {
-        m_findMenuButton->setIcon(ZEVNamedImages::imageNamed(u"icoFilter"));
-        connect(m_findMenuButton, &QAbstractButton::pressed, this,
-                &ZEVTextFinderViewController::popupFindMenu);
-    }
-    if (m_replaceMenuButton) {
-        m_replaceMenuButton->setIcon(ZEVNamedImages::imageNamed(u"icoMenuTemplate"));
-        connect(m_replaceMenuButton, &QAbstractButton::pressed, this,
-                &ZEVTextFinderViewController::popupReplaceMenu);
-    }
+    if (isShown())
+        performSearch();
+}
+
+/// The controller builds the menu in the field's place; whoever else listens goes on to.
+void ZEVTextFinderViewController::setUpFindMenu()
+{
+    if (!findTokenField())
+        return;
+    QMenu *menu = findTokenField()->dropDownMenu();
+    ZEVMenuBuilder::setMenuBuilder(menu, [guard = QPointer(this)](QMenu *opened) {
+        if (guard)
+            guard->menuNeedsUpdate(opened);
+    });
 }
 
 /// The find item and the replace item have their actions as tags; the last item is the one for wrapping.
 void ZEVTextFinderViewController::setUpModes()
 {
-    m_interfaceModePopupButton =
-        view()->findChild<ZEVTextFinderBorderlessPopUpButton *>(u"interfaceModePopupButton"_s);
-    if (!m_interfaceModePopupButton)
+    ZEVTextFinderBorderlessPopUpButton *button = controls().interfaceModePopupButton;
+    if (!button)
         return;
-    auto *menu = new QMenu(m_interfaceModePopupButton);
+    auto *menu = new QMenu(button);
     const std::pair<QString, qint64> modes[] = {{localized(u"Find"), ShowFindInterface},
                                                 {localized(u"Find & Replace"), ShowReplaceInterface}};
     for (const auto &[title, tag] : modes) {
@@ -97,44 +99,19 @@ void ZEVTextFinderViewController::setUpModes()
         connect(item, &QAction::triggered, this, [this, item] { chooseMode(item); });
     }
     menu->addSeparator();
-    menu->addAction(localized(u"Wrap Around"), this, &ZEVTextFinderViewController::toggleWrapAround);
-    connect(menu, &QMenu::aboutToShow, this, &ZEVTextFinderViewController::updateInterfaceModeMenu);
-    m_interfaceModePopupButton->setMenu(menu);
-    m_interfaceModePopupButton->setUp();
-    alignReplaceRow();
-}
-
-/// Both fields begin behind the mode pop-up.
-void ZEVTextFinderViewController::alignReplaceRow()
-{
-    QLayout *row = m_replaceContainerView ? m_replaceContainerView->layout() : nullptr;
-    const auto *rows = qobject_cast<const QGridLayout *>(view()->layout());
-    if (!row || !rows)
-        return;
-    QMargins margins = row->contentsMargins();
-    margins.setLeft(m_interfaceModePopupButton->sizeHint().width() + rows->horizontalSpacing());
-    row->setContentsMargins(margins);
-}
-
-void ZEVTextFinderViewController::setUpSegments()
-{
-    for (QAbstractButton *button : view()->findChildren<QAbstractButton *>()) {
-        if (button->objectName() == u"doneButton")
-            connect(button, &QAbstractButton::clicked, this, &ZEVTextFinderViewController::donePressed);
-        else if (isReplaceAction(tagOf(button)))
-            connect(button, &QAbstractButton::clicked, this,
-                    [this, button] { replaceSegmentPressed(button); });
-        else if (tagOf(button) != 0)
-            connect(button, &QAbstractButton::clicked, this,
-                    [this, button] { navigationSegmentPressed(button); });
-    }
+    menu->addAction(localized(u"Wrap Around"), this, [this] { toggleWrapAround(); });
+    connect(menu, &QMenu::aboutToShow, this, [this, menu] { menuNeedsUpdate(menu); });
+    button->setMenu(menu);
+    button->setUp();
 }
 
 void ZEVTextFinderViewController::setShowReplace(bool show)
 {
     m_showReplace = show;
-    if (m_replaceContainerView)
-        m_replaceContainerView->setVisible(show);
+    if (QWidget *row = controls().replaceContainerView)
+        row->setVisible(show);
+    if (m_layout)
+        m_layout->arrange();
     updateInterfaceModeSelectorState();
 }
 
@@ -147,15 +124,29 @@ void ZEVTextFinderViewController::setWrapAround(bool wraps)
     Q_EMIT wrapAroundChanged();
 }
 
+void ZEVTextFinderViewController::toggleWrapAround() { setWrapAround(!m_wrapAround); }
+
+QMenu *ZEVTextFinderViewController::modeMenu() const
+{
+    const ZEVTextFinderBorderlessPopUpButton *button = controls().interfaceModePopupButton;
+    return button ? button->menu() : nullptr;
+}
+
 QAction *ZEVTextFinderViewController::modeItem(qint64 tag) const
 {
-    const QList<QAction *> items =
-        m_interfaceModePopupButton ? m_interfaceModePopupButton->menu()->actions() : QList<QAction *>();
-    for (QAction *item : items) {
-        if (ZEVMenuItem::tag(item) == tag)
-            return item;
-    }
-    return nullptr;
+    const QList<QAction *> items = modeMenu() ? modeMenu()->actions() : QList<QAction *>();
+    const auto item = std::ranges::find_if(items, [tag](auto *one) { return ZEVMenuItem::tag(one) == tag; });
+    return item != items.end() ? *item : nullptr;
+}
+
+void ZEVTextFinderViewController::menuNeedsUpdate(QMenu *menu)
+{
+    if (menu && menu == modeMenu())
+        updateInterfaceModeMenu();
+    else if (findTokenField() && menu == findTokenField()->dropDownMenu())
+        updateFindMenu();
+    else
+        ZEVTextFinderUserInterfaceVC::menuNeedsUpdate(menu);
 }
 
 void ZEVTextFinderViewController::updateInterfaceModeMenu()
@@ -166,18 +157,20 @@ void ZEVTextFinderViewController::updateInterfaceModeMenu()
     };
     setState(modeItem(ShowFindInterface), !m_showReplace);
     setState(modeItem(ShowReplaceInterface), m_showReplace);
-    setState(m_interfaceModePopupButton->menu()->actions().last(), m_wrapAround);
+    if (modeMenu() && !modeMenu()->isEmpty())
+        setState(modeMenu()->actions().last(), m_wrapAround);
 }
 
 void ZEVTextFinderViewController::updateInterfaceModeSelectorState()
 {
-    if (!m_interfaceModePopupButton)
+    ZEVTextFinderBorderlessPopUpButton *button = controls().interfaceModePopupButton;
+    if (!button)
         return;
     QAction *item = modeItem(m_showReplace ? ShowReplaceInterface : ShowFindInterface);
     m_modeSelectorItem->setText(item ? item->text() : QString());
-    m_interfaceModePopupButton->setText(m_modeSelectorItem->text());
-    m_interfaceModePopupButton->setAccessibleName(item ? ZEVMenuItem::title(item) : QString());
-    m_interfaceModePopupButton->selectItem(item);
+    button->setText(m_modeSelectorItem->text());
+    button->setAccessibleName(item ? ZEVMenuItem::title(item) : QString());
+    button->selectItem(item);
 }
 
 /// Choosing to find only, while there is a replace row, asks for hiding that row.
@@ -202,45 +195,37 @@ void ZEVTextFinderViewController::updateFindMenu()
     item->setChecked(!query().caseInsensitiveSearch());
 }
 
-void ZEVTextFinderViewController::popupFindMenu()
-{
-    QMenu *menu = findTokenField()->dropDownMenu();
-    // From now on the controller is the one that builds it.
-    ZEVMenuBuilder::setMenuBuilder(menu, [guard = QPointer(this)](QMenu *) {
-        if (guard)
-            guard->updateFindMenu();
-    });
-    m_findMenuButton->setDown(false);
-    popUpMenuOfField(menu, findTokenField());
-}
-
-void ZEVTextFinderViewController::popupReplaceMenu()
-{
-    m_replaceMenuButton->setDown(false);
-    popUpMenuOfField(replaceTokenField()->dropDownMenu(), replaceTokenField());
-}
-
 void ZEVTextFinderViewController::matchTypeSelected() { performSearch(); }
-void ZEVTextFinderViewController::cancelOperation() { performAction(HideFindInterface); }
 void ZEVTextFinderViewController::donePressed() { performAction(HideFindInterface); }
 
-void ZEVTextFinderViewController::navigationSegmentPressed(const QObject *sender)
+void ZEVTextFinderViewController::cancelOperation()
 {
-    performAction(tagOf(sender));
+    if (!stopLongSearch())
+        performAction(HideFindInterface);
 }
 
-void ZEVTextFinderViewController::replaceSegmentPressed(const QObject *sender)
+void ZEVTextFinderViewController::actionButtonPressed(QObject *sender)
 {
-    performAction(tagOf(sender));
+    if (isReplaceAction(tagOf(sender)))
+        replaceSegmentPressed(sender);
+    else
+        navigationSegmentPressed(sender);
 }
 
-/// Escape, wherever in the bar it is pressed.
+void ZEVTextFinderViewController::navigationSegmentPressed(QObject *sender) { performAction(tagOf(sender)); }
+void ZEVTextFinderViewController::replaceSegmentPressed(QObject *sender) { performAction(tagOf(sender)); }
+
+/// Escape, wherever in the bar it is pressed. A bar that comes up searches for what is in it already.
 bool ZEVTextFinderViewController::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
         cancelOperation();
         return true;
     }
+    if (watched == view() && event->type() == QEvent::Resize)
+        m_layout->arrange();
+    else if (watched == view() && event->type() == QEvent::Show)
+        QMetaObject::invokeMethod(this, &ZEVTextFinderViewController::searchIfChanged, Qt::QueuedConnection);
     return ZEVTextFinderUserInterfaceVC::eventFilter(watched, event);
 }
 

@@ -5,19 +5,20 @@
 
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderUserInterfaceVC.h>
 
-class QAbstractButton;
+class FindBarLayout;
 class QAction;
-class ZEVTextFinderBorderlessPopUpButton;
 
-/// The find bar: searches as the user types, and sends its buttons' actions to its delegate. Beside what its
-/// base looks for, its view may hold findMenuButton, replaceMenuButton, interfaceModePopupButton,
-/// replaceContainerView, doneButton, and any number of buttons with an action number as property "tag".
+/// The find bar: searches as the user types, while it is shown, and sends its buttons' actions to its delegate.
+/// Beside what its base looks for, its view may hold interfaceModePopupButton, replaceContainerView and
+/// doneButton.
 class ZEV_EXPORT ZEVTextFinderViewController : public ZEVTextFinderUserInterfaceVC {
     Q_OBJECT
     Q_PROPERTY(bool wrapAround READ wrapAround WRITE setWrapAround NOTIFY wrapAroundChanged)
 
 public:
     explicit ZEVTextFinderViewController(QObject *parent = nullptr);
+    /// Loads the interface file named \a nibName instead.
+    explicit ZEVTextFinderViewController(const QString &nibName, QObject *parent = nullptr);
     ~ZEVTextFinderViewController() override;
 
     /// Not at first.
@@ -25,46 +26,45 @@ public:
     void setShowReplace(bool show) override;
 
     /// Whether moving goes on at the other end of the text; it does at first.
-    bool wrapAround() const { return m_wrapAround; }
+    bool wrapAround() const override { return m_wrapAround; }
     void setWrapAround(bool wraps);
-    void toggleWrapAround() { setWrapAround(!m_wrapAround); }
 
     /// What the mode pop-up shows as its face.
     QAction *modeSelectorItem() const { return m_modeSelectorItem; }
 
     bool doCommandBySelector(OEXTokenField *control, ZEVTextCommand command) override;
 
+public Q_SLOTS:
+    virtual void matchTypeSelected();
+    virtual void toggleWrapAround();
+    /// By Escape: ends a long search or, where there is none, hides the interface.
+    virtual void cancelOperation();
+    virtual void donePressed();
+    virtual void navigationSegmentPressed(QObject *sender);
+    virtual void replaceSegmentPressed(QObject *sender);
+    virtual void updateInterfaceModeMenu();
+    virtual void updateInterfaceModeSelectorState();
+    void menuNeedsUpdate(QMenu *menu) override;
+
 Q_SIGNALS:
     void wrapAroundChanged();
 
 protected:
     void viewDidLoad() override;
+    void actionButtonPressed(QObject *sender) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-    void matchTypeSelected();
-    void cancelOperation();
-    void donePressed();
-    void navigationSegmentPressed(const QObject *sender);
-    void replaceSegmentPressed(const QObject *sender);
-
 private:
-    void setUpMenuButtons();
     void setUpModes();
-    void alignReplaceRow();
-    void setUpSegments();
-    void updateInterfaceModeMenu();
-    void updateInterfaceModeSelectorState();
+    void setUpFindMenu();
+    void searchAsTyped();
     void chooseMode(const QAction *item);
     void updateFindMenu();
-    void popupFindMenu();
-    void popupReplaceMenu();
     QAction *modeItem(qint64 tag) const;
+    QMenu *modeMenu() const;
 
     QAction *m_modeSelectorItem;
-    QPointer<QAbstractButton> m_findMenuButton;
-    QPointer<QAbstractButton> m_replaceMenuButton;
-    QPointer<ZEVTextFinderBorderlessPopUpButton> m_interfaceModePopupButton;
-    QPointer<QWidget> m_replaceContainerView;
-    bool m_showReplace = true;
+    std::unique_ptr<FindBarLayout> m_layout;
+    bool m_showReplace = false;
     bool m_wrapAround = true;
 };

@@ -63,6 +63,7 @@ ZEVItemModelFinderClient::ZEVItemModelFinderClient(QAbstractItemModel *model, QA
 {
     finder->setClient(this);
     connect(finder, &ZEVTextFinder::searchPerformed, this, &ZEVItemModelFinderClient::noteSearch);
+    connect(finder, &ZEVTextFinder::marksMatchesChanged, this, &ZEVItemModelFinderClient::repaint);
     watchModel();
 }
 
@@ -286,7 +287,8 @@ bool ZEVItemModelFinderClient::write(const QList<CellChange> &changes, const QSt
 ZEVCellMatches ZEVItemModelFinderClient::matchesInCell(const QModelIndex &index) const
 {
     ZEVCellMatches result;
-    if (!m_model || !m_finder || m_finder->client() != this || m_searchedStamp != m_changeStamp)
+    if (!m_model || !m_finder || m_finder->client() != this || !m_finder->marksMatches()
+        || m_searchedStamp != m_changeStamp)
         return result;
     const QList<ZEVRange> &matches = m_finder->foundMatches();
     const ZEVRange cell = m_text->placeOfCell(index);

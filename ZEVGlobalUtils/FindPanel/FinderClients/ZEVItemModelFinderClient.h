@@ -38,6 +38,9 @@ public:
     ZEVItemModelFinderClient(QAbstractItemModel *model, QAbstractItemView *view, ZEVTextFinder *finder);
     ~ZEVItemModelFinderClient() override;
 
+    /// Null once it has gone.
+    QAbstractItemModel *model() const { return m_model; }
+
     /// Which columns are searched, and in which order; empty, as at first, for all in their own order.
     void setColumns(const QList<int> &columns);
 
@@ -66,7 +69,7 @@ public:
     /// The cell in which \a range lies, and its range there. An index that is not valid where there is none.
     QModelIndex cellOfRange(const ZEVRange &range, ZEVRange *rangeInCell = nullptr) const;
 
-    /// None once the text has changed, until it has been searched again.
+    /// None once the text has changed, until it has been searched again, nor while the finder has none marked.
     ZEVCellMatches matchesInCell(const QModelIndex &index) const;
 
 Q_SIGNALS:

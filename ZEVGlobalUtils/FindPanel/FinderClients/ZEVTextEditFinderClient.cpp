@@ -96,6 +96,7 @@ ZEVTextEditFinderClient::ZEVTextEditFinderClient(QAbstractScrollArea *editor, QT
     connect(document, &QTextDocument::contentsChange, this, &ZEVTextEditFinderClient::noteChange);
     connect(document, &QObject::destroyed, this, &ZEVTextEditFinderClient::noteChange);
     connect(finder, &ZEVTextFinder::searchPerformed, this, &ZEVTextEditFinderClient::noteSearch);
+    connect(finder, &ZEVTextFinder::marksMatchesChanged, this, &ZEVTextEditFinderClient::markMatches);
     connect(editor->verticalScrollBar(), &QScrollBar::valueChanged, this,
             &ZEVTextEditFinderClient::markMatches);
     editor->viewport()->installEventFilter(this);
@@ -189,8 +190,9 @@ void ZEVTextEditFinderClient::markMatches()
     const bool hadMarks = marks.removeIf([](const QTextEdit::ExtraSelection &selection) {
         return selection.format.hasProperty(IsMatchProperty);
     }) > 0;
-    const bool isFresh = m_finder && m_finder->client() == this && m_searchedStamp == m_changeStamp;
-    const QList<ZEVRange> matches = isFresh ? m_finder->foundMatches() : QList<ZEVRange>();
+    const bool marksMatches = m_finder && m_finder->client() == this && m_finder->marksMatches()
+        && m_searchedStamp == m_changeStamp;
+    const QList<ZEVRange> matches = marksMatches ? m_finder->foundMatches() : QList<ZEVRange>();
     if (!matches.isEmpty())
         marks += marksInSight(matches);
     else if (!hadMarks)

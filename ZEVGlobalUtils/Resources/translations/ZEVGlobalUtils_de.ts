@@ -336,6 +336,14 @@
         <translation>Die Suche war zu aufwendig: Es fehlen Treffer.</translation>
     </message>
     <message>
+        <source>Searching… Press Escape to stop.</source>
+        <translation>Suche läuft … Escape bricht sie ab.</translation>
+    </message>
+    <message>
+        <source>The search was stopped: matches may be missing.</source>
+        <translation>Die Suche wurde abgebrochen: Es können Treffer fehlen.</translation>
+    </message>
+    <message>
         <source>Replace</source>
         <translation>Ersetzen</translation>
     </message>

@@ -336,6 +336,14 @@
         <translation>The search was too complex: matches are missing.</translation>
     </message>
     <message>
+        <source>Searching… Press Escape to stop.</source>
+        <translation>Searching… Press Escape to stop.</translation>
+    </message>
+    <message>
+        <source>The search was stopped: matches may be missing.</source>
+        <translation>The search was stopped: matches may be missing.</translation>
+    </message>
+    <message>
         <source>Replace</source>
         <translation>Replace</translation>
     </message>

@@ -336,6 +336,14 @@
         <translation>La recherche était trop complexe&#xa0;: il manque des correspondances.</translation>
     </message>
     <message>
+        <source>Searching… Press Escape to stop.</source>
+        <translation>Recherche en cours… Échap pour l’arrêter.</translation>
+    </message>
+    <message>
+        <source>The search was stopped: matches may be missing.</source>
+        <translation>La recherche a été arrêtée&#xa0;: il manque peut-être des correspondances.</translation>
+    </message>
+    <message>
         <source>Replace</source>
         <translation>Remplacer</translation>
     </message>

@@ -8,25 +8,20 @@
 #include <QCoreApplication>
 
 FieldScope::FieldScope(const QString &title, QList<int> columns)
-    : ZEVFindPanelScope(title)
+    : ZEVFindPanelSharedScope(title)
     , m_columns(std::move(columns))
 {
 }
 
-const QList<std::shared_ptr<FieldScope>> &FieldScope::all()
+const QList<std::shared_ptr<ZEVFindPanelScope>> &FieldScope::all()
 {
-    static const QList<std::shared_ptr<FieldScope>> scopes = [] {
+    static const QList<std::shared_ptr<ZEVFindPanelScope>> scopes = [] {
         const QString everywhere = QCoreApplication::translate("FieldScope", "All Fields");
-        QList<std::shared_ptr<FieldScope>> all{std::make_shared<FieldScope>(everywhere, QList<int>())};
+        QList<std::shared_ptr<ZEVFindPanelScope>> all{std::make_shared<FieldScope>(everywhere, QList<int>())};
         for (int field = 0; field < TrackFieldCount; ++field)
             all.append(std::make_shared<FieldScope>(TrackTableModel::titleForField(TrackField(field)),
                                                     QList<int>{field}));
         return all;
     }();
     return scopes;
-}
-
-std::shared_ptr<ZEVFindPanelScope> FieldScope::copy() const
-{
-    return std::const_pointer_cast<FieldScope>(shared_from_this());
 }

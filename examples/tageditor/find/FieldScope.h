@@ -5,21 +5,20 @@
 
 #include <tageditor/tracks/Track.h>
 
-#include <ZEVGlobalUtils/FindEngine/ZEVFindPanelScope.h>
+#include <ZEVGlobalUtils/FindEngine/ZEVFindPanelSharedScope.h>
 
-/// Searches some fields of the tracks. There is one of each kind, which is its own copy: two queries with it
-/// mean the same.
-class FieldScope : public ZEVFindPanelScope, public std::enable_shared_from_this<FieldScope> {
+/// Searches some fields of the tracks. There is one of each kind.
+class FieldScope : public ZEVFindPanelSharedScope {
+    Q_OBJECT
+
 public:
     FieldScope(const QString &title, QList<int> columns);
 
     /// All fields, then each.
-    static const QList<std::shared_ptr<FieldScope>> &all();
+    static const QList<std::shared_ptr<ZEVFindPanelScope>> &all();
 
     /// Empty for all.
     const QList<int> &columns() const { return m_columns; }
-
-    std::shared_ptr<ZEVFindPanelScope> copy() const override;
 
 private:
     QList<int> m_columns;

@@ -26,7 +26,4 @@ public:
 
 protected:
     void viewDidLoad() override;
-
-private:
-    void chooseScope();
 };

@@ -4,7 +4,6 @@
 #include <tageditor/find/TrackFind.h>
 
 #include <tageditor/find/FieldScope.h>
-#include <tageditor/find/FindInterfaces.h>
 #include <tageditor/find/FindPanelDialog.h>
 #include <tageditor/find/ReplaceDialog.h>
 #include <tageditor/find/TagTokens.h>
@@ -13,74 +12,30 @@
 
 #include <ZEVGlobalUtils/FindEngine/ZEVOrvCaptureMatch.h>
 #include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVMatchHighlightDelegate.h>
-#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
 
 #include <QTableView>
 
-/// Bar and panel search the same table: this tells which of them asks.
-class TrackFind::Asker : public QObject, public ZEVTextFinderUserInterfaceDelegate {
-public:
-    Asker(TrackFind *find, ZEVTextFinderUserInterfaceVC *interface)
-        : QObject(interface)
-        , m_find(find)
-        , m_interface(interface)
-    {
-    }
-
-    void performAction(qint64 action) override { m_find->finder().performAction(action); }
-    void performSearchAgainstExpression(const std::optional<ZEVRegularExpression> &expression) override
-    {
-        m_find->search(m_interface, expression);
-    }
-
-private:
-    TrackFind *m_find;
-    ZEVTextFinderUserInterfaceVC *m_interface;
-};
-
 TrackFind::TrackFind(TrackTableModel *model, QTableView *table, TextEditing *editing)
-    : FindPlace(table)
+    : ZEVFindPlace(static_cast<QWidget *>(table), std::make_unique<FindBar>())
     , m_model(model)
     , m_editing(editing)
     , m_client(new ZEVItemModelFinderClient(model, table, &finder()))
-    , m_asker(&bar())
 {
-    addAsker(&bar());
+    setKeysEnabled(false); // the window's menu has them
     m_client->setWriter([this](const auto &changes, const QString &name) { return write(changes, name); });
-    actor().setQuerySource([this] { return m_asker->query(); });
-    actor().setReplacePatternSource([this] { return m_asker->replacePattern(); });
     actor().setPlaceholderValue(
         [this](const ZEVPatternItem &item, const ZEVRange &match) { return valueOf(item, match); });
     table->setItemDelegate(new ZEVMatchHighlightDelegate(m_client, table));
-    watchSearch();
+    connect(m_client, &ZEVItemModelFinderClient::textChanged, &actor(), &ZEVTextFinderActor::searchAgainSoon);
+    connect(&finder(), &ZEVTextFinder::searchBegins, this, &TrackFind::searchColumnsOfScope);
 }
 
 TrackFind::~TrackFind() = default;
 
-void TrackFind::watchSearch()
+void TrackFind::searchColumnsOfScope()
 {
-    connect(m_client, &ZEVItemModelFinderClient::textChanged, &actor(), &ZEVTextFinderActor::searchAgainSoon);
-    connect(&finder(), &ZEVTextFinder::numberOfMatchesChanged, this, [this] {
-        if (m_asker != &bar())
-            m_asker->setNumberOfMatches(finder().numberOfMatches());
-    });
-    connect(&finder(), &ZEVTextFinder::searchPerformed, this, [this] {
-        if (m_asker == &bar())
-            return;
-        m_asker->setSearchLimitReached(finder().limitReached());
-        bar().setNumberOfMatches(std::nullopt); // it is not the bar's pattern that was counted
-    });
-}
-
-void TrackFind::addAsker(ZEVTextFinderUserInterfaceVC *asker) { asker->setDelegate(new Asker(this, asker)); }
-
-void TrackFind::search(ZEVTextFinderUserInterfaceVC *asker,
-                       const std::optional<ZEVRegularExpression> &expression)
-{
-    m_asker = asker;
-    const auto *scope = dynamic_cast<const FieldScope *>(asker->query().scope().get());
+    const auto *scope = dynamic_cast<const FieldScope *>(finder().lastRequest().query.scope().get());
     m_client->setColumns(scope ? scope->columns() : QList<int>());
-    finder().performSearchAgainstExpression(expression);
 }
 
 QList<TrackFind::Match> TrackFind::matches()
@@ -120,7 +75,7 @@ void TrackFind::showPanel()
 {
     if (!m_panel) {
         m_panel = new FindPanelDialog(this);
-        addAsker(&m_panel->panel());
+        finder().addInterface(&m_panel->panel());
         connect(m_panel, &FindPanelDialog::reviewRequested, this, &TrackFind::reviewReplacements);
     }
     m_panel->show();
@@ -130,7 +85,8 @@ void TrackFind::showPanel()
 
 void TrackFind::reviewReplacements()
 {
-    auto *dialog = new ReplaceDialog(actor().preview(), *m_client, m_asker == &bar() ? window() : m_panel);
+    const bool isPanels = m_panel && finder().lastRequest().asker == &m_panel->panel();
+    auto *dialog = new ReplaceDialog(actor().preview(), *m_client, isPanels ? m_panel : window());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, dialog] { actor().apply(dialog->chosen()); });
     dialog->open();

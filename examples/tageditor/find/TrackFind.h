@@ -3,19 +3,19 @@
 
 #pragma once
 
-#include <tageditor/find/FindPlace.h>
+#include <tageditor/find/FindInterfaces.h>
 #include <tageditor/tracks/Track.h>
 
 #include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVItemModelFinderClient.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFindPlace.h>
 
 class FindPanelDialog;
 class QTableView;
 class TextEditing;
 class TrackTableModel;
-class ZEVTextFinderUserInterfaceVC;
 
 /// Find and replace in the table of tracks, by the bar above it or by a panel of its own.
-class TrackFind : public FindPlace {
+class TrackFind : public ZEVFindPlace {
     Q_OBJECT
 
 public:
@@ -38,10 +38,7 @@ public:
     void reviewReplacements();
 
 private:
-    class Asker;
-    void search(ZEVTextFinderUserInterfaceVC *asker, const std::optional<ZEVRegularExpression> &expression);
-    void addAsker(ZEVTextFinderUserInterfaceVC *asker);
-    void watchSearch();
+    void searchColumnsOfScope();
     bool write(const QList<ZEVItemModelFinderClient::CellChange> &changes, const QString &name);
     std::optional<ZEVOrvCaptureMatch> valueOf(const ZEVPatternItem &item, const ZEVRange &match) const;
 
@@ -49,5 +46,4 @@ private:
     TextEditing *m_editing;
     ZEVItemModelFinderClient *m_client;
     FindPanelDialog *m_panel = nullptr; ///< made when it is first shown
-    ZEVTextFinderUserInterfaceVC *m_asker; ///< bar or panel: whose search was the last
 };

@@ -3,8 +3,8 @@
 
 #include <tageditor/gallery/FindInterfacesPage.h>
 
+#include <ZEVGlobalUtils/FindEngine/ZEVFindActionNumber.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
-#include <ZEVGlobalUtils/FindEngine/ZEVTextFinderAction.h>
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFindBarContainerView.h>
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFindPanelQueryParamsController.h>
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderUserInterfaceVC.h>
@@ -63,7 +63,7 @@ QWidget *queryPanel()
 
 QWidget *findInterfacesPage(QWidget *parent)
 {
-    using namespace ZEVTextFinderAction;
+    using namespace ZEVFindActionNumber;
     auto *page = new QWidget(parent);
     auto *layout = new QVBoxLayout(page);
     layout->addWidget(titled(u"Find"_s, findBar(ShowFindInterface, std::nullopt, false)));

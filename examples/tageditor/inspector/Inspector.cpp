@@ -3,14 +3,14 @@
 
 #include <tageditor/inspector/Inspector.h>
 
+#include <tageditor/find/FindInterfaces.h>
 #include <tageditor/find/TagTokens.h>
-#include <tageditor/inspector/CommentEdit.h>
 #include <tageditor/inspector/TagField.h>
 #include <tageditor/text/TextEditing.h>
 #include <tageditor/tracks/TableSelection.h>
 #include <tageditor/tracks/TrackTableModel.h>
 
-#include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVTextEditFinderClient.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFindPlace.h>
 #include <ZEVGlobalUtils/Transforms/Formatters/FileSizeTransformer.h>
 #include <ZEVGlobalUtils/Transforms/Formatters/ZEVShortDateFormatter.h>
 
@@ -18,6 +18,7 @@
 #include <QFormLayout>
 #include <QItemSelectionModel>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QVBoxLayout>
 
 namespace {
@@ -36,15 +37,12 @@ Inspector::Inspector(TrackTableModel *model, const QItemSelectionModel *selectio
     , m_selection(selection)
     , m_editing(editing)
     , m_tokens(new ZEVPatternTokens({TagTokens::fieldTokens()}, this))
-    , m_comment(new CommentEdit)
-    , m_commentFind(new FindPlace(m_comment))
+    , m_comment(new QPlainTextEdit)
+    , m_commentFind(new ZEVFindPlace(m_comment, std::make_unique<FindBar>()))
     , m_files(new QLabel)
 {
     layOut();
-    m_comment->setFinder(&m_commentFind->finder());
-    auto *client = new ZEVTextEditFinderClient(m_comment, &m_commentFind->finder());
-    connect(client, &ZEVTextEditFinderClient::textChanged, &m_commentFind->actor(),
-            &ZEVTextFinderActor::searchAgainSoon);
+    m_commentFind->setKeysEnabled(false); // the window's menu has them
     connect(qApp, &QApplication::focusChanged, this, [this](const QWidget *before, const QWidget *now) {
         if (now && m_commentFind->isAncestorOf(before) && !m_commentFind->isAncestorOf(now))
             commitComment();

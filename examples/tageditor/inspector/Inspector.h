@@ -3,21 +3,22 @@
 
 #pragma once
 
-#include <tageditor/find/FindPlace.h>
 #include <tageditor/tracks/Track.h>
 
 #include <QTimer>
 #include <QVariantList>
+#include <QWidget>
 
 #include <vector>
 
-class CommentEdit;
+class QPlainTextEdit;
 class QFormLayout;
 class QLabel;
 class QItemSelectionModel;
 class TagField;
 class TextEditing;
 class TrackTableModel;
+class ZEVFindPlace;
 class ZEVPatternTokens;
 
 /// The tags of the selected tracks, each to be edited for all of them at once. A tag in which they differ
@@ -33,7 +34,7 @@ public:
     /// Takes over what is still being typed.
     void commit();
 
-    FindPlace &commentFind() { return *m_commentFind; }
+    ZEVFindPlace &commentFind() { return *m_commentFind; }
 
 private:
     struct Row {
@@ -58,8 +59,8 @@ private:
     TextEditing *m_editing;
     ZEVPatternTokens *m_tokens;
     std::vector<Row> m_fields;
-    CommentEdit *m_comment;
-    FindPlace *m_commentFind;
+    QPlainTextEdit *m_comment;
+    ZEVFindPlace *m_commentFind;
     QString m_shownComment;
     QLabel *m_files; ///< their sizes, and when the last one was changed
     QList<int> m_trackIds; ///< those that are shown

@@ -12,6 +12,7 @@
 #include <tageditor/window/MainWindow.h>
 #include <tageditor/window/QuickOpen.h>
 
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFindPlace.h>
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderMenu.h>
 
 #include <QAction>
@@ -113,6 +114,6 @@ void MainWindow::selectAroundCurrent(QItemSelectionModel::SelectionFlag extent)
 /// The keys for finding belong to the editor of comments while one is in it, and to the table elsewhere.
 ZEVTextFinder *MainWindow::currentFinder()
 {
-    FindPlace &comment = m_inspector->commentFind();
+    ZEVFindPlace &comment = m_inspector->commentFind();
     return comment.hasFocusWithin() ? &comment.finder() : &m_find->finder();
 }

@@ -3,18 +3,19 @@
 
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
 
+#include <ZEVGlobalUtils/FindEngine/ZEVFindActionNumber.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVFindBarContainer.h>
-#include <ZEVGlobalUtils/FindEngine/ZEVTextFinderAction.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextViewFindPboard.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVWeakRef.h>
 
+#include <QPointer>
 #include <QWidget>
 
 #include <stdexcept>
 
-using namespace ZEVTextFinderAction;
+using namespace ZEVFindActionNumber;
 using namespace ZEVTextViewFindPboard;
 
 namespace {
@@ -31,36 +32,14 @@ bool isPlatformFindField(const QWidget *widget) { return widget->inherits("NSFin
 } // namespace
 
 ZEVFindBarContainer::~ZEVFindBarContainer() = default;
-ZEVTextFinderUserInterface::~ZEVTextFinderUserInterface() = default;
-ZEVTextFinderUserInterfaceDelegate::~ZEVTextFinderUserInterfaceDelegate() = default;
-void ZEVTextFinderUserInterfaceDelegate::customizeFindMenuBeforeDisplay(ZEVTextFinderUserInterface *, QMenu *)
-{
-}
-
-ZEVTextFinderUserInterface::Maker &ZEVTextFinderUserInterface::maker()
-{
-    static Maker maker;
-    return maker;
-}
-
-ZEVTextFinderUserInterface *ZEVTextFinder::textFinderViewController()
-{
-    if (!m_textFinderViewController)
-        setTextFinderViewController(ZEVTextFinderUserInterface::maker()());
-    return m_textFinderViewController.get();
-}
-
-void ZEVTextFinder::setTextFinderViewController(std::unique_ptr<ZEVTextFinderUserInterface> controller)
-{
-    m_textFinderViewController = std::move(controller);
-    m_textFinderViewController->setDelegate(this);
-    m_textFinderViewController->setNumberOfMatches(m_numberOfMatches);
-}
 
 QWidget *ZEVTextFinder::firstResponder() const
 {
-    return m_findBarContainer ? m_findBarContainer->window()->focusWidget() : nullptr;
+    const QWidget *window = m_findBarContainer ? m_findBarContainer->window() : nullptr;
+    return window ? window->focusWidget() : nullptr;
 }
+
+QWidget *ZEVTextFinder::textViewInFocus() const { return textViewOf(firstResponder()); }
 
 bool ZEVTextFinder::findBarHasFocus()
 {
@@ -74,18 +53,19 @@ bool ZEVTextFinder::canTakeTextFinderActionOwnerShip(qint64 action)
 {
     if (action == SetSearchString || findBarHasFocus())
         return true;
-    const QWidget *responder = firstResponder();
-    return !responder || !isTextView(responder)
-        || (isFieldEditor(responder) && !isPlatformFindField(responder));
+    const QWidget *textView = textViewInFocus();
+    return !textView || (isFieldEditor(textView) && !isPlatformFindField(textView));
 }
 
 void ZEVTextFinder::tryToPerformTextFinderAction(QObject *sender)
 {
+    if (!sender)
+        return;
     const qint64 action = sender->property("tag").toLongLong();
     if (canTakeTextFinderActionOwnerShip(action))
         performAction(action);
-    else if (QWidget *responder = firstResponder(); responder && isTextView(responder))
-        performTextFinderAction(responder, sender);
+    else if (QWidget *textView = textViewInFocus())
+        performTextFinderAction(textView, sender);
 }
 
 bool ZEVTextFinder::validateAction(qint64 action)
@@ -96,8 +76,8 @@ bool ZEVTextFinder::validateAction(qint64 action)
         return !m_foundMatches.isEmpty();
     if (isIn(AlwaysEnabled, action))
         return true;
-    const QWidget *responder = firstResponder();
-    return responder && isTextView(responder) && !isPlatformFindField(responder) && !findBarHasFocus();
+    const QWidget *textView = textViewInFocus();
+    return textView && !isPlatformFindField(textView) && !isSecret(textView) && !findBarHasFocus();
 }
 
 void ZEVTextFinder::performAction(qint64 action)
@@ -106,8 +86,8 @@ void ZEVTextFinder::performAction(qint64 action)
         m_findBarContainer->setFindBarView(textFinderViewController()->view());
     switch (action) {
     case SetSearchString:
-        if (const QWidget *responder = firstResponder(); responder && isTextView(responder))
-            placeEditorStringOnFindPasteboard(responder);
+        if (const QWidget *textView = textViewInFocus())
+            placeEditorStringOnFindPasteboard(textView);
         break;
     case HideFindInterface:
         hideFindBar();
@@ -118,18 +98,33 @@ void ZEVTextFinder::performAction(qint64 action)
         showFindBar(action);
         break;
     default:
-        Q_EMIT actionLeftToHost(action);
+        leaveToHost(action);
         break;
     }
+}
+
+/// What is acted on are the matches of the pattern as it stands, in the text as it is.
+void ZEVTextFinder::leaveToHost(qint64 action)
+{
+    const QPointer guard(this);
+    const bool moves = action == NextMatch || action == PreviousMatch;
+    if (ZEVTextFinderUserInterface *findInterface = currentInterface(); findInterface && moves)
+        findInterface->searchIfChanged();
+    if (guard && m_search && !isTextUnchanged())
+        searchAgain();
+    if (guard)
+        Q_EMIT actionLeftToHost(action);
 }
 
 void ZEVTextFinder::hideFindBar()
 {
     if (!m_findBarContainer)
         return;
-    if (QWidget *superview = m_findBarContainer->findBarView()->parentWidget())
+    const QWidget *view = m_findBarContainer->findBarView();
+    if (QWidget *superview = view ? view->parentWidget() : nullptr)
         superview->setFocus();
     m_findBarContainer->setFindBarVisible(false);
+    setMarksMatches(false);
 }
 
 void ZEVTextFinder::showFindBar(qint64 action)
@@ -147,6 +142,9 @@ void ZEVTextFinder::showFindBar(qint64 action)
     m_findBarContainer->findBarViewDidChangeHeight();
     m_findBarContainer->setFindBarVisible(true);
     m_textFinderViewController->focusFieldForAction(action);
+    if (m_request.expression && !isTextUnchanged()) // nobody has looked after it while the bar was hidden
+        searchAgain();
+    setMarksMatches(true);
 }
 
 QString ZEVTextFinder::localizedNameForAction(qint64 action)

@@ -6,7 +6,7 @@
 #include <QtGlobal>
 
 /// The numbers of the find actions. A menu item or button carries its number in its property "tag".
-namespace ZEVTextFinderAction {
+namespace ZEVFindActionNumber {
 
 enum Number : qint64 {
     ShowFindInterface = 1,
@@ -24,4 +24,4 @@ enum Number : qint64 {
     HideReplaceInterface = 13,
 };
 
-} // namespace ZEVTextFinderAction
+} // namespace ZEVFindActionNumber
