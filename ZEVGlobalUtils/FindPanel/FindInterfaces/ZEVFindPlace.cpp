@@ -9,7 +9,6 @@
 #include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVTextEditFinderClient.h>
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/WidgetSpot_p.h>
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderMenu.h>
-#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderViewController.h>
 
 #include <QAction>
 #include <QListView>

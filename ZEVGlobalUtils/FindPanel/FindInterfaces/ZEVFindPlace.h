@@ -6,12 +6,12 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderActor.h>
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFindBarContainerView.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderViewController.h>
 
 class QAbstractItemView;
 class QPlainTextEdit;
 class QTextEdit;
 class WidgetSpot;
-class ZEVTextFinderViewController;
 
 /// Find and replace for a view, whole: the bar above it, its finder, who acts on the matches, and the keys.
 ///
