@@ -10,6 +10,8 @@
 
 #include <QMetaMethod>
 
+#include <algorithm>
+
 using namespace std::chrono_literals;
 
 ZEVTextFinderClient::~ZEVTextFinderClient() = default;
@@ -231,7 +233,8 @@ void ZEVTextFinder::goOn(const std::shared_ptr<TextSearch> &search, std::chrono:
 
 void ZEVTextFinder::goOnInBackground(const std::shared_ptr<TextSearch> &search)
 {
-    search->matchInBackground(m_sliceDuration, this, [this, weak = std::weak_ptr(search)] {
+    // Asking the client for the pieces is all that still takes this thread's time.
+    search->matchInBackground(std::max(m_sliceDuration / 3, 1ms), this, [this, weak = std::weak_ptr(search)] {
         const auto current = weak.lock();
         if (current && current == m_search && m_isSearching && current->hasBackgroundMatches())
             takeBackgroundMatches(current);

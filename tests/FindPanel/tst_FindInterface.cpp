@@ -560,6 +560,10 @@ private Q_SLOTS:
         HostBar bar;
         QVERIFY(bar.view()->findChild<QWidget *>(u"replaceContainerView"_s)); // that of its base
         QVERIFY(bar.findTokenField());
+        const QString other = u"ZEVFindPanelQueryParamsController"_s; // one that lacks what a bar has
+        QCOMPARE(ZEVTextFinderViewController(other).view()->objectName(), u"queryPanel"_s);
+        ZEVFindPanelQueryParamsController panel(u"ZEVTextFinderViewController"_s);
+        QCOMPARE(panel.view()->objectName(), u"findBar"_s);
     }
 
     /// What a host does with a query while it is typed takes nothing away from what is typed.
