@@ -167,7 +167,7 @@ private Q_SLOTS:
     /// The batches of a search that is under way hold a text that is not there any more.
     void modelsChangeWhileTheyAreSearched()
     {
-        const QString slow = QString(17, u'a') + u"!"_s; // a millisecond or more each
+        const QString slow = QString(15, u'a') + u"!"_s; // a millisecond or more each
         const std::pair<const char *, std::function<void(QStandardItemModel &)>> changes[] = {
             {"grow", [&](auto &model) { model.appendRow(new QStandardItem(u"aQ"_s)); }},
             {"shrink", [](auto &model) { model.removeRows(0, 100); }},
@@ -181,6 +181,7 @@ private Q_SLOTS:
             model.appendRow(new QStandardItem(u"aQ"_s));
             Window<QListView> window;
             window.view.setModel(&model);
+            window.place->finder().setSliceDuration(std::chrono::milliseconds(2));
             window.place->bar().setMatchingType(ZEVFindPanelQuery::RegularExpression);
             window.press(Qt::Key_F, Qt::ControlModifier);
             window.place->bar().setSearchPattern(QVariantList{u"(a+)+Q"_s});
