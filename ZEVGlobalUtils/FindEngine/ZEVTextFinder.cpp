@@ -3,9 +3,9 @@
 
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
 
-#include <ZEVGlobalUtils/FindEngine/TextSearch_p.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVFindBarContainer.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderClient.h>
+#include <ZEVGlobalUtils/FindEngine/ZEVTextSearch_p.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVWeakRef.h>
 
 #include <QMetaMethod>
@@ -187,7 +187,7 @@ void ZEVTextFinder::beginSearch(const ZEVFindRequest &request, std::chrono::mill
         newRequest.asker = nullptr;
     m_request = std::move(newRequest);
     // Whichever was under way ends here, and one that an observer begins now ends this one.
-    const auto marker = m_search = std::make_shared<TextSearch>(nullptr, std::nullopt);
+    const auto marker = m_search = std::make_shared<ZEVTextSearch>(nullptr, std::nullopt);
     m_isSearching = true;
     m_foundMatches.clear();
     m_limitReached = false;
@@ -196,7 +196,7 @@ void ZEVTextFinder::beginSearch(const ZEVFindRequest &request, std::chrono::mill
         Q_EMIT searchBegins();
     if (!guard || m_search != marker)
         return;
-    const auto search = m_search = std::make_shared<TextSearch>(m_client, m_request.expression);
+    const auto search = m_search = std::make_shared<ZEVTextSearch>(m_client, m_request.expression);
     m_isObserved = !m_interfaces.isEmpty()
         || isSignalConnected(QMetaMethod::fromSignal(&ZEVTextFinder::numberOfMatchesChanged));
     goOn(search, duration);
@@ -204,7 +204,7 @@ void ZEVTextFinder::beginSearch(const ZEVFindRequest &request, std::chrono::mill
 
 /// Every announced match runs code of the host, after which the finder may be gone, busy with a newer search,
 /// or without its client.
-bool ZEVTextFinder::addMatch(const TextSearch *search, const ZEVRange &match)
+bool ZEVTextFinder::addMatch(const ZEVTextSearch *search, const ZEVRange &match)
 {
     m_foundMatches.append(match);
     m_numberOfMatches = m_foundMatches.size();
@@ -217,21 +217,21 @@ bool ZEVTextFinder::addMatch(const TextSearch *search, const ZEVRange &match)
 }
 
 /// Whoever calls this holds the search, which an observer may end.
-void ZEVTextFinder::goOn(const std::shared_ptr<TextSearch> &search, std::chrono::milliseconds duration)
+void ZEVTextFinder::goOn(const std::shared_ptr<ZEVTextSearch> &search, std::chrono::milliseconds duration)
 {
     const QPointer guard(this);
     const auto state =
         search->run(duration, [&](const ZEVRange &match) { return addMatch(search.get(), match); });
     if (!guard || m_search != search)
         return;
-    if (state != TextSearch::State::Unfinished)
+    if (state != ZEVTextSearch::State::Unfinished)
         return endSearch(search);
     tellInterfaces([](auto &one) { one.setSearching(true); });
     if (guard && m_search == search)
         goOnInBackground(search);
 }
 
-void ZEVTextFinder::goOnInBackground(const std::shared_ptr<TextSearch> &search)
+void ZEVTextFinder::goOnInBackground(const std::shared_ptr<ZEVTextSearch> &search)
 {
     // Asking the client for the pieces is all that still takes this thread's time.
     search->matchInBackground(std::max(m_sliceDuration / 3, 1ms), this, [this, weak = std::weak_ptr(search)] {
@@ -241,7 +241,7 @@ void ZEVTextFinder::goOnInBackground(const std::shared_ptr<TextSearch> &search)
     });
 }
 
-void ZEVTextFinder::takeBackgroundMatches(const std::shared_ptr<TextSearch> &search)
+void ZEVTextFinder::takeBackgroundMatches(const std::shared_ptr<ZEVTextSearch> &search)
 {
     if (!isTextUnchanged())
         return searchAgain();
@@ -250,7 +250,7 @@ void ZEVTextFinder::takeBackgroundMatches(const std::shared_ptr<TextSearch> &sea
         search->takeBackgroundMatches([&](const ZEVRange &match) { return addMatch(search.get(), match); });
     if (!guard || m_search != search)
         return;
-    if (state == TextSearch::State::Unfinished)
+    if (state == ZEVTextSearch::State::Unfinished)
         goOnInBackground(search);
     else
         endSearch(search);
@@ -288,14 +288,14 @@ void ZEVTextFinder::setFoundMatches(const QList<ZEVRange> &matches)
 {
     const QPointer guard(this);
     m_foundMatches = QList(matches);
-    m_search = std::make_shared<TextSearch>(m_client, m_request.expression);
+    m_search = std::make_shared<ZEVTextSearch>(m_client, m_request.expression);
     m_isSearching = false;
     setNumberOfMatches(m_foundMatches.size());
     if (guard)
         Q_EMIT searchPerformed();
 }
 
-void ZEVTextFinder::endSearch(const std::shared_ptr<TextSearch> &search)
+void ZEVTextFinder::endSearch(const std::shared_ptr<ZEVTextSearch> &search)
 {
     const QPointer guard(this);
     m_isSearching = false;

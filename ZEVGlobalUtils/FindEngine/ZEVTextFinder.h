@@ -15,7 +15,7 @@
 #include <memory>
 #include <optional>
 
-class TextSearch;
+class ZEVTextSearch;
 class ZEVFindBarContainer;
 class ZEVTextFinderClient;
 
@@ -140,11 +140,11 @@ private:
     void announceNumberOfMatches();
     void beginSearch(const ZEVFindRequest &request, std::chrono::milliseconds duration);
     void prepareSearch();
-    bool addMatch(const TextSearch *search, const ZEVRange &match);
-    void goOn(const std::shared_ptr<TextSearch> &search, std::chrono::milliseconds duration);
-    void goOnInBackground(const std::shared_ptr<TextSearch> &search);
-    void takeBackgroundMatches(const std::shared_ptr<TextSearch> &search);
-    void endSearch(const std::shared_ptr<TextSearch> &search);
+    bool addMatch(const ZEVTextSearch *search, const ZEVRange &match);
+    void goOn(const std::shared_ptr<ZEVTextSearch> &search, std::chrono::milliseconds duration);
+    void goOnInBackground(const std::shared_ptr<ZEVTextSearch> &search);
+    void takeBackgroundMatches(const std::shared_ptr<ZEVTextSearch> &search);
+    void endSearch(const std::shared_ptr<ZEVTextSearch> &search);
     void setMarksMatches(bool marks);
     ZEVTextFinderUserInterface *currentInterface() const;
     QWidget *firstResponder() const;
@@ -162,7 +162,7 @@ private:
     QList<ZEVRange> m_foundMatches;
     QList<ZEVRange> m_visibleMatchRanges;
     std::optional<qsizetype> m_numberOfMatches;
-    std::shared_ptr<TextSearch> m_search; ///< the last one, done or not
+    std::shared_ptr<ZEVTextSearch> m_search; ///< the last one, done or not
     std::chrono::milliseconds m_sliceDuration{0};
     bool m_isSearching = false;
     bool m_isObserved =

@@ -7,10 +7,10 @@
 #include <ZEVGlobalUtils/Images/Artwork/ZEVPboardImageWriter.h>
 #include <ZEVGlobalUtils/Images/Artwork/ZEVPreviewPanel.h>
 #include <ZEVGlobalUtils/Images/Drawing/ZEVImageCrop.h>
-#include <ZEVGlobalUtils/ImageViews/ArtworkActions_p.h>
-#include <ZEVGlobalUtils/ImageViews/ArtworkTransfer_p.h>
-#include <ZEVGlobalUtils/ImageViews/DragImageViewAccessible_p.h>
+#include <ZEVGlobalUtils/ImageViews/ZEVArtworkActions_p.h>
+#include <ZEVGlobalUtils/ImageViews/ZEVArtworkTransfer_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDashView.h>
+#include <ZEVGlobalUtils/ImageViews/ZEVDragImageViewAccessible_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDropProgressView_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVFocusFrame_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVImageDragging_p.h>
@@ -110,9 +110,9 @@ ZEVDragImageView::ZEVDragImageView(QWidget *parent)
     , m_scaleAnimation(animation(m_imageView, "scale", u"animateScale"_s))
     , m_alphaAnimationOut(animation(m_imageView, "opacity", u"alphaAnimatonOut"_s)) // kept: spelled so
     , m_liveResize(new QTimer(this))
-    , m_transfer(new ArtworkTransfer(this))
+    , m_transfer(new ZEVArtworkTransfer(this))
 {
-    DragImageViewAccessible::install();
+    ZEVDragImageViewAccessible::install();
     setAccessibleName(ZEVGlobalHelper::localizedStringForKey(u"Artwork"));
     setFocusPolicy(Qt::StrongFocus);
     setAcceptDrops(true);
@@ -123,7 +123,7 @@ ZEVDragImageView::ZEVDragImageView(QWidget *parent)
     connect(m_liveResize, &QTimer::timeout, this, &ZEVDragImageView::viewDidEndLiveResize);
     setUpViews();
     setUpTransfer();
-    m_imageView->setMenu(ArtworkActions::makeMenu(this));
+    m_imageView->setMenu(ZEVArtworkActions::makeMenu(this));
     updateDashes();
 }
 
@@ -134,8 +134,8 @@ void ZEVDragImageView::setUpTransfer()
     connect(importer, &ZEVArtworkImporter::workEnded, m_progressView, &ZEVDropProgressView::end);
     connect(importer, &ZEVArtworkImporter::refused, this, &ZEVDragImageView::importWasRefused);
     connect(m_progressView, &ZEVDropProgressView::cancelled, this, &ZEVDragImageView::cancelImports);
-    connect(m_transfer, &ArtworkTransfer::imported, this, &ZEVDragImageView::showImported);
-    connect(m_transfer, &ArtworkTransfer::pasted, this,
+    connect(m_transfer, &ZEVArtworkTransfer::imported, this, &ZEVDragImageView::showImported);
+    connect(m_transfer, &ZEVArtworkTransfer::pasted, this,
             [this](const std::shared_ptr<ZEVImageDescription> &artwork) {
                 showDescription(artwork, true, true);
             });
@@ -329,14 +329,14 @@ bool ZEVDragImageView::event(QEvent *event)
     if (event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate)
         update();
     if (event->type() == QEvent::ShortcutOverride
-        && !ArtworkActions::actionForKey(*this, static_cast<const QKeyEvent &>(*event)).isEmpty())
+        && !ZEVArtworkActions::actionForKey(*this, static_cast<const QKeyEvent &>(*event)).isEmpty())
         event->accept();
     return QWidget::event(event);
 }
 
 void ZEVDragImageView::keyPressEvent(QKeyEvent *event)
 {
-    if (!ArtworkActions::perform(this, ArtworkActions::actionForKey(*this, *event)))
+    if (!ZEVArtworkActions::perform(this, ZEVArtworkActions::actionForKey(*this, *event)))
         QWidget::keyPressEvent(event);
 }
 
@@ -365,7 +365,7 @@ void ZEVDragImageView::contextMenuEvent(QContextMenuEvent *event)
 
 bool ZEVDragImageView::validateUserInterfaceItem(const QByteArray &action) const
 {
-    return ArtworkActions::isEnabled(*this, action);
+    return ZEVArtworkActions::isEnabled(*this, action);
 }
 
 void ZEVDragImageView::copy() { m_transfer->copy(); }
@@ -414,7 +414,7 @@ void ZEVDragImageView::updatePreviewPanel(const ZEVImageDescription *previous)
 
 bool ZEVDragImageView::canReadDataFromPasteboard(const ZEVPasteboard &pasteboard)
 {
-    return ArtworkTransfer::canRead(pasteboard);
+    return ZEVArtworkTransfer::canRead(pasteboard);
 }
 
 QByteArray ZEVDragImageView::provideDataForType(const ZEVPasteboard &, const ZEVPasteboardItem *,
@@ -462,7 +462,7 @@ void ZEVDragImageView::dragEnterEvent(QDragEnterEvent *event)
 
 void ZEVDragImageView::dragMoveEvent(QDragMoveEvent *event)
 {
-    answer(event, ArtworkTransfer::operation(*event));
+    answer(event, ZEVArtworkTransfer::operation(*event));
 }
 
 void ZEVDragImageView::dragLeaveEvent(QDragLeaveEvent *event)

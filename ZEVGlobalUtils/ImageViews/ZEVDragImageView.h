@@ -18,7 +18,7 @@ class QMenu;
 class QPropertyAnimation;
 class QThreadPool;
 class QTimer;
-class ArtworkTransfer;
+class ZEVArtworkTransfer;
 class ZEVDashView;
 class ZEVDropProgressView;
 class ZEVFocusFrame;
@@ -202,5 +202,5 @@ private:
     QPropertyAnimation *m_scaleAnimation;
     QPropertyAnimation *m_alphaAnimationOut;
     QTimer *m_liveResize;
-    ArtworkTransfer *m_transfer;
+    ZEVArtworkTransfer *m_transfer;
 };

@@ -133,7 +133,8 @@ private Q_SLOTS:
         for (const QWidget *pane : QWidgetList{shown.bar().view(), &shown.window.inspector()}) {
             int controls = 0;
             for (const QWidget *control : pane->findChildren<QWidget *>()) {
-                if (control->focusPolicy() == Qt::NoFocus || control->parentWidget() != pane)
+                const bool isPart = control->parentWidget()->focusPolicy() != Qt::NoFocus; // of a control
+                if (control->focusPolicy() == Qt::NoFocus || isPart)
                     continue;
                 ++controls;
                 QVERIFY2(named(control), qPrintable(control->objectName()));

@@ -5,7 +5,7 @@
 
 #include <ZEVGlobalUtils/FindEngine/ZEVFindActionNumber.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVFindPanelScope.h>
-#include <ZEVGlobalUtils/FindPanel/FindInterfaces/FindControls_p.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFindControls_p.h>
 #include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenField.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuBuilder.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>

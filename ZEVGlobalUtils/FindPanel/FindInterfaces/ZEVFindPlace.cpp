@@ -7,8 +7,8 @@
 #include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVItemModelFinderClient.h>
 #include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVMatchHighlightDelegate.h>
 #include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVTextEditFinderClient.h>
-#include <ZEVGlobalUtils/FindPanel/FindInterfaces/WidgetSpot_p.h>
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderMenu.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVWidgetSpot_p.h>
 
 #include <QAction>
 #include <QListView>
@@ -30,7 +30,7 @@ bool hasPlainDelegate(const QAbstractItemView *view)
 
 } // namespace
 
-ZEVFindPlace::ZEVFindPlace(const WidgetSpot &spot, QWidget *content, Bar bar)
+ZEVFindPlace::ZEVFindPlace(const ZEVWidgetSpot &spot, QWidget *content, Bar bar)
     : ZEVFindBarContainerView(content)
     , m_actor(&m_finder)
     , m_menu(new QMenu(this))
@@ -44,24 +44,24 @@ ZEVFindPlace::ZEVFindPlace(const WidgetSpot &spot, QWidget *content, Bar bar)
 }
 
 ZEVFindPlace::ZEVFindPlace(QWidget *content, Bar bar)
-    : ZEVFindPlace(WidgetSpot(content), content, std::move(bar))
+    : ZEVFindPlace(ZEVWidgetSpot(content), content, std::move(bar))
 {
 }
 
 ZEVFindPlace::ZEVFindPlace(QTextEdit *editor, Bar bar)
-    : ZEVFindPlace(WidgetSpot(editor), editor, std::move(bar))
+    : ZEVFindPlace(ZEVWidgetSpot(editor), editor, std::move(bar))
 {
     searchEditor(editor);
 }
 
 ZEVFindPlace::ZEVFindPlace(QPlainTextEdit *editor, Bar bar)
-    : ZEVFindPlace(WidgetSpot(editor), editor, std::move(bar))
+    : ZEVFindPlace(ZEVWidgetSpot(editor), editor, std::move(bar))
 {
     searchEditor(editor);
 }
 
 ZEVFindPlace::ZEVFindPlace(QAbstractItemView *view, Bar bar)
-    : ZEVFindPlace(WidgetSpot(view), view, std::move(bar))
+    : ZEVFindPlace(ZEVWidgetSpot(view), view, std::move(bar))
 {
     searchView(view);
     connect(&m_finder, &ZEVTextFinder::searchBegins, view, [this, view] { searchView(view); });

@@ -11,7 +11,7 @@
 class QAbstractItemView;
 class QPlainTextEdit;
 class QTextEdit;
-class WidgetSpot;
+class ZEVWidgetSpot;
 
 /// Find and replace for a view, whole: the bar above it, its finder, who acts on the matches, and the keys.
 ///
@@ -56,7 +56,7 @@ public:
     void find(const ZEVFindPanelQuery &query);
 
 private:
-    ZEVFindPlace(const WidgetSpot &spot, QWidget *content, Bar bar);
+    ZEVFindPlace(const ZEVWidgetSpot &spot, QWidget *content, Bar bar);
     template <typename Editor>
     void searchEditor(Editor *editor);
     void searchView(QAbstractItemView *view);

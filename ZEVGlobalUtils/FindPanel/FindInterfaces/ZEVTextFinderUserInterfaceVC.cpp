@@ -6,9 +6,9 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVFindActionNumber.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVFindPanelScope.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVFindRequest.h>
-#include <ZEVGlobalUtils/FindPanel/FindInterfaces/FindControls_p.h>
-#include <ZEVGlobalUtils/FindPanel/FindInterfaces/InterfaceLoader_p.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFindControls_p.h>
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFocusTokenFieldCell.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVInterfaceLoader_p.h>
 #include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenField.h>
 #include <ZEVGlobalUtils/Platform/Desktop/ZEVApplicationActivity_p.h>
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFindPasteboard_p.h>
@@ -78,7 +78,7 @@ ZEVTextFinderUserInterfaceVC::ZEVTextFinderUserInterfaceVC(QObject *parent)
 ZEVTextFinderUserInterfaceVC::ZEVTextFinderUserInterfaceVC(const QString &nibName, QObject *parent)
     : ZEVPatternTokens(defaultPatternItems(), parent)
     , m_nibName(nibName)
-    , m_controls(std::make_unique<FindControls>())
+    , m_controls(std::make_unique<ZEVFindControls>())
     , m_replacePatternItems(defaultReplacePatternItems())
 {
     connect(this, &ZEVTextFinderUserInterfaceVC::queryChanged, this,
@@ -117,11 +117,11 @@ bool ZEVTextFinderUserInterfaceVC::isShown() const { return m_view && m_view->is
 
 void ZEVTextFinderUserInterfaceVC::loadView()
 {
-    m_view = m_nibName.isEmpty() ? InterfaceLoader::loadForClass(metaObject())
-                                 : InterfaceLoader::loadNamed(m_nibName);
+    m_view = m_nibName.isEmpty() ? ZEVInterfaceLoader::loadForClass(metaObject())
+                                 : ZEVInterfaceLoader::loadNamed(m_nibName);
     if (!m_view)
         m_view = new QWidget; // a controller without a file has nothing to show
-    *m_controls = FindControls(m_view);
+    *m_controls = ZEVFindControls(m_view);
     viewDidLoad();
 }
 

@@ -15,7 +15,7 @@
 #include <memory>
 
 class QComboBox;
-struct FindControls;
+struct ZEVFindControls;
 
 /// The controller behind a find interface: its two pattern fields, the pop-up of matching types and the query
 /// that is edited with them. Its view is loaded when it is first asked for, from an interface file named
@@ -127,7 +127,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void timerEvent(QTimerEvent *event) override;
 
-    const FindControls &controls() const { return *m_controls; }
+    const ZEVFindControls &controls() const { return *m_controls; }
     bool isShown() const;
     void performAction(qint64 action);
     /// Ends a search that takes so long that the user has been told. False when there is none.
@@ -153,7 +153,7 @@ private:
     QString m_nibName;
     QPointer<QWidget> m_view;
     ZEVWeakRef<ZEVTextFinderUserInterfaceDelegate> m_delegate;
-    std::unique_ptr<FindControls> m_controls;
+    std::unique_ptr<ZEVFindControls> m_controls;
     ZEVFindPanelQuery m_query; ///< without its pattern, where there is a field to hold that
     std::optional<ZEVFindPanelQuery> m_lastQuery;
     QMetaObject::Connection m_scopeTitle;

@@ -4,7 +4,7 @@
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderUserInterfaceVC.h>
 
 #include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVMatchColors.h>
-#include <ZEVGlobalUtils/FindPanel/FindInterfaces/FindControls_p.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFindControls_p.h>
 #include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenField.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuBuilder.h>
 #include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedImages_p.h>

@@ -4,8 +4,8 @@
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderViewController.h>
 
 #include <ZEVGlobalUtils/FindEngine/ZEVFindActionNumber.h>
-#include <ZEVGlobalUtils/FindPanel/FindInterfaces/FindBarLayout_p.h>
-#include <ZEVGlobalUtils/FindPanel/FindInterfaces/FindControls_p.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFindBarLayout_p.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFindControls_p.h>
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderBorderlessPopUpButton.h>
 #include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenField.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuBuilder.h>
@@ -53,7 +53,7 @@ void ZEVTextFinderViewController::viewDidLoad()
     ZEVTextFinderUserInterfaceVC::viewDidLoad();
     setUpFindMenu();
     setUpModes();
-    m_layout = std::make_unique<FindBarLayout>(view(), controls());
+    m_layout = std::make_unique<ZEVFindBarLayout>(view(), controls());
     setShowReplace(false);
     if (QAbstractButton *done = controls().doneButton)
         connect(done, &QAbstractButton::clicked, this, [this] { donePressed(); });

@@ -5,7 +5,7 @@
 
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderUserInterfaceVC.h>
 
-class FindBarLayout;
+class ZEVFindBarLayout;
 class QAction;
 
 /// The find bar: searches as the user types, while it is shown, and sends its buttons' actions to its delegate.
@@ -64,7 +64,7 @@ private:
     QMenu *modeMenu() const;
 
     QAction *m_modeSelectorItem;
-    std::unique_ptr<FindBarLayout> m_layout;
+    std::unique_ptr<ZEVFindBarLayout> m_layout;
     bool m_showReplace = false;
     bool m_wrapAround = true;
 };

@@ -4,7 +4,7 @@
 #include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVItemModelFinderClient.h>
 
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
-#include <ZEVGlobalUtils/FindPanel/FinderClients/ItemModelText_p.h>
+#include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVItemModelText_p.h>
 
 #include <QAbstractItemView>
 
@@ -59,7 +59,7 @@ ZEVItemModelFinderClient::ZEVItemModelFinderClient(QAbstractItemModel *model, QA
     , m_model(model)
     , m_view(view)
     , m_finder(finder)
-    , m_text(std::make_unique<ItemModelText>(*model))
+    , m_text(std::make_unique<ZEVItemModelText>(*model))
 {
     finder->setClient(this);
     connect(finder, &ZEVTextFinder::searchPerformed, this, &ZEVItemModelFinderClient::noteSearch);

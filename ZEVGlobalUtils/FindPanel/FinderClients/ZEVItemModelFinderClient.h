@@ -13,7 +13,7 @@
 #include <functional>
 #include <memory>
 
-class ItemModelText;
+class ZEVItemModelText;
 class QAbstractItemView;
 class ZEVTextFinder;
 
@@ -93,7 +93,7 @@ private:
     QPointer<QAbstractItemModel> m_model;
     QPointer<QAbstractItemView> m_view;
     QPointer<ZEVTextFinder> m_finder;
-    std::unique_ptr<ItemModelText> m_text;
+    std::unique_ptr<ZEVItemModelText> m_text;
     Writer m_writer;
     quint64 m_changeStamp = 1;
     quint64 m_searchedStamp = 0; ///< of the text that the matches hold for

@@ -4,7 +4,7 @@
 #include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVMenuFilterViewController.h>
 
 #include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVMenuFilterDelegate.h>
-#include <ZEVGlobalUtils/Menus/Items/MenuKeeper_p.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuKeeper_p.h>
 
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -41,11 +41,11 @@ void ZEVMenuFilterViewController::watchKeysOfMenu()
     if (m_keptMenu == menu())
         return;
     if (m_keptMenu)
-        MenuKeeper::keeperOfMenu(m_keptMenu)->setKeyFilter({});
+        ZEVMenuKeeper::keeperOfMenu(m_keptMenu)->setKeyFilter({});
     m_keptMenu = menu();
     const QPointer guard(this);
     if (m_keptMenu)
-        MenuKeeper::keeperOfMenu(m_keptMenu)->setKeyFilter([guard](QKeyEvent *event) {
+        ZEVMenuKeeper::keeperOfMenu(m_keptMenu)->setKeyFilter([guard](QKeyEvent *event) {
             return guard && guard->menu() == guard->m_keptMenu && guard->keyInMenu(event);
         });
 }
@@ -74,7 +74,7 @@ bool ZEVMenuFilterViewController::leaveField(QKeyEvent *event)
     const std::optional<bool> hasItems = m_delegate ? m_delegate->hasFilteredItems(this) : std::nullopt;
     if (guard && hasItems.value_or(false) && holder) {
         holder->setActiveAction(m_filterMenuItem);
-        MenuKeeper::keeperOfMenu(holder)->passKeyOn(event);
+        ZEVMenuKeeper::keeperOfMenu(holder)->passKeyOn(event);
     }
     return hasItems.has_value();
 }

@@ -4,9 +4,9 @@
 #include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVMenuFilterViewController.h>
 
 #include <ZEVGlobalUtils/FindEngine/ZEVStringFilterRegexValue.h>
-#include <ZEVGlobalUtils/FindPanel/MenuFilter/MenuTitleFilter_p.h>
 #include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVMenuFilterClient.h>
 #include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVMenuFilterView.h>
+#include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVMenuTitleFilter_p.h>
 #include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVMoreButtonCell.h>
 #include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedImages_p.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpressionMatcher.h>
@@ -74,7 +74,7 @@ ZEVMenuFilterViewController::ZEVMenuFilterViewController(ZEVControlSize controlS
     , m_searchField(new FilterField)
     , m_filterMenuItem(new QWidgetAction(this))
     , m_moreMenuItem(new QWidgetAction(this))
-    , m_titles(std::make_unique<MenuTitleFilter>())
+    , m_titles(std::make_unique<ZEVMenuTitleFilter>())
 {
     makeFilterItem();
     makeMoreItem(controlSize);
@@ -179,7 +179,7 @@ QList<QAction *> ZEVMenuFilterViewController::filteredItems(const QList<QAction 
 QList<QAction *> ZEVMenuFilterViewController::filteredItems(const QList<QAction *> &items,
                                                             const QString &forSearchString) const
 {
-    if (MenuTitleFilter::isOneLine(forSearchString))
+    if (ZEVMenuTitleFilter::isOneLine(forSearchString))
         return m_titles->itemsWithWords(items, forSearchString);
     return filteredItems(items, forSearchString,
                          ZEVStringFilterRegexValue::filterRegexValue(forSearchString));
@@ -192,10 +192,10 @@ ZEVMenuFilterViewController::filteredItems(const QList<QAction *> &items, const 
     if (forSearchString.isEmpty())
         return items;
     if (!regex)
-        return MenuTitleFilter::itemsPassing(
+        return ZEVMenuTitleFilter::itemsPassing(
             items, [&](const QString &title) { return beginsWithString(title, forSearchString); });
     ZEVRegularExpressionMatcher matcher(*regex);
-    return MenuTitleFilter::itemsPassing(items, [&](const QString &title) {
+    return ZEVMenuTitleFilter::itemsPassing(items, [&](const QString &title) {
         matcher.setText(title);
         return matcher.findNext().has_value();
     });

@@ -12,7 +12,7 @@
 
 #include <memory>
 
-class MenuTitleFilter;
+class ZEVMenuTitleFilter;
 class QAction;
 class QKeyEvent;
 class QLineEdit;
@@ -103,7 +103,7 @@ private:
     ZEVMenuFilterDelegate *m_delegate = nullptr;
     QString m_regexNeedle; ///< the last one that was not empty
     mutable std::optional<ZEVRegularExpression> m_regex;
-    std::unique_ptr<MenuTitleFilter> m_titles;
+    std::unique_ptr<ZEVMenuTitleFilter> m_titles;
     bool m_hasNeedle = false;
     bool m_autofocus = false;
 };

@@ -4,7 +4,7 @@
 #include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenField.h>
 
 #include <ZEVGlobalUtils/FindEngine/ZEVPattern_p.h>
-#include <ZEVGlobalUtils/FindPanel/PatternFields/PatternConversion_p.h>
+#include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVPatternConversion_p.h>
 #include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVTokenFieldCell.h>
 #include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenTextStorage.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVUserDefaults.h>
@@ -20,9 +20,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-PatternConversion::Fidelity fidelity(bool lossless)
+ZEVPatternConversion::Fidelity fidelity(bool lossless)
 {
-    return lossless ? PatternConversion::Fidelity::Lossless : PatternConversion::Fidelity::AsDescribed;
+    return lossless ? ZEVPatternConversion::Fidelity::Lossless : ZEVPatternConversion::Fidelity::AsDescribed;
 }
 
 /// The key for inserting a token: Ctrl with whatever key types a plus, on its shift level too, or with the key
@@ -118,14 +118,14 @@ void ZEVTokenField::setPatternStringValue(const QString &patternString)
 
 QString ZEVTokenField::patternStringForConversionPattern(const QVariantList &pattern) const
 {
-    return PatternConversion::patternString(pattern, [this](const QVariant &object) {
+    return ZEVPatternConversion::patternString(pattern, [this](const QVariant &object) {
         return delegate() ? delegate()->editingStringForRepresentedObject(this, object) : std::nullopt;
     });
 }
 
 QVariantList ZEVTokenField::conversionPatternForPatternString(const QString &patternString) const
 {
-    return PatternConversion::pattern(
+    return ZEVPatternConversion::pattern(
         patternString, [this](const QString &text) { return objectForEditingString(text); },
         fidelity(m_lossless));
 }
@@ -147,9 +147,9 @@ bool ZEVTokenField::isSameObject(const QVariant &one, const QVariant &other) con
 QVariantList ZEVTokenField::objectsForPastedText(const QString &text) const
 {
     const QString line = OEXTokenTextStorage::singleLine(text);
-    const QVariantList pattern = PatternConversion::pattern(
+    const QVariantList pattern = ZEVPatternConversion::pattern(
         line, [this](const QString &editingString) { return objectForEditingString(editingString); },
-        PatternConversion::Fidelity::Lossless);
+        ZEVPatternConversion::Fidelity::Lossless);
     return hasToken(pattern) ? pattern : QVariantList{line};
 }
 
@@ -178,7 +178,7 @@ void ZEVTokenField::insertToken(const QVariant &token)
     if (!isBeingEdited())
         setFocus();
     const ZEVRange selection = selectedRange();
-    const auto edited = PatternConversion::insertedToken(
+    const auto edited = ZEVPatternConversion::insertedToken(
         token, objectValue(), selection.location, selection.length,
         [this](const QString &text) { return objectForEditingString(text); }, fidelity(m_lossless));
     replaceValue(edited.objects, ZEVValueStep::User);

@@ -5,11 +5,11 @@
 
 #include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenFieldCell.h>
 #include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenTextStorage.h>
-#include <ZEVGlobalUtils/FindPanel/TokenFields/OneLineLayout_p.h>
-#include <ZEVGlobalUtils/FindPanel/TokenFields/ShownTokenText_p.h>
-#include <ZEVGlobalUtils/FindPanel/TokenFields/TokenAnswers_p.h>
-#include <ZEVGlobalUtils/FindPanel/TokenFields/TokenFieldAccessible_p.h>
-#include <ZEVGlobalUtils/FindPanel/TokenFields/TokenTextObject_p.h>
+#include <ZEVGlobalUtils/FindPanel/TokenFields/ZEVOneLineLayout_p.h>
+#include <ZEVGlobalUtils/FindPanel/TokenFields/ZEVShownTokenText_p.h>
+#include <ZEVGlobalUtils/FindPanel/TokenFields/ZEVTokenAnswers_p.h>
+#include <ZEVGlobalUtils/FindPanel/TokenFields/ZEVTokenFieldAccessible_p.h>
+#include <ZEVGlobalUtils/FindPanel/TokenFields/ZEVTokenTextObject_p.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVTextAttachment.h>
 
 #include <QAbstractTextDocumentLayout>
@@ -60,10 +60,10 @@ OEXTokenField::OEXTokenField(std::unique_ptr<OEXTokenFieldCell> cell, QWidget *p
     : QTextEdit(parent)
     , m_cell(std::move(cell))
 {
-    TokenFieldAccessible::install();
+    ZEVTokenFieldAccessible::install();
     setUp();
     m_cell->setControlView(this);
-    m_cell->setDelegate(new TokenAnswers(this));
+    m_cell->setDelegate(new ZEVTokenAnswers(this));
     setUpText();
     updateFonts();
 }
@@ -100,7 +100,7 @@ void OEXTokenField::setUpText()
     text->setDefaultFont(font());
     text->setDocumentMargin(TextMargin);
     text->clearUndoRedoStacks();
-    text->documentLayout()->registerHandler(ZEVTextAttachments::ObjectType, new TokenTextObject(this));
+    text->documentLayout()->registerHandler(ZEVTextAttachments::ObjectType, new ZEVTokenTextObject(this));
     m_report.setSingleShot(true);
     connect(text, &QTextDocument::contentsChanged, &m_report, qOverload<>(&QTimer::start));
     connect(&m_report, &QTimer::timeout, this, &OEXTokenField::reportValue);
@@ -160,7 +160,7 @@ void OEXTokenField::reportValue()
 /// The same value, but the delegate may say something else about its tokens now.
 void OEXTokenField::rebuildText() { replaceValue(objectValue(), ZEVValueStep::Program); }
 
-QString OEXTokenField::stringValue() const { return ShownTokenText(*textStorage()).string(); }
+QString OEXTokenField::stringValue() const { return ZEVShownTokenText(*textStorage()).string(); }
 
 bool OEXTokenField::isBezeled() const { return m_cell->isBezeled(); }
 
@@ -238,7 +238,7 @@ void OEXTokenField::layOutEditor()
 
 void OEXTokenField::fitLayout()
 {
-    if (OneLineLayout *layout = oneLineLayout())
+    if (ZEVOneLineLayout *layout = oneLineLayout())
         layout->setAvailableWidth(viewport()->width());
 }
 
@@ -277,9 +277,9 @@ bool OEXTokenField::viewportEvent(QEvent *event)
     return isDone;
 }
 
-OneLineLayout *OEXTokenField::oneLineLayout() const
+ZEVOneLineLayout *OEXTokenField::oneLineLayout() const
 {
-    return qobject_cast<OneLineLayout *>(document()->documentLayout());
+    return qobject_cast<ZEVOneLineLayout *>(document()->documentLayout());
 }
 
 /// What lies under the viewport's upper left corner. From right to left a scroll bar counts from the other end.

@@ -13,7 +13,7 @@
 
 class OEXTokenFieldCell;
 class OEXTokenTextStorage;
-class OneLineLayout;
+class ZEVOneLineLayout;
 
 /// Whose step a change of a field's value is. The user's can be undone; with the program's, undo begins anew.
 enum class ZEVValueStep {
@@ -122,7 +122,7 @@ private:
     bool isSameValue(const QVariantList &one, const QVariantList &other) const;
     void layOutEditor();
     void fitLayout();
-    OneLineLayout *oneLineLayout() const;
+    ZEVOneLineLayout *oneLineLayout() const;
     void updateFonts();
     void insertObjects(const QVariantList &objects);
     bool doCommand(ZEVTextCommand command);

@@ -5,8 +5,8 @@
 
 #include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenFieldCell.h>
 #include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenTextStorage.h>
-#include <ZEVGlobalUtils/FindPanel/TokenFields/OneLineLayout_p.h>
-#include <ZEVGlobalUtils/FindPanel/TokenFields/TokenMimeData_p.h>
+#include <ZEVGlobalUtils/FindPanel/TokenFields/ZEVOneLineLayout_p.h>
+#include <ZEVGlobalUtils/FindPanel/TokenFields/ZEVTokenMimeData_p.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVTextAttachment.h>
 
 #include <QClipboard>
@@ -229,14 +229,14 @@ void OEXTokenField::wheelEvent(QWheelEvent *event)
 
 bool OEXTokenField::canInsertFromMimeData(const QMimeData *source) const
 {
-    return TokenMimeData::canBeRead(source) || source->hasText();
+    return ZEVTokenMimeData::canBeRead(source) || source->hasText();
 }
 
 void OEXTokenField::insertFromMimeData(const QMimeData *source)
 {
     if (isReadOnly())
         return;
-    const std::optional<QVariantList> objects = TokenMimeData::objects(source, this);
+    const std::optional<QVariantList> objects = ZEVTokenMimeData::objects(source, this);
     if (objects || source->hasText())
         insertObjects(objects ? *objects : objectsForPastedText(source->text()));
 }
@@ -250,7 +250,7 @@ QMimeData *OEXTokenField::createMimeDataFromSelection() const
 {
     const QVariantList objects =
         OEXTokenFieldCell::objectsForAttributedString(textStorage()->attributedSubstring(selectedRange()));
-    auto *tokens = new TokenMimeData(objects);
+    auto *tokens = new ZEVTokenMimeData(objects);
     if (!m_delegate || !m_delegate->writeRepresentedObjects(this, objects, tokens))
         tokens->setText(textFormOfObjects(objects));
     return tokens;

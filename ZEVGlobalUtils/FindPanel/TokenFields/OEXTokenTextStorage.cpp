@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenTextStorage.h>
 
-#include <ZEVGlobalUtils/FindPanel/TokenFields/OneLineLayout_p.h>
+#include <ZEVGlobalUtils/FindPanel/TokenFields/ZEVOneLineLayout_p.h>
 
 #include <QTextBlock>
 #include <QTextCursor>
@@ -91,7 +91,7 @@ void OEXTokenTextStorageDelegate::updateTokenAttachment(OEXTokenTextStorage *, Z
 OEXTokenTextStorage::OEXTokenTextStorage(QObject *parent)
     : QTextDocument(parent)
 {
-    setDocumentLayout(new OneLineLayout(this));
+    setDocumentLayout(new ZEVOneLineLayout(this));
     // Whatever way a line break came in (an input method may commit one), the field has one line, and has it
     // before anybody else looks.
     connect(this, &QTextDocument::contentsChanged, this, &OEXTokenTextStorage::joinBlocks);

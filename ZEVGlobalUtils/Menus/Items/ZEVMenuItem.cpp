@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
 
-#include <ZEVGlobalUtils/Menus/Items/MenuKeeper_p.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuKeeper_p.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuTitleDrawing_p.h>
 
 #include <QAction>
@@ -67,7 +67,7 @@ void setTitles(QAction *item, Titles titles)
     for (QObject *object : item->associatedObjects()) {
         auto *menu = qobject_cast<QMenu *>(object);
         if (menu && titles.attributedTitle)
-            MenuKeeper::keeperOfMenu(menu);
+            ZEVMenuKeeper::keeperOfMenu(menu);
         if (auto *widget = qobject_cast<QWidget *>(object))
             widget->update(); // the same text may have other colours
     }

@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItemScroller.h>
 
-#include <ZEVGlobalUtils/Menus/Items/MenuKeeper_p.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuKeeper_p.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuTitleDrawing_p.h>
 
 #include <QAction>
@@ -81,7 +81,7 @@ private:
 
 ZEVMenuItemScroller *ZEVMenuItemScroller::scrollerOfMenu(QMenu *menu)
 {
-    return MenuKeeper::keeperOfMenu(menu)->scroller();
+    return ZEVMenuKeeper::keeperOfMenu(menu)->scroller();
 }
 
 ZEVMenuItemScroller::ZEVMenuItemScroller(QMenu *menu)

@@ -36,7 +36,7 @@ public:
     qsizetype firstInView() const { return m_first; }
 
 private:
-    friend class MenuKeeper;
+    friend class ZEVMenuKeeper;
     explicit ZEVMenuItemScroller(QMenu *menu);
 
     bool moveByKey(int key);

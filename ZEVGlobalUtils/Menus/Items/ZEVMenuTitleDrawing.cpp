@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuTitleDrawing_p.h>
 
-#include <ZEVGlobalUtils/Menus/Items/MenuKeeper_p.h>
+#include <ZEVGlobalUtils/Menus/Items/ZEVMenuKeeper_p.h>
 
 #include <QActionEvent>
 #include <QApplication>
@@ -106,7 +106,7 @@ public:
     {
         auto *menu = event->type() == QEvent::ActionAdded ? qobject_cast<QMenu *>(watched) : nullptr;
         if (menu && shownTitle(static_cast<QActionEvent *>(event)->action()))
-            MenuKeeper::keeperOfMenu(menu);
+            ZEVMenuKeeper::keeperOfMenu(menu);
         return false;
     }
 };
