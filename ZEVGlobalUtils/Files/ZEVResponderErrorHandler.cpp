@@ -4,11 +4,11 @@
 #include <ZEVGlobalUtils/Files/ZEVResponderErrorHandler.h>
 
 #include <ZEVGlobalUtils/Files/ZEVErrorSolver_p.h>
+#include <ZEVGlobalUtils/Files/ZEVProgress.h>
 #include <ZEVGlobalUtils/Platform/Desktop/ZEVWorkspace_p.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileErrors.h>
 #include <ZEVGlobalUtils/Platform/Questions/ZEVAlert.h>
 #include <ZEVGlobalUtils/Platform/Questions/ZEVErrorPresentation.h>
-#include <ZEVGlobalUtils/Platform/Questions/ZEVProgress.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 
 #include <QWidget>

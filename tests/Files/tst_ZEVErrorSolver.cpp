@@ -6,13 +6,13 @@
 
 #include <ZEVGlobalUtils/Files/ZEVDataBookmarkAdditions.h>
 #include <ZEVGlobalUtils/Files/ZEVOpenPanelSandbox.h>
+#include <ZEVGlobalUtils/Files/ZEVProgress.h>
 #include <ZEVGlobalUtils/Files/ZEVResponderErrorHandler.h>
 #include <ZEVGlobalUtils/Files/ZEVURLBookmarkAdditions.h>
 #include <ZEVGlobalUtils/Files/ZEVURLFileAccess.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileReference.h>
 #include <ZEVGlobalUtils/Platform/Questions/ZEVAlert.h>
 #include <ZEVGlobalUtils/Platform/Questions/ZEVOpenPanel.h>
-#include <ZEVGlobalUtils/Platform/Questions/ZEVProgress.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVUserDefaults.h>
 
 #include <QSettings>

@@ -109,6 +109,15 @@ private Q_SLOTS:
         }
     }
 
+    /// The names without the prefix are those that hosts look formatters up by.
+    void filesCarryThePrefix()
+    {
+        static const QRegularExpression name(
+            u"^(ZEV|OEX)|^(ByteSize|FileSize|Resolution|TagSize)Transformer\\.|^NS"_s);
+        for (const QString &path : sources(u"/ZEVGlobalUtils"_s))
+            QVERIFY2(path.section(u'/', -1).contains(name), qPrintable(path));
+    }
+
     /// Who opens a room is to see what it is for: a larger one has rooms in it.
     void noRoomIsCrowded()
     {

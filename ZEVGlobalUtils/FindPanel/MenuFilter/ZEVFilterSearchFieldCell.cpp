@@ -6,8 +6,8 @@
 #include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVFilterSearchFieldButtonCell.h>
 #include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedColors_p.h>
 #include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedImages_p.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVPlatformVersion_p.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
-#include <ZEVGlobalUtils/Platform/Values/ZEVPlatformVersion.h>
 
 #include <QFontDatabase>
 #include <QGuiApplication>

@@ -3,14 +3,16 @@
 
 #pragma once
 
+#include <ZEVGlobalUtils/Export.h>
+
 #include <optional>
 
 class ZEVMenuFilterViewController;
 
 /// What is told of a filter in a menu. All operations are optional.
-class ZEVMenuFilterDelegate {
+class ZEV_EXPORT ZEVMenuFilterDelegate {
 public:
-    virtual ~ZEVMenuFilterDelegate() = default;
+    virtual ~ZEVMenuFilterDelegate();
 
     /// What is typed has changed or was cleared.
     virtual void filterDidChange(ZEVMenuFilterViewController *) { }

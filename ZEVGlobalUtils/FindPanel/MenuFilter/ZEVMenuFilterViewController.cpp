@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
+#include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVMenuFilterDelegate.h>
 #include <ZEVGlobalUtils/FindPanel/MenuFilter/ZEVMenuFilterViewController.h>
 
 #include <ZEVGlobalUtils/FindEngine/ZEVStringFilterRegexValue.h>
@@ -68,6 +69,8 @@ bool beginsWithString(const QString &title, const QString &string)
 }
 
 } // namespace
+
+ZEVMenuFilterDelegate::~ZEVMenuFilterDelegate() = default;
 
 ZEVMenuFilterViewController::ZEVMenuFilterViewController(ZEVControlSize controlSize, QObject *parent)
     : QObject(parent)

@@ -42,6 +42,8 @@ QList<QUrl> orderedByName(QList<QUrl> urls)
 
 } // namespace
 
+ZEVURLPopUpButtonDelegate::~ZEVURLPopUpButtonDelegate() = default;
+
 ZEVURLPopUpButton::ZEVURLPopUpButton(QWidget *parent)
     : QPushButton(parent)
     , m_recents(std::make_unique<ZEVRecentURLs>())

@@ -3,14 +3,16 @@
 
 #pragma once
 
+#include <ZEVGlobalUtils/Export.h>
+
 class QUrl;
 class ZEVOpenPanel;
 class ZEVURLPopUpButton;
 
 /// Both operations are optional.
-class ZEVURLPopUpButtonDelegate {
+class ZEV_EXPORT ZEVURLPopUpButtonDelegate {
 public:
-    virtual ~ZEVURLPopUpButtonDelegate() = default;
+    virtual ~ZEVURLPopUpButtonDelegate();
 
     /// The user has chosen; an invalid URL for "None".
     virtual void didSelectURL(ZEVURLPopUpButton *, const QUrl &) { }

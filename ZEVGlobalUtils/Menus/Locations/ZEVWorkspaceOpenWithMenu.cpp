@@ -7,12 +7,12 @@
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItemRemoveAllFollowing.h>
 #include <ZEVGlobalUtils/Menus/Locations/ZEVApplicationChooser_p.h>
 #include <ZEVGlobalUtils/Platform/Desktop/ZEVApplications_p.h>
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVPlatformVersion_p.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVLocalizedStandardCompare_p.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVError.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVLog_p.h>
-#include <ZEVGlobalUtils/Platform/Values/ZEVPlatformVersion.h>
 
 #include <QFileInfo>
 #include <QMenu>

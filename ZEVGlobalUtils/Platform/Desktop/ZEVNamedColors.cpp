@@ -3,6 +3,8 @@
 
 #include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedColors_p.h>
 
+#include <ZEVGlobalUtils/Platform/Desktop/ZEVAppearanceHelpers.h>
+
 #include <QColor>
 #include <QHash>
 #include <QPalette>
@@ -33,11 +35,6 @@ const QHash<QStringView, Variants> &table()
     return colors;
 }
 
-bool isDark(const QPalette &palette)
-{
-    return palette.color(QPalette::Window).lightnessF() < palette.color(QPalette::WindowText).lightnessF();
-}
-
 float blended(float from, float level) { return from * (1 - level) + level; }
 
 } // namespace
@@ -47,7 +44,7 @@ QColor ZEVNamedColors::colorNamed(QStringView name, const QPalette &palette)
     const auto found = table().constFind(name);
     if (found == table().cend())
         return {};
-    return isDark(palette) ? found->dark : found->light;
+    return ZEVAppearanceHelpers::isDark(palette) ? found->dark : found->light;
 }
 
 QColor ZEVNamedColors::highlightWithLevel(const QColor &color, float level)

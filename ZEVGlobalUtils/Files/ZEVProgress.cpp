@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/Platform/Questions/ZEVProgress.h>
+#include <ZEVGlobalUtils/Files/ZEVProgress.h>
 
 #include <utility>
 
