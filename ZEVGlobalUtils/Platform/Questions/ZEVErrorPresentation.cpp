@@ -52,7 +52,8 @@ bool ZEVErrorPresentation::presentError(const ZEVError &error)
 void ZEVErrorPresentation::presentErrorLater(const ZEVError &error)
 {
     if (QCoreApplication *const application = QCoreApplication::instance())
-        QMetaObject::invokeMethod(application, [error] { presentError(error); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            application, [error] { presentError(error); }, Qt::QueuedConnection);
 }
 
 ZEVErrorPresentation::Presenter ZEVErrorPresentation::setPresenter(Presenter presenter)
