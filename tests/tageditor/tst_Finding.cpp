@@ -261,6 +261,41 @@ private Q_SLOTS:
         QCOMPARE(shown.text(1, TrackField::Title), before);
     }
 
+    /// Where undo and redo of a field end, those of the window begin.
+    void anUntouchedFieldLeavesUndoToTheWindow()
+    {
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(Samples::folder() + u"/Harbour"_s));
+        const QList<TagField *> fields = shown.window.findChildren<TagField *>();
+        auto *comment = shown.window.findChild<QPlainTextEdit *>();
+        const auto press = [&](QWidget *field, Qt::KeyboardModifiers more = {}) {
+            field->setFocus();
+            QTest::keyClick(field, Qt::Key_Z, Qt::ControlModifier | more);
+        };
+        shown.select(0, TrackField::Title);
+        QTRY_COMPARE(fields.at(0)->stringValue(), u"Track 12"_s);
+        fields.at(0)->setFocus();
+        QTest::keyClicks(fields.at(0), u"x"_s);
+        const QString typed = fields.at(0)->stringValue();
+        press(fields.at(0)); // its own
+        QCOMPARE(fields.at(0)->stringValue(), u"Track 12"_s);
+        QTest::keyClick(fields.at(0), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(fields.at(0)->stringValue(), typed);
+        QTest::keyClick(fields.at(0), Qt::Key_Return);
+        QTRY_COMPARE(shown.text(0, TrackField::Title), typed);
+        shown.select(1, TrackField::Title, QItemSelectionModel::ClearAndSelect);
+        QTRY_COMPARE(fields.at(0)->stringValue(), shown.text(1, TrackField::Title));
+        press(fields.at(0));
+        QCOMPARE(shown.text(0, TrackField::Title), u"Track 12"_s);
+        press(comment, Qt::ShiftModifier);
+        QCOMPARE(shown.text(0, TrackField::Title), typed);
+        press(comment);
+        fields.at(1)->setFocus();
+        QTest::qWait(0);
+        QVERIFY(!shown.window.isWindowModified());
+        QVERIFY(comment->toPlainText().startsWith(u"lanterns"));
+    }
+
     void cellsAreEditedInPlace()
     {
         Shown shown;

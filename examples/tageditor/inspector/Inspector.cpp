@@ -5,6 +5,7 @@
 
 #include <tageditor/find/FindInterfaces.h>
 #include <tageditor/find/TagTokens.h>
+#include <tageditor/inspector/FieldUndo.h>
 #include <tageditor/inspector/TagField.h>
 #include <tageditor/text/TextEditing.h>
 #include <tageditor/tracks/TableSelection.h>
@@ -12,6 +13,7 @@
 
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFindPlace.h>
 #include <ZEVGlobalUtils/Transforms/Formatters/FileSizeTransformer.h>
+#include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenTextStorage.h>
 #include <ZEVGlobalUtils/Transforms/Formatters/ZEVShortDateFormatter.h>
 
 #include <QApplication>
@@ -70,12 +72,19 @@ void Inspector::layOut()
     label->setBuddy(m_comment);
     m_comment->setAccessibleName(TrackTableModel::titleForField(TrackField::Comment));
     m_comment->setTabChangesFocus(true);
+    m_comment->installEventFilter(this);
     rows->addLayout(form);
     rows->addWidget(label);
     rows->addWidget(m_commentFind, 1);
     m_files->setTextFormat(Qt::PlainText);
     m_files->setWordWrap(true);
     rows->addWidget(m_files);
+}
+
+bool Inspector::eventFilter(QObject *watched, QEvent *event)
+{
+    return (watched == m_comment && FieldUndo::passesOn(event, *m_comment->document()))
+        || QWidget::eventFilter(watched, event);
 }
 
 void Inspector::addFields(QFormLayout *form)
@@ -127,12 +136,14 @@ void Inspector::showField(Row &row)
     const QVariantList shown = text && !text->isEmpty() ? QVariantList{*text} : QVariantList();
     row.editor->setPlaceholderText(text ? QString() : tr("Mixed"));
     const bool isBeingTyped = row.editor->hasFocus() && row.editor->objectValue() != row.shown;
-    if (!isBeingTyped)
+    if (!isBeingTyped) {
         row.editor->setObjectValue(shown);
     row.shown = isBeingTyped ? shown : row.editor->objectValue();
 }
 
 void Inspector::showComment()
+        row.editor->textStorage()->clearUndoRedoStacks(); // also where the tracks before had the same text
+    }
 {
     const std::optional<QString> text = commonText(TrackField::Comment);
     m_comment->setPlaceholderText(text ? QString() : tr("Mixed"));
@@ -144,6 +155,8 @@ void Inspector::showComment()
 }
 
 void Inspector::showFiles()
+    if (!isBeingTyped)
+        m_comment->document()->clearUndoRedoStacks();
 {
     QVariantList sizes;
     qint64 modified = 0;

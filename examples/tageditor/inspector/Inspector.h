@@ -36,6 +36,9 @@ public:
 
     ZEVFindPlace &commentFind() { return *m_commentFind; }
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     struct Row {
         TrackField field;

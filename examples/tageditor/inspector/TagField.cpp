@@ -3,7 +3,10 @@
 
 #include <tageditor/inspector/TagField.h>
 
+#include <tageditor/inspector/FieldUndo.h>
+
 #include <ZEVGlobalUtils/FindPanel/PatternFields/ZEVPatternTokens.h>
+#include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenTextStorage.h>
 
 #include <QFocusEvent>
 #include <QMenu>
@@ -19,6 +22,11 @@ TagField::TagField(ZEVPatternTokens *tokens, QWidget *parent)
     connect(menu, &QMenu::aboutToShow, this,
             [this, menu, tokens] { ZEVPatternTokens::fillMenu(menu, this, tokens->groups()); });
     connect(this, &OEXTokenField::actionTriggered, this, &TagField::editingFinished);
+}
+
+bool TagField::event(QEvent *event)
+{
+    return FieldUndo::passesOn(event, *textStorage()) || ZEVTokenField::event(event);
 }
 
 /// A menu only borrows the focus.

@@ -20,5 +20,6 @@ Q_SIGNALS:
     void editingFinished();
 
 protected:
+    bool event(QEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
 };
