@@ -296,6 +296,27 @@ private Q_SLOTS:
         QVERIFY(comment->toPlainText().startsWith(u"lanterns"));
     }
 
+    void whatAnOpenCellHoldsIsSaved()
+    {
+        const Folder folder;
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(folder.path.path()));
+        QTableView &table = shown.window.table();
+        table.setCurrentIndex(shown.window.tracks().index(0, int(TrackField::Title)));
+        QTest::keyClick(&table, Qt::Key_F2);
+        QTest::keyClicks(table.findChild<QLineEdit *>(), u"typed"_s);
+        QTest::keyClick(table.findChild<QLineEdit *>(), Qt::Key_S, Qt::ControlModifier);
+        QTRY_COMPARE(folder.written(u"a.mp3"_s, TrackField::Title), u"typed"_s);
+        QTest::keyClick(&table, Qt::Key_F2);
+        QTest::keyClicks(table.indexWidget(table.currentIndex()), u"lost?"_s);
+        int asked = 0;
+        shown.window.setDiscardQuestion([&] { return ++asked, false; });
+        QTest::keyClick(&shown.window, Qt::Key_F5);
+        QVERIFY(!shown.window.close());
+        QCOMPARE(asked, 2);
+        QCOMPARE(shown.text(0, TrackField::Title), u"lost?"_s);
+    }
+
     void cellsAreEditedInPlace()
     {
         Shown shown;

@@ -146,10 +146,23 @@ void MainWindow::watchTexts()
     connect(m_quickOpen, &QuickOpen::trackChosen, this, &MainWindow::selectTrack);
 }
 
-void MainWindow::openFolder(const QString &folder)
+/// What stands in an open editor is the user's, whatever ends it: a cell's is otherwise only taken over when
+/// the focus goes.
+void MainWindow::commitTyped()
 {
     m_inspector->commit();
     if (m_model.hasChanges() && !m_mayDiscard())
+    QWidget *editor = m_table->indexWidget(m_table->currentIndex());
+    if (!editor)
+        return;
+    QAbstractItemDelegate *delegate = m_table->itemDelegate();
+    Q_EMIT delegate->commitData(editor);
+    Q_EMIT delegate->closeEditor(editor);
+}
+
+void MainWindow::openFolder(const QString &folder)
+{
+    commitTyped();
         return;
     m_folder = QDir::cleanPath(QDir(folder).absolutePath());
     m_folders->setFolder(m_folder);
@@ -182,7 +195,7 @@ bool MainWindow::askToDiscard()
 
 bool MainWindow::save()
 {
-    m_inspector->commit();
+    commitTyped();
     return TrackSaving::save(&m_model, this);
 }
 
@@ -299,7 +312,7 @@ QString MainWindow::lastFolder()
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    m_inspector->commit();
+    commitTyped();
     if (m_model.hasChanges() && !m_mayDiscard()) {
         event->ignore();
         return;

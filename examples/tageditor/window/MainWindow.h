@@ -72,6 +72,7 @@ private:
     void watchReader();
     void watchTexts();
 
+    void commitTyped();
     void chooseFolder();
     bool askToDiscard();
     void selectTrack(int trackId);
