@@ -8,6 +8,8 @@
 #include <tageditor/inspector/Inspector.h>
 #include <tageditor/inspector/TagField.h>
 #include <tageditor/tracks/TagReader.h>
+#include <tageditor/tracks/TagValues.h>
+#include <tageditor/tracks/TagWriter.h>
 
 #include <QApplication>
 #include <QComboBox>
@@ -315,6 +317,45 @@ private Q_SLOTS:
         QVERIFY(!shown.window.close());
         QCOMPARE(asked, 2);
         QCOMPARE(shown.text(0, TrackField::Title), u"lost?"_s);
+    }
+
+    void valuesAreFoundReplacedAndEditedApart()
+    {
+        const Folder folder;
+        const QString values = TagValues::text({u"Rock"_s, u"Pop"_s, u"Pop Rock"_s});
+        QCOMPARE(
+            TagWriter::write(folder.path.filePath(u"a.mp3"_s).toStdString(), {{TrackField::Genre, values}}),
+            QString());
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(folder.path.path()));
+        QTableView &table = shown.window.table();
+        shown.find(u"^(Rock|Pop|Rock.Pop)$"_s, ZEVFindPanelQuery::RegularExpression);
+        QTRY_COMPARE(shown.count(), u"2 matches"_s);
+        QTest::keyClick(&shown.window, Qt::Key_H, Qt::ControlModifier);
+        QTest::keyClicks(shown.bar().replaceTokenField(), u"Indie"_s);
+        QTest::mouseClick(button(shown.bar().view(), u"Replace All"_s), Qt::LeftButton);
+        const auto genres = [&] { return TagValues::of(shown.text(0, TrackField::Genre)).join(u'|'); };
+        QCOMPARE(genres(), u"Indie|Indie|Pop Rock"_s);
+
+        table.setCurrentIndex(shown.window.tracks().index(0, int(TrackField::Genre)));
+        TagField *field = shown.window.findChildren<TagField *>().at(5);
+        QTRY_COMPARE(field->objectValue().size(), 5); // a token between two values
+        field->setFocus();
+        QTest::keyClick(field, Qt::Key_End);
+        insertToken(field->menu(), u"Next Value"_s);
+        QTest::keyClicks(field, u"Folk"_s);
+        QTest::keyClick(field, Qt::Key_Return);
+        QTRY_COMPARE(genres(), u"Indie|Indie|Pop Rock|Folk"_s);
+        table.setFocus();
+        QTest::keyClick(&table, Qt::Key_F2);
+        auto *editor = qobject_cast<QLineEdit *>(table.indexWidget(table.currentIndex()));
+        QVERIFY(editor);
+        QCOMPARE(editor->text(), u"Indie↵Indie↵Pop Rock↵Folk"_s);
+        editor->setText(u"Indie↵Soul"_s);
+        QTest::keyClick(editor, Qt::Key_Return);
+        QTRY_COMPARE(genres(), u"Indie|Soul"_s);
+        QVERIFY(shown.window.save());
+        QCOMPARE(folder.written(u"a.mp3"_s, TrackField::Genre), TagValues::text({u"Indie"_s, u"Soul"_s}));
     }
 
     void cellsAreEditedInPlace()

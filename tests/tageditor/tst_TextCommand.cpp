@@ -134,10 +134,9 @@ private Q_SLOTS:
         const auto row = [](const char *name, TrackField field, const QString &text,
                             const QStringList &taken) { QTest::newRow(name) << field << text << taken; };
         row("a number", TrackField::Year, u"2001"_s, {u"2001"_s});
-        row("as it will be read again", TrackField::Number, u" 07 "_s, {u"7"_s});
-        row("nothing known", TrackField::Year, u"0"_s, {});
-        row("none", TrackField::Number, u"7b"_s, {});
-        row("too large", TrackField::Year, u"10000"_s, {});
+        row("without the spaces around it", TrackField::Number, u" 07 "_s, {u"07"_s});
+        row("no plain number", TrackField::Number, u"A1"_s, {u"A1"_s});
+        row("a date", TrackField::Year, u"2003-05-17"_s, {u"2003-05-17"_s});
         row("a name", TrackField::FileName, u"new"_s, {});
         row("no difference", TrackField::Artist, u"duo"_s, {});
         row("a text", TrackField::Comment, u" 07 "_s, {u" 07 "_s});

@@ -4,6 +4,7 @@
 #include "Shown.h"
 
 #include <tageditor/text/TransformDialog.h>
+#include <tageditor/tracks/TagValues.h>
 
 #include <QComboBox>
 #include <QWindow>
@@ -134,6 +135,18 @@ private Q_SLOTS:
         QVERIFY(!shown.window.isWindowModified() && !shown.action(u"Undo"_s)->isEnabled());
         const Dialog again(shown, u"Title Case"_s); // what was cancelled is not remembered
         QCOMPARE(again.dialog->findChild<QLineEdit *>()->text(), QString());
+    }
+
+    void everyValueIsATextOfItsOwn()
+    {
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(Samples::folder() + u"/Maree"_s));
+        auto &tracks = const_cast<TrackTableModel &>(shown.window.tracks());
+        tracks.setTexts({{tracks.track(0).id, TrackField::Artist, TagValues::text({u"_a_b"_s, u" c"_s})}});
+        shown.select(0, TrackField::Artist);
+        const Dialog preview(shown, u"Trim Spaces"_s);
+        preview.press(Qt::Key_Return);
+        QTRY_COMPARE(shown.text(0, TrackField::Artist), TagValues::text({u"_a_b"_s, u"c"_s}));
     }
 
     void languageAndSpellingsAreRemembered()

@@ -5,6 +5,7 @@
 
 #include <tageditor/artwork/ArtworkCommand.h>
 #include <tageditor/artwork/ArtworkTag.h>
+#include <tageditor/tracks/TagValues.h>
 
 #include <ZEVGlobalUtils/Images/Artwork/ZEVImageDescription.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDashView.h>
@@ -148,7 +149,8 @@ void ArtworkDock::showArtwork()
     m_browse->setEnabled(isKnown);
     m_remove->setEnabled(state == SelectedArtwork::Same || state == SelectedArtwork::Mixed);
     const QList<Track> tracks = isKnown ? m_selected->tracks() : QList<Track>();
-    m_vetting.setExportName(tracks.isEmpty() ? QString() : tracks.first().text(TrackField::Album));
+    m_vetting.setExportName(tracks.isEmpty() ? QString()
+                                             : TagValues::joined(tracks.first().text(TrackField::Album)));
     m_description->setText(description());
     m_well->setAccessibleDescription(description());
 }

@@ -3,6 +3,8 @@
 
 #include <tageditor/files/FileNamePattern.h>
 
+#include <tageditor/tracks/TagValues.h>
+
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
@@ -24,7 +26,7 @@ QString twoDigits(const QString &number)
 
 QString valueOf(TrackField field, const Track &track)
 {
-    const QString text = track.text(field).simplified();
+    const QString text = TagValues::joined(track.text(field)).simplified();
     return field == TrackField::Number && !text.isEmpty() ? twoDigits(text) : text;
 }
 

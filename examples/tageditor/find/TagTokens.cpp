@@ -3,7 +3,10 @@
 
 #include <tageditor/find/TagTokens.h>
 
+#include <tageditor/tracks/TagValues.h>
 #include <tageditor/tracks/TrackTableModel.h>
+
+#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 
@@ -12,6 +15,8 @@ namespace {
 /// The names of the fields in patterns and archives, whatever the user's language.
 constexpr std::array<QStringView, TrackFieldCount> KeyPaths{u"file", u"title", u"artist", u"album",
                                                             u"year", u"track", u"genre",  u"comment"};
+
+constexpr QStringView NextValueKeyPath = u"value";
 
 ZEVPatternItem tokenOf(TrackField field)
 {
@@ -52,14 +57,45 @@ std::optional<TrackField> TagTokens::fieldOf(const ZEVPatternItem &item)
     return TrackField(keyPath - KeyPaths.begin());
 }
 
+ZEVPatternItem TagTokens::nextValue()
+{
+    ZEVPatternItem item = ZEVPatternItem::itemWithTitle(
+        QCoreApplication::translate("TagTokens", "Next Value"), QString(TagValues::ShownSeparator),
+        NextValueKeyPath.toString(), std::nullopt);
+    item.setMetadataKeyPath(NextValueKeyPath.toString());
+    return item;
+}
+
+QVariantList TagTokens::pattern(const QString &text)
+{
+    QVariantList pattern;
+    for (const QString &value : TagValues::of(text)) {
+        if (!pattern.isEmpty())
+            pattern.append(QVariant::fromValue(nextValue()));
+        pattern.append(value);
+    }
+    pattern.removeAll(QString());
+    return pattern;
+}
+
+/// Of "7/12" the 7: the number of all tracks belongs to no name.
+QString TagTokens::textOf(TrackField field, const Track &track)
+{
+    const QString text = TagValues::joined(track.text(field));
+    return field == TrackField::Number ? text.section(u'/', 0, 0) : text;
+}
+
+/// A tag that is taken over whole keeps its values.
 QString TagTokens::filledIn(const QVariantList &pattern, const Track &track)
 {
     QString text;
     for (const QVariant &part : pattern) {
         if (!part.canConvert<ZEVPatternItem>())
             text += part.toString();
-        else if (const auto field = fieldOf(part.value<ZEVPatternItem>()))
-            text += track.text(*field);
+        else if (const auto item = part.value<ZEVPatternItem>(); item == nextValue())
+            text += TagValues::Separator;
+        else if (const auto field = fieldOf(item))
+            text += pattern.size() == 1 ? track.text(*field) : textOf(*field, track);
     }
     return text;
 }

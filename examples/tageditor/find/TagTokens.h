@@ -21,6 +21,15 @@ ZEVPatternTokens::Groups replaceTokens();
 /// For the fields of a track.
 QList<ZEVPatternItem> fieldTokens();
 
+/// Stands between two values of a tag.
+ZEVPatternItem nextValue();
+
+/// What a field shows for \a text: its values, with a token between each two.
+QVariantList pattern(const QString &text);
+
+/// A tag as a part of another text.
+QString textOf(TrackField field, const Track &track);
+
 /// The texts of \a pattern, and for its tokens the texts of the fields.
 QString filledIn(const QVariantList &pattern, const Track &track);
 

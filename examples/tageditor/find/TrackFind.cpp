@@ -7,11 +7,12 @@
 #include <tageditor/find/FindPanelDialog.h>
 #include <tageditor/find/ReplaceDialog.h>
 #include <tageditor/find/TagTokens.h>
+#include <tageditor/find/TrackDelegate.h>
+#include <tageditor/find/TrackFinderClient.h>
 #include <tageditor/text/TextEditing.h>
 #include <tageditor/tracks/TrackTableModel.h>
 
 #include <ZEVGlobalUtils/FindEngine/ZEVOrvCaptureMatch.h>
-#include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVMatchHighlightDelegate.h>
 
 #include <QTableView>
 
@@ -19,13 +20,13 @@ TrackFind::TrackFind(TrackTableModel *model, QTableView *table, TextEditing *edi
     : ZEVFindPlace(static_cast<QWidget *>(table), std::make_unique<FindBar>())
     , m_model(model)
     , m_editing(editing)
-    , m_client(new ZEVItemModelFinderClient(model, table, &finder()))
+    , m_client(new TrackFinderClient(model, table, &finder()))
 {
     setKeysEnabled(false); // the window's menu has them
     m_client->setWriter([this](const auto &changes, const QString &name) { return write(changes, name); });
     actor().setPlaceholderValue(
         [this](const ZEVPatternItem &item, const ZEVRange &match) { return valueOf(item, match); });
-    table->setItemDelegate(new ZEVMatchHighlightDelegate(m_client, table));
+    table->setItemDelegate(new TrackDelegate(m_client, table));
     connect(m_client, &ZEVItemModelFinderClient::textChanged, &actor(), &ZEVTextFinderActor::searchAgainSoon);
     connect(&finder(), &ZEVTextFinder::searchBegins, this, &TrackFind::searchColumnsOfScope);
 }
@@ -68,7 +69,7 @@ std::optional<ZEVOrvCaptureMatch> TrackFind::valueOf(const ZEVPatternItem &item,
     const QModelIndex cell = m_client->cellOfRange(match);
     if (!field || !cell.isValid())
         return std::nullopt;
-    return ZEVOrvCaptureMatch{item, m_model->track(cell.row()).text(*field)};
+    return ZEVOrvCaptureMatch{item, TagTokens::textOf(*field, m_model->track(cell.row()))};
 }
 
 void TrackFind::showPanel()

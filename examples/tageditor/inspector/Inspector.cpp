@@ -9,11 +9,12 @@
 #include <tageditor/inspector/TagField.h>
 #include <tageditor/text/TextEditing.h>
 #include <tageditor/tracks/TableSelection.h>
+#include <tageditor/tracks/TagValues.h>
 #include <tageditor/tracks/TrackTableModel.h>
 
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVFindPlace.h>
-#include <ZEVGlobalUtils/Transforms/Formatters/FileSizeTransformer.h>
 #include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenTextStorage.h>
+#include <ZEVGlobalUtils/Transforms/Formatters/FileSizeTransformer.h>
 #include <ZEVGlobalUtils/Transforms/Formatters/ZEVShortDateFormatter.h>
 
 #include <QApplication>
@@ -30,6 +31,9 @@ constexpr TrackField LineFields[]{TrackField::Title, TrackField::Artist, TrackFi
 
 constexpr qint64 NanosecondsPerMillisecond = 1'000'000;
 
+/// A line between two values of a comment, which may have lines of its own.
+const QString ValueRule = QStringLiteral("\n⸻\n");
+
 } // namespace
 
 Inspector::Inspector(TrackTableModel *model, const QItemSelectionModel *selection, TextEditing *editing,
@@ -38,7 +42,7 @@ Inspector::Inspector(TrackTableModel *model, const QItemSelectionModel *selectio
     , m_model(model)
     , m_selection(selection)
     , m_editing(editing)
-    , m_tokens(new ZEVPatternTokens({TagTokens::fieldTokens()}, this))
+    , m_tokens(new ZEVPatternTokens({TagTokens::fieldTokens(), {TagTokens::nextValue()}}, this))
     , m_comment(new QPlainTextEdit)
     , m_commentFind(new ZEVFindPlace(m_comment, std::make_unique<FindBar>()))
     , m_files(new QLabel)
@@ -133,30 +137,30 @@ std::optional<QString> Inspector::commonText(TrackField field) const
 void Inspector::showField(Row &row)
 {
     const std::optional<QString> text = commonText(row.field);
-    const QVariantList shown = text && !text->isEmpty() ? QVariantList{*text} : QVariantList();
+    const QVariantList shown = TagTokens::pattern(text.value_or(QString()));
     row.editor->setPlaceholderText(text ? QString() : tr("Mixed"));
     const bool isBeingTyped = row.editor->hasFocus() && row.editor->objectValue() != row.shown;
     if (!isBeingTyped) {
         row.editor->setObjectValue(shown);
+        row.editor->textStorage()->clearUndoRedoStacks(); // also where the tracks before had the same text
+    }
     row.shown = isBeingTyped ? shown : row.editor->objectValue();
 }
 
 void Inspector::showComment()
-        row.editor->textStorage()->clearUndoRedoStacks(); // also where the tracks before had the same text
-    }
 {
     const std::optional<QString> text = commonText(TrackField::Comment);
     m_comment->setPlaceholderText(text ? QString() : tr("Mixed"));
     const bool isBeingTyped = m_commentFind->hasFocusWithin() && m_comment->toPlainText() != m_shownComment;
-    const QString shown = text.value_or(QString());
-    if (!isBeingTyped && m_comment->toPlainText() != shown) // else the editor's own undo is kept
+    const QString shown = text.value_or(QString()).replace(TagValues::Separator, ValueRule);
+    if (!isBeingTyped && m_comment->toPlainText() != shown) // else the cursor stays
         m_comment->setPlainText(shown);
+    if (!isBeingTyped)
+        m_comment->document()->clearUndoRedoStacks();
     m_shownComment = isBeingTyped ? shown : m_comment->toPlainText();
 }
 
 void Inspector::showFiles()
-    if (!isBeingTyped)
-        m_comment->document()->clearUndoRedoStacks();
 {
     QVariantList sizes;
     qint64 modified = 0;
@@ -195,7 +199,7 @@ void Inspector::commitComment()
     if (typed == m_shownComment)
         return;
     m_shownComment = typed;
-    change(TrackField::Comment, {typed});
+    change(TrackField::Comment, {QString(typed).replace(ValueRule, TagValues::Separator)});
 }
 
 void Inspector::change(TrackField field, const QVariantList &pattern)

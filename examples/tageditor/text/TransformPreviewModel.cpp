@@ -4,6 +4,7 @@
 #include <tageditor/text/TransformPreviewModel.h>
 
 #include <tageditor/text/TextDifference.h>
+#include <tageditor/tracks/TagValues.h>
 
 #include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVHighlightDelegate.h>
 
@@ -66,7 +67,10 @@ std::vector<TransformPreviewModel::Row> TransformPreviewModel::nextRows(qint64 m
     elapsed.start();
     for (; m_next < m_cells.size() && elapsed.elapsed() < milliseconds; ++m_next) {
         const QString &before = m_cells.at(m_next).text;
-        QString after = m_transform.apply(before, m_rules);
+        QStringList values = TagValues::of(before);
+        for (QString &value : values)
+            value = m_transform.apply(value, m_rules);
+        QString after = TagValues::text(values);
         if (after != before)
             rows.push_back({m_next, std::move(after)});
     }

@@ -3,9 +3,10 @@
 
 #include <tageditor/tracks/TagReader.h>
 
+#include <tageditor/tracks/TagFields.h>
+
 #include <fileref.h>
 #include <tag.h>
-#include <tpropertymap.h>
 
 #include <system_error>
 
@@ -16,18 +17,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString text(const TagLib::String &string) { return QString::fromStdString(string.to8Bit(true)); }
-
-/// Zero is how a tag says that it knows no number.
-QString text(unsigned number) { return number == 0 ? QString() : QString::number(number); }
-
-/// Some programs write an MP3's comment into a user-defined frame, which only the property map shows.
-QString comment(const TagLib::File &file)
-{
-    const QString comment = text(file.tag()->comment());
-    return comment.isEmpty() ? text(file.properties()["COMMENT"].toString("\n")) : comment;
-}
 
 bool hasAudio(const TagLib::File &file)
 {
@@ -80,13 +69,6 @@ QString TagReader::readTags(Track &track)
     const TagLib::File *file = reference.file();
     if (!file || !hasAudio(*file))
         return tr("No audio found: damaged or cut off");
-    const TagLib::Tag &tag = *file->tag();
-    track.text(TrackField::Title) = text(tag.title());
-    track.text(TrackField::Artist) = text(tag.artist());
-    track.text(TrackField::Album) = text(tag.album());
-    track.text(TrackField::Year) = text(tag.year());
-    track.text(TrackField::Number) = text(tag.track());
-    track.text(TrackField::Genre) = text(tag.genre());
-    track.text(TrackField::Comment) = comment(*file);
+    TagFields::read(*file, track);
     return {};
 }

@@ -4,7 +4,9 @@
 #include <tageditor/tracks/TagWriter.h>
 
 #include <tageditor/artwork/ArtworkTag.h>
+#include <tageditor/tracks/TagFields.h>
 #include <tageditor/tracks/TagReader.h>
+#include <tageditor/tracks/TagValues.h>
 
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVPlainFileManager.h>
@@ -14,59 +16,11 @@
 #include <id3v2tag.h>
 #include <mpegfile.h>
 #include <tag.h>
-#include <tpropertymap.h>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace {
-
-TagLib::String tagText(const QString &text) { return {text.toStdString(), TagLib::String::UTF8}; }
-
-/// Where a comment stands in a user-defined frame, a second one beside it would contradict it.
-void setComment(TagLib::File &file, const QString &text)
-{
-    TagLib::PropertyMap properties = file.properties();
-    if (!file.tag()->comment().isEmpty() || !properties.contains("COMMENT")) {
-        file.tag()->setComment(tagText(text));
-        return;
-    }
-    properties.replace("COMMENT", TagLib::StringList(tagText(text)));
-    file.setProperties(properties);
-}
-
-/// Of "7/12" the 12 stays.
-void setNumber(TagLib::File &file, const QString &text)
-{
-    TagLib::PropertyMap properties = file.properties();
-    const QString before = QString::fromStdString(properties["TRACKNUMBER"].toString().to8Bit(true));
-    const qsizetype total = before.indexOf(u'/');
-    if (total < 0 || text.isEmpty()) {
-        file.tag()->setTrack(text.toUInt());
-        return;
-    }
-    properties.replace("TRACKNUMBER", TagLib::StringList(tagText(text + before.sliced(total))));
-    file.setProperties(properties);
-}
-
-void setText(TagLib::File &file, TrackField field, const QString &text)
-{
-    switch (field) {
-    case TrackField::Title:
-        return file.tag()->setTitle(tagText(text));
-    case TrackField::Artist:
-        return file.tag()->setArtist(tagText(text));
-    case TrackField::Album:
-        return file.tag()->setAlbum(tagText(text));
-    case TrackField::Genre:
-        return file.tag()->setGenre(tagText(text));
-    case TrackField::Comment:
-        return setComment(file, text);
-    case TrackField::Year:
-        return file.tag()->setYear(text.toUInt());
-    case TrackField::Number:
-        return setNumber(file, text);
-    case TrackField::FileName:
-        return; // no text of a tag
-    }
-}
 
 /// An MP3 keeps the kinds of tags that it has, in the version that other programs have given them.
 bool save(TagLib::File &file)
@@ -87,6 +41,15 @@ bool save(TagLib::File &file)
 /// A folder for the new file, gone with everything that is still in it.
 class WorkFolder {
 public:
+/// Some tags have numbers where others have texts: there "07" is 7.
+bool isHeld(TrackField field, const QString &wanted, const QString &written)
+{
+    bool isNumber = false;
+    const uint number = wanted.toUInt(&isNumber);
+    const bool hasNumber = field == TrackField::Year || field == TrackField::Number;
+    return written == wanted || (hasNumber && isNumber && written == QString::number(number));
+}
+
     explicit WorkFolder(const QUrl &file, ZEVError *error)
         : m_url(ZEVPlainFileManager::defaultManager()->itemReplacementDirectory(file, error))
     {
@@ -139,7 +102,7 @@ QString TagWriter::writeInto(const std::filesystem::path &path, const Texts &tex
         if (!file || !file->isValid() || !file->tag())
             return tr("No audio found: damaged or cut off");
         for (auto text = texts.cbegin(); text != texts.cend(); ++text)
-            setText(*file, text.key(), text.value());
+            TagFields::write(*file, text.key(), TagValues::of(text.value()));
         if (artwork && !ArtworkTag::setArtwork(*file, *artwork))
             return tr("The tags of this file cannot hold artwork");
         if (!save(*file))
@@ -155,8 +118,8 @@ QString TagWriter::readBack(const std::filesystem::path &path, const Texts &text
     if (!written.isReadable())
         return written.error;
     for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
-        if (written.text(text.key()) != text.value())
-            return tr("The tags of this file cannot hold “%1”").arg(text.value());
+        if (!isHeld(text.key(), text.value(), written.text(text.key())))
+            return tr("The tags of this file cannot hold “%1”").arg(TagValues::joined(text.value()));
     }
     if (artwork && ArtworkTag::read(path) != *artwork)
         return tr("The tags of this file cannot hold the artwork");

@@ -22,7 +22,8 @@ inline size_t qHash(TrackField field, size_t seed = 0) { return ::qHash(int(fiel
 /// One audio file as it was read, and as its texts were changed since.
 struct Track {
     std::filesystem::path path; ///< the file system's own bytes, which need not be UTF-8
-    std::array<QString, TrackFieldCount> fields; ///< empty where the file says nothing
+    std::array<QString, TrackFieldCount>
+        fields; ///< empty where the file says nothing; see TagValues for several
     qint64 fileSize = 0; ///< bytes
     std::optional<FileStamp> stamp; ///< of the file as it was read; nil where there was none
     QString error; ///< why the tags could not be read; empty when they were

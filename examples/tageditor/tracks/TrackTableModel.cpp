@@ -4,6 +4,7 @@
 #include <tageditor/tracks/TrackTableModel.h>
 
 #include <tageditor/tracks/NaturalOrder.h>
+#include <tageditor/tracks/TagValues.h>
 
 #include <QFont>
 #include <QTextDocument>
@@ -13,9 +14,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Years and track numbers are written with four digits at most.
-constexpr uint LargestNumber = 9999;
 
 /// The reason stands where the title would be.
 QString shownText(const Track &track, TrackField field)
@@ -34,20 +32,14 @@ QString toolTip(const Track &track, TrackField field)
 /// Tool tips guess at rich text, and what stands in a file's name or tags must never be taken for that.
 QString plainToolTip(const QString &text)
 {
-    return text.isEmpty() ? QString() : Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal);
+    const QString lines = QString(text).replace(TagValues::Separator, u'\n');
+    return text.isEmpty() ? QString() : Qt::convertFromPlainText(lines, Qt::WhiteSpaceNormal);
 }
 
 bool isNumber(TrackField field) { return field == TrackField::Year || field == TrackField::Number; }
 
-/// As it is read from a file again; nil for what is no number that a tag can hold.
-std::optional<QString> number(const QString &text)
-{
-    bool isNumber = false;
-    const uint number = text.trimmed().toUInt(&isNumber);
-    if (isNumber && number > 0 && number <= LargestNumber)
-        return QString::number(number);
-    return text.trimmed().isEmpty() ? std::optional(QString()) : std::nullopt;
-}
+/// Spaces around a number or date are nothing that was meant.
+QString asTaken(TrackField field, const QString &text) { return isNumber(field) ? text.trimmed() : text; }
 
 QFont boldFont()
 {
@@ -103,9 +95,9 @@ QList<TextChange> TrackTableModel::possibleChanges(const QList<TextChange> &chan
         const int row = rowOfTrack(id);
         if (row < 0 || !isEditable(row, field))
             continue;
-        const std::optional<QString> text = isNumber(field) ? number(wanted) : wanted;
-        if (text && *text != track(row).text(field))
-            possible.append({id, field, *text});
+        const QString text = asTaken(field, wanted);
+        if (text != track(row).text(field))
+            possible.append({id, field, text});
     }
     return possible;
 }

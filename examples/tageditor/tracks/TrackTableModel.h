@@ -46,8 +46,7 @@ public:
     bool isEditable(int row, TrackField field) const;
 
     /// Those of \a changes that make a difference, each with its text as the field takes it: years and track
-    /// numbers are digits, without zeros before them, or nothing. A change that a field cannot take is left
-    /// out.
+    /// numbers without spaces around them. What a file's tags cannot hold shows when it is saved.
     QList<TextChange> possibleChanges(const QList<TextChange> &changes) const;
 
     /// Changes all of them at once, and returns what changes them back. Rows stay where they are, whatever

@@ -565,6 +565,13 @@
     </message>
 </context>
 <context>
+    <name>TagTokens</name>
+    <message>
+        <source>Next Value</source>
+        <translation>Nächster Wert</translation>
+    </message>
+</context>
+<context>
     <name>TagWriter</name>
     <message>
         <source>No audio found: damaged or cut off</source>

@@ -3,6 +3,7 @@
 
 #include <tageditor/window/QuickOpenModel.h>
 
+#include <tageditor/tracks/TagValues.h>
 #include <tageditor/tracks/TrackTableModel.h>
 
 #include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVHighlightDelegate.h>
@@ -13,9 +14,9 @@ namespace {
 
 QString textOfTrack(const Track &track)
 {
-    const QString &title = track.text(TrackField::Title);
+    const QString title = TagValues::joined(track.text(TrackField::Title));
     const QString &name = title.isEmpty() ? track.text(TrackField::FileName) : title;
-    const QString &artist = track.text(TrackField::Artist);
+    const QString artist = TagValues::joined(track.text(TrackField::Artist));
     return artist.isEmpty() ? name : QuickOpenModel::tr("%1 – %2").arg(name, artist);
 }
 

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVMatchHighlightDelegate.h>
+
+/// Draws the cells of the table, and lets their texts be edited with a mark that shows where a value ends.
+class TrackDelegate : public ZEVMatchHighlightDelegate {
+    Q_OBJECT
+
+public:
+    using ZEVMatchHighlightDelegate::ZEVMatchHighlightDelegate;
+
+    void setEditorData(QWidget *editor, const QModelIndex &index) const override;
+    void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override;
+};

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <tageditor/tracks/Track.h>
+
+#include <QStringList>
+
+namespace TagLib {
+class File;
+}
+
+/// The fields of a track in the tags of an open file, which has such. Any thread.
+namespace TagFields {
+
+/// The texts of all fields of tags, each with all its values and as the file has it: a date stays a date, and
+/// "7/12" is what it says.
+void read(const TagLib::File &file, Track &track);
+
+/// Changes the field's values in every kind of tag that the file has. What a tag cannot hold shows when it is
+/// read back.
+void write(TagLib::File &file, TrackField field, const QStringList &values);
+
+} // namespace TagFields
