@@ -142,6 +142,35 @@ private Q_SLOTS:
         QVERIFY(!shown.window.isWindowModified());
     }
 
+    /// A question in the midst of a batch may stand for long.
+    void ownRenamesAreNotTakenForForeignChanges()
+    {
+        const QTemporaryDir folder;
+        for (const QString &name : {u"x.flac"_s, u"y.mp3"_s})
+            QVERIFY(Samples::copy(name.endsWith(u'c') ? u"Maree/05 Fenetre.flac"_s : u"Maree/04 Ete.mp3"_s,
+                                  folder.filePath(name)));
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(folder.path()));
+        QVERIFY(Samples::copy(u"Interlude.ogg"_s, folder.filePath(u"same.mp3"_s)));
+        ZEVAlert::setRunner([](ZEVAlert &) {
+            QTest::qWait(1200); // as long as it takes to notice what other programs do, and more
+            return 1000;
+        });
+        const auto reset = qScopeGuard([] { ZEVAlert::setRunner({}); });
+        QSignalSpy reported(shown.window.findChild<FileActions *>(), &FileActions::reported);
+        shown.window.table().selectAll();
+        shown.action(u"Rename"_s)->trigger();
+        auto *dialog = shown.window.findChild<RenameDialog *>();
+        dialog->findChild<QLineEdit *>()->setText(u"same"_s);
+        QTest::keyClick(dialog, Qt::Key_Return);
+        QTRY_VERIFY(!reported.isEmpty());
+        QTRY_COMPARE(shown.text(0, TrackField::FileName), u"same.flac"_s);
+        QTest::qWait(800);
+        QVERIFY2(!shown.status().contains(u"not there") && !shown.status().contains(u"another program"),
+                 qPrintable(shown.status()));
+        QCOMPARE(shown.window.tracks().numberOfUnreadable(), 0);
+    }
+
     void filesThatExchangeTheirNamesLoseNone()
     {
         Batches files;

@@ -97,11 +97,11 @@ private Q_SLOTS:
     void savingAsksBeforeItWritesOverThem_data()
     {
         QTest::addColumn<QString>("answer");
-        QTest::addColumn<QStringList>("titles"); // in the file and in the table
+        QTest::addColumn<QStringList>("titles"); // in the file and in the table, and the album there
         QTest::addColumn<bool>("isModified");
-        QTest::newRow("overwrite") << u"Overwrite"_s << QStringList{u"mine"_s, u"mine"_s} << false;
-        QTest::newRow("reload") << u"Reload"_s << QStringList{u"theirs"_s, u"theirs"_s} << false;
-        QTest::newRow("leave") << u"Leave"_s << QStringList{u"theirs"_s, u"mine"_s} << true;
+        QTest::newRow("overwrite") << u"Overwrite"_s << QStringList{u"mine"_s, u"mine"_s, u"kept"_s} << false;
+        QTest::newRow("reload") << u"Reload"_s << QStringList{u"theirs"_s, u"theirs"_s, u"kept"_s} << false;
+        QTest::newRow("leave") << u"Leave"_s << QStringList{u"theirs"_s, u"mine"_s, u"Found Tapes"_s} << true;
     }
     void savingAsksBeforeItWritesOverThem()
     {
@@ -113,7 +113,8 @@ private Q_SLOTS:
         QTest::qWait(600); // long enough for the change to be noticed, and left alone
         QCOMPARE(shared.title(), u"mine"_s);
         QVERIFY(!shared.saveAnswering(answer).isEmpty());
-        const QStringList titles{shared.written(TrackField::Title), shared.title()};
+        const QStringList titles{shared.written(TrackField::Title), shared.title(),
+                                 shared.shown.text(0, TrackField::Album)};
         QTEST(titles, "titles");
         QTEST(shared.shown.window.isWindowModified(), "isModified");
         QCOMPARE(shared.written(TrackField::Album), u"kept"_s);

@@ -13,6 +13,7 @@
 #include <fileref.h>
 #include <sys/stat.h>
 #include <tpropertymap.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -126,6 +127,21 @@ private Q_SLOTS:
             QCOMPARE(bytes(path), before);
         else
             QCOMPARE(TagReader::read(native(path)).text(field), held);
+    }
+
+    void aFolderMayTakeNoOtherFile()
+    {
+        if (::geteuid() == 0)
+            QSKIP("The superuser may write everywhere.");
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"a.flac"_s);
+        QVERIFY(Samples::copy(u"Nordwind/06 Gruesse.flac"_s, path));
+        QVERIFY(QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::ExeOwner));
+        const QString problem = TagWriter::write(native(path), {{TrackField::Title, QString(20000, u'x')}});
+        const QString shorter = TagWriter::write(native(path), {{TrackField::Title, u"x"_s}});
+        QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        QCOMPARE(problem + shorter, QString());
+        QCOMPARE(TagReader::read(native(path)).text(TrackField::Title), u"x"_s);
     }
 
     void aFailureLeavesTheFile()

@@ -156,6 +156,7 @@ void FileActions::start(const std::function<void()> &batch,
         return;
     m_then = then;
     m_editing->setUndoBlocked(true);
+    Q_EMIT runningChanged(true);
     batch();
     updateActions();
 }
@@ -171,6 +172,7 @@ void FileActions::finish(const FileBatch::Result &result)
 {
     m_progress->hide();
     followFiles(result);
+    Q_EMIT runningChanged(false);
     m_editing->setUndoBlocked(false);
     if (const auto then = std::exchange(m_then, {}))
         then(result.done);

@@ -32,6 +32,9 @@ public:
     void cancelAndWait() { m_batch.cancelAndWait(); }
 
 Q_SIGNALS:
+    /// While a batch is under way, files are not where the table says.
+    void runningChanged(bool isRunning);
+
     /// What was done, in one line; \a isProblem when something was not.
     void reported(const QString &message, bool isProblem);
 

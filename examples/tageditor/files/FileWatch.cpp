@@ -62,7 +62,7 @@ void FileWatch::watchFolders(int first, int last)
 
 void FileWatch::lookNow()
 {
-    if (m_isLooking)
+    if (m_isLooking || m_isPaused)
         return m_timer.start();
     QList<Known> files;
     for (int row = 0; row < m_model->rowCount(); ++row)
@@ -96,6 +96,8 @@ QList<FileWatch::Found> FileWatch::look(const QList<Known> &files, const std::at
 void FileWatch::show(const QList<Found> &found)
 {
     m_isLooking = false;
+    if (m_isPaused)
+        return lookSoon();
     int changed = 0;
     int gone = 0;
     for (const auto &[known, track] : found) {

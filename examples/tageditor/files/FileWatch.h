@@ -27,6 +27,10 @@ public:
     /// Looks at all files on another thread, once the events at hand are done.
     void lookSoon() { m_timer.start(); }
 
+    /// What happens to the files in a pause is this program's own doing, which the table is told of when it
+    /// is done.
+    void setPaused(bool isPaused) { m_isPaused = isPaused; }
+
 Q_SIGNALS:
     /// Of how many tracks the table shows something else now.
     void noticed(int changed, int gone);
@@ -54,4 +58,5 @@ private:
     QTimer m_timer;
     std::shared_ptr<std::atomic_bool> m_isStopped;
     bool m_isLooking = false;
+    bool m_isPaused = false;
 };

@@ -10,7 +10,7 @@
 #include <thread>
 
 /// Reads the tags of all audio files in a folder and below it on a thread of its own. Symbolic links to
-/// folders are not followed. All signals come on the main thread, and none of a reading that was cancelled.
+/// folders are not followed, and hidden folders within, such as a volume's trash, are left out. All signals come on the main thread, and none of a reading that was cancelled.
 class FolderReader : public QObject {
     Q_OBJECT
 

@@ -12,6 +12,9 @@
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVPlainFileManager.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVError.h>
 
+#include <QFile>
+#include <QTemporaryDir>
+
 #include <fileref.h>
 #include <id3v2tag.h>
 #include <mpegfile.h>
@@ -38,9 +41,6 @@ bool save(TagLib::File &file)
                       TagLib::File::DoNotDuplicate);
 }
 
-/// A folder for the new file, gone with everything that is still in it.
-class WorkFolder {
-public:
 /// Some tags have numbers where others have texts: there "07" is 7.
 bool isHeld(TrackField field, const QString &wanted, const QString &written)
 {
@@ -50,6 +50,9 @@ bool isHeld(TrackField field, const QString &wanted, const QString &written)
     return written == wanted || (hasNumber && isNumber && written == QString::number(number));
 }
 
+/// A folder for the new file, gone with everything that is still in it.
+class WorkFolder {
+public:
     explicit WorkFolder(const QUrl &file, ZEVError *error)
         : m_url(ZEVPlainFileManager::defaultManager()->itemReplacementDirectory(file, error))
     {
@@ -67,6 +70,39 @@ private:
     std::optional<QUrl> m_url;
 };
 
+/// A file by the bytes of its name.
+bool open(QFile &file, const std::filesystem::path &path, QFile::OpenMode mode)
+{
+    const int flags = mode.testFlag(QFile::WriteOnly) ? O_RDWR : O_RDONLY;
+    const int handle = ::open(path.c_str(), flags | O_CLOEXEC);
+    return handle >= 0 && file.open(handle, mode | QFile::Unbuffered, QFile::AutoCloseHandle);
+}
+
+bool setBytes(QFile &file, const QByteArray &bytes)
+{
+    return file.seek(0) && file.write(bytes) == bytes.size() && file.resize(bytes.size())
+        && ::fsync(file.handle()) == 0;
+}
+
+/// The room is taken first, so that a full disk shows before a byte is changed; after another failure the old
+/// bytes are put back.
+QString copyBytes(const std::filesystem::path &from, const std::filesystem::path &to)
+{
+    QFile source;
+    QFile target;
+    if (!open(source, from, QFile::ReadOnly) || !open(target, to, QFile::ReadWrite))
+        return QString::fromStdString(std::generic_category().message(errno));
+    const QByteArray before = target.readAll();
+    const QByteArray after = source.readAll();
+    const int failure = ::posix_fallocate(target.handle(), 0, after.size());
+    if (failure == 0 && setBytes(target, after))
+        return {};
+    const QString problem = failure == 0 ? target.errorString()
+                                         : QString::fromStdString(std::generic_category().message(failure));
+    setBytes(target, before);
+    return problem;
+}
+
 std::filesystem::path pathOf(const QUrl &url) { return ZEVFileURL::path(url).toStdString(); }
 
 } // namespace
@@ -77,8 +113,14 @@ QString TagWriter::write(const std::filesystem::path &path, const Texts &texts, 
     const std::filesystem::path target = std::filesystem::canonical(path, failure);
     if (failure)
         return QString::fromStdString(failure.message());
-    ZEVPlainFileManager &files = *ZEVPlainFileManager::defaultManager();
     const QUrl original = ZEVFileURL::withPath(QByteArray::fromStdString(target.string()));
+    const bool mayReplace = ::access(target.parent_path().c_str(), W_OK | X_OK) == 0;
+    return mayReplace ? replace(original, texts, artwork) : overwrite(original, texts, artwork);
+}
+
+QString TagWriter::replace(const QUrl &original, const Texts &texts, const Artwork &artwork)
+{
+    ZEVPlainFileManager &files = *ZEVPlainFileManager::defaultManager();
     ZEVError error;
     const WorkFolder folder(original, &error);
     if (!folder.url())
@@ -92,6 +134,25 @@ QString TagWriter::write(const std::filesystem::path &path, const Texts &texts, 
     if (!files.replaceItemAtURL(original, copy, nullptr, &error))
         return error.localizedDescription();
     return {};
+}
+
+/// Where no other file may be put beside it, the file itself takes the bytes of one that is whole.
+QString TagWriter::overwrite(const QUrl &original, const Texts &texts, const Artwork &artwork)
+{
+    QTemporaryDir folder;
+    if (!folder.isValid())
+        return folder.errorString();
+    const QUrl copy = ZEVFileURL::byAppendingPathComponent(
+        ZEVFileURL::withPath(QFile::encodeName(folder.path())), ZEVFileURL::lastPathComponent(original));
+    ZEVError error;
+    if (!ZEVPlainFileManager::defaultManager()->copyItemAtURL(original, copy, &error))
+        return error.localizedDescription();
+    QString problem = writeInto(pathOf(copy), texts, artwork);
+    if (problem.isEmpty())
+        problem = copyBytes(pathOf(copy), pathOf(original));
+    if (!problem.isEmpty())
+        return problem;
+    return readBack(pathOf(original), texts, artwork);
 }
 
 QString TagWriter::writeInto(const std::filesystem::path &path, const Texts &texts, const Artwork &artwork)

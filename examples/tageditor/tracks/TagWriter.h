@@ -24,10 +24,12 @@ public:
     /// Writes \a texts of the file's tags and, unless it is nil, the artwork (empty bytes remove it), and
     /// nothing else of it. A new file takes the old one's place when
     /// it is whole and has been read back; whatever fails, the old one stays as it was. A link's target is
-    /// written. Returns why it failed, or an empty text.
+    /// written. In a folder that takes no other file, the file itself is written over. Returns why it failed, or an empty text.
     static QString write(const std::filesystem::path &path, const Texts &texts, const Artwork &artwork = {});
 
 private:
+    static QString replace(const QUrl &original, const Texts &texts, const Artwork &artwork);
+    static QString overwrite(const QUrl &original, const Texts &texts, const Artwork &artwork);
     static QString writeInto(const std::filesystem::path &path, const Texts &texts, const Artwork &artwork);
     static QString readBack(const std::filesystem::path &path, const Texts &texts, const Artwork &artwork);
 };

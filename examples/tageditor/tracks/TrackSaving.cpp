@@ -92,7 +92,7 @@ QStringList TrackSaving::saveTracks(TrackTableModel *model, const QList<int> &tr
         const QString problem =
             TagWriter::write(track.path, model->changedTexts(id), model->changedArtwork(id));
         if (problem.isEmpty())
-            model->setSaved(id);
+            model->setSaved(id, TagReader::read(track.path));
         else
             problems.append(displayedPath(track.path.filename()) + u": "_s + problem);
         progress.setValue(progress.value() + 1);

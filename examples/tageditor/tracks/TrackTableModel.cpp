@@ -204,15 +204,17 @@ QHash<TrackField, QString> TrackTableModel::changedTexts(int trackId) const
     return texts;
 }
 
-void TrackTableModel::setSaved(int trackId)
+void TrackTableModel::setSaved(int trackId, const Track &track)
 {
     const int row = rowOfTrack(trackId);
     forgetChanges(trackId);
     if (row < 0)
         return;
-    m_tracks[row].stamp = FileStamp::of(m_tracks.at(row).path);
-    m_tracks[row].fileSize = m_tracks.at(row).stamp.value_or(FileStamp()).size;
-    Q_EMIT dataChanged(index(row, 0), index(row, TrackFieldCount - 1), {Qt::FontRole});
+    const bool hasNews = track.fields != m_tracks.at(row).fields;
+    m_tracks[row] = track;
+    m_tracks[row].id = trackId;
+    const QList<int> roles = hasNews ? QList<int>() : QList<int>{Qt::FontRole};
+    Q_EMIT dataChanged(index(row, 0), index(row, TrackFieldCount - 1), roles);
 }
 
 void TrackTableModel::setArtwork(const QList<ArtworkChange> &changes)

@@ -73,8 +73,9 @@ public:
     QList<int> changedTracks() const;
     QHash<TrackField, QString> changedTexts(int trackId) const;
 
-    /// The file holds the texts and the artwork of the track now, and has another stamp.
-    void setSaved(int trackId);
+    /// The file holds the texts and the artwork of the track now. \a track was read from it: other texts may be
+    /// in it, too, that were not known here.
+    void setSaved(int trackId, const Track &track);
 
     /// What was changed is forgotten: the track is as its file, which \a track was read from.
     void setReverted(int trackId, const Track &track);

@@ -141,6 +141,7 @@ void MainWindow::watchTexts()
     connect(m_editing, &TextEditing::nothingDone, this,
             [this](const QString &message) { statusBar()->showMessage(message, MessageDuration); });
     connect(m_files, &FileActions::reported, m_problem, &MessageLabel::showMessage);
+    connect(m_files, &FileActions::runningChanged, m_watch, &FileWatch::setPaused);
     connect(m_watch, &FileWatch::noticed, this, &MainWindow::showNoticed);
     connect(m_folders, &FolderMenus::folderChosen, this, &MainWindow::openFolder);
     connect(m_quickOpen, &QuickOpen::trackChosen, this, &MainWindow::selectTrack);
@@ -151,7 +152,6 @@ void MainWindow::watchTexts()
 void MainWindow::commitTyped()
 {
     m_inspector->commit();
-    if (m_model.hasChanges() && !m_mayDiscard())
     QWidget *editor = m_table->indexWidget(m_table->currentIndex());
     if (!editor)
         return;
@@ -163,6 +163,7 @@ void MainWindow::commitTyped()
 void MainWindow::openFolder(const QString &folder)
 {
     commitTyped();
+    if (m_model.hasChanges() && !m_mayDiscard())
         return;
     m_folder = QDir::cleanPath(QDir(folder).absolutePath());
     m_folders->setFolder(m_folder);
