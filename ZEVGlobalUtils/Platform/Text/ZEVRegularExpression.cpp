@@ -76,8 +76,9 @@ std::optional<ZEVRegularExpression> ZEVRegularExpression::compile(const QString 
             *error = compileError(pattern, code, place);
         return std::nullopt;
     }
-    return ZEVRegularExpression(
-        std::make_shared<const Compiled>(Compiled{pattern, options, std::move(compiled)}));
+    return ZEVRegularExpression(std::make_shared<const Compiled>(
+        Compiled{pattern, options, std::move(compiled),
+                 ZEVSearchPlan::forPattern(pattern, options.testFlag(CaseInsensitive))}));
 }
 
 QString ZEVRegularExpression::escapedPatternForString(QStringView literal)

@@ -182,12 +182,26 @@ struct ZEVRegularExpressionMatcher::Private {
     ~Private() { utext_close(&text); }
     Q_DISABLE_COPY_MOVE(Private)
 
-    void resetWithAlias(QStringView view);
-    void resetWithUText(QStringView view);
+    const ZEVSearchPlan &plan() const { return expression.m_compiled->plan; }
+    bool wasInterrupted() const { return watch && watch->wasInterrupted(); }
+    void setText(QStringView newText);
+    void resetMatcher();
+    void resetWithAlias();
+    void resetWithUText();
     void strike(UErrorCode code);
+    std::optional<ZEVRange> findByPlan();
+    std::optional<ZEVRange> matchAt(qsizetype candidate);
+    std::optional<ZEVRange> matchOfMatcher(bool found, UErrorCode code);
+    std::optional<ZEVRange> rangeOfMatchersGroup(int group) const;
 
     const ZEVRegularExpression expression; // keeps alive what the matcher runs
     const std::unique_ptr<icu::RegexMatcher> matcher;
+    ZEVSearchWalk walk;
+    QStringView view;
+    qsizetype position = 0; // where the walk goes on
+    bool hasMatch = false;
+    bool walkHasMatch = false; // else it is the matcher's
+    bool matcherHasText = false;
     icu::UnicodeString alias;
     UText text = UTEXT_INITIALIZER;
     std::optional<Watch> watch;
@@ -199,19 +213,45 @@ struct ZEVRegularExpressionMatcher::Private {
 ZEVRegularExpressionMatcher::Private::Private(const ZEVRegularExpression &usedExpression)
     : expression(usedExpression)
     , matcher(makeMatcher(*expression.m_compiled->icuPattern))
+    , walk(expression.m_compiled->plan)
 {
     const nanoseconds limit = ZEVRegularExpression::timeLimit();
     if (limit > 0ns)
         watch.emplace(*matcher, limit, runsUncounted(expression.pattern()));
 }
 
-void ZEVRegularExpressionMatcher::Private::resetWithAlias(QStringView view)
+void ZEVRegularExpressionMatcher::Private::setText(QStringView newText)
+{
+    view = newText;
+    position = 0;
+    hasMatch = false;
+    matcherHasText = false;
+    if (plan().kind == ZEVSearchPlan::Kind::General)
+        resetMatcher();
+    else
+        walk.setText(newText);
+    if (watch)
+        watch->restart(newText.size());
+    textStruck = charged >= WalkAllowance;
+}
+
+/// Over short pieces this costs more than a search by a plan, which seldom needs the matcher.
+void ZEVRegularExpressionMatcher::Private::resetMatcher()
+{
+    matcherHasText = true;
+    if (view.size() <= LongestAlias)
+        resetWithAlias();
+    else
+        resetWithUText();
+}
+
+void ZEVRegularExpressionMatcher::Private::resetWithAlias()
 {
     alias.setTo(false, view.utf16(), static_cast<int32_t>(view.size()));
     matcher->reset(alias);
 }
 
-void ZEVRegularExpressionMatcher::Private::resetWithUText(QStringView view)
+void ZEVRegularExpressionMatcher::Private::resetWithUText()
 {
     UErrorCode code = U_ZERO_ERROR;
     utext_openUChars(&text, view.utf16(), view.size(), &code);
@@ -225,6 +265,56 @@ void ZEVRegularExpressionMatcher::Private::strike(UErrorCode code)
         qCWarning(zevLog) << "Matching was cut short:" << u_errorName(code) << expression.pattern();
     textStruck = true;
     anyStruck = true;
+}
+
+/// A plan's own matches are never empty, so that the next one begins where the last one ended.
+std::optional<ZEVRange> ZEVRegularExpressionMatcher::Private::findByPlan()
+{
+    while (const auto candidate = walk.nextCandidate(position)) {
+        const auto match = matchAt(*candidate);
+        position = match ? match->location + match->length : *candidate + 1;
+        if (match || textStruck || wasInterrupted())
+            return match;
+        if (watch && !watch->mayGoOnFrom(*candidate)) {
+            if (!wasInterrupted())
+                strike(U_REGEX_TIME_OUT);
+            return std::nullopt;
+        }
+    }
+    position = view.size();
+    return std::nullopt;
+}
+
+std::optional<ZEVRange> ZEVRegularExpressionMatcher::Private::matchAt(qsizetype candidate)
+{
+    const ZEVSearchWalk::Answer answer = walk.tryCandidate(candidate);
+    walkHasMatch = answer == ZEVSearchWalk::Answer::Yes;
+    if (walkHasMatch)
+        return walk.match();
+    if (answer == ZEVSearchWalk::Answer::No)
+        return std::nullopt;
+    if (!matcherHasText)
+        resetMatcher();
+    UErrorCode code = U_ZERO_ERROR;
+    const bool found = matcher->lookingAt(candidate, code);
+    return matchOfMatcher(found, code);
+}
+
+std::optional<ZEVRange> ZEVRegularExpressionMatcher::Private::matchOfMatcher(bool found, UErrorCode code)
+{
+    if (U_FAILURE(code) && !wasInterrupted())
+        strike(code);
+    return found && U_SUCCESS(code) ? rangeOfMatchersGroup(0) : std::nullopt;
+}
+
+std::optional<ZEVRange> ZEVRegularExpressionMatcher::Private::rangeOfMatchersGroup(int group) const
+{
+    UErrorCode code = U_ZERO_ERROR;
+    const qint64 start = matcher->start64(group, code);
+    const qint64 end = matcher->end64(group, code);
+    if (U_FAILURE(code) || start < 0)
+        return std::nullopt;
+    return ZEVRange{static_cast<qsizetype>(start), static_cast<qsizetype>(end - start)};
 }
 
 ZEVRegularExpressionMatcher::ZEVRegularExpressionMatcher(const ZEVRegularExpression &expression)
@@ -241,44 +331,39 @@ void ZEVRegularExpressionMatcher::setInterruption(const std::function<bool()> &a
     d->watch->setInterruption(asked);
 }
 
-bool ZEVRegularExpressionMatcher::wasInterrupted() const { return d->watch && d->watch->wasInterrupted(); }
+bool ZEVRegularExpressionMatcher::wasInterrupted() const { return d->wasInterrupted(); }
 
-void ZEVRegularExpressionMatcher::setText(QStringView text)
-{
-    if (text.size() <= LongestAlias)
-        d->resetWithAlias(text);
-    else
-        d->resetWithUText(text);
-    if (d->watch)
-        d->watch->restart(text.size());
-    d->textStruck = d->charged >= WalkAllowance;
-}
+void ZEVRegularExpressionMatcher::setText(QStringView text) { d->setText(text); }
 
 std::optional<ZEVRange> ZEVRegularExpressionMatcher::findNext()
 {
+    d->hasMatch = false;
     if (d->textStruck || wasInterrupted())
         return std::nullopt;
-    UErrorCode code = U_ZERO_ERROR;
-    const bool found = d->matcher->find(code);
-    if (U_FAILURE(code) && !wasInterrupted())
-        d->strike(code);
-    if (!found || U_FAILURE(code))
-        return std::nullopt;
-    const qint64 start = d->matcher->start64(0, code);
-    const qint64 end = d->matcher->end64(0, code);
-    if (d->watch && !d->watch->mayGoOnAfterMatch(end) && !wasInterrupted())
+    std::optional<ZEVRange> match;
+    if (d->plan().kind != ZEVSearchPlan::Kind::General) {
+        match = d->findByPlan();
+    } else {
+        UErrorCode code = U_ZERO_ERROR;
+        const bool found = d->matcher->find(code);
+        match = d->matchOfMatcher(found, code);
+    }
+    d->hasMatch = match.has_value();
+    if (match && d->watch && !d->watch->mayGoOnAfterMatch(match->location + match->length)
+        && !wasInterrupted())
         d->strike(U_REGEX_TIME_OUT);
-    return ZEVRange{static_cast<qsizetype>(start), static_cast<qsizetype>(end - start)};
+    return match;
 }
 
 std::optional<ZEVRange> ZEVRegularExpressionMatcher::rangeOfGroup(int group) const
 {
-    UErrorCode code = U_ZERO_ERROR;
-    const qint64 start = d->matcher->start64(group, code);
-    const qint64 end = d->matcher->end64(group, code);
-    if (U_FAILURE(code) || start < 0)
+    if (!d->hasMatch)
         return std::nullopt;
-    return ZEVRange{static_cast<qsizetype>(start), static_cast<qsizetype>(end - start)};
+    if (!d->walkHasMatch)
+        return d->rangeOfMatchersGroup(group);
+    if (group == 0)
+        return d->walk.match();
+    return group == 1 ? d->walk.group() : std::nullopt;
 }
 
 int ZEVRegularExpressionMatcher::numberOfCaptureGroups() const { return d->matcher->groupCount(); }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVSearchPlan_p.h>
 
 #include <unicode/regex.h>
 
@@ -11,4 +12,5 @@ struct ZEVRegularExpression::Compiled {
     QString pattern;
     Options options;
     std::unique_ptr<const icu::RegexPattern> icuPattern;
+    ZEVSearchPlan plan;
 };

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <ZEVGlobalUtils/Platform/Text/ZEVTextScan_p.h>
+
+#include <ZEVGlobalUtils/Platform/Values/ZEVRange.h>
+
+#include <unicode/uniset.h>
+
+#include <bitset>
+#include <optional>
+
+/// One of the classes \d, \w and \s as expressions know them: decimal digits, the characters of words (with
+/// marks, connectors and joiners), white space.
+class ZEVUnitClass {
+public:
+    /// Nil for another letter.
+    static const ZEVUnitClass *forLetter(char16_t letter);
+
+    /// Whether the unit belongs to a character of the class; a lone surrogate never does.
+    bool containsUnitAt(QStringView text, qsizetype position) const;
+
+    /// A bit for each of the 64 units from \a from on.
+    quint64 bitsAt(QStringView text, qsizetype from) const;
+
+private:
+    explicit ZEVUnitClass(const char16_t *pattern);
+
+    icu::UnicodeSet m_characters;
+    std::bitset<0x10000> m_units;
+    ZEVTextScan::AsciiRanges m_ascii;
+};
+
+/// Goes from run to run of a class, keeping the bits of where it is.
+class ZEVClassRuns {
+public:
+    void setText(QStringView text);
+
+    /// The first longest run that begins at or after \a from; positions only grow.
+    std::optional<ZEVRange> next(const ZEVUnitClass &unitClass, qsizetype from);
+
+private:
+    std::optional<qsizetype> firstFrom(const ZEVUnitClass &unitClass, qsizetype from, bool isIn);
+
+    QStringView m_text;
+    ZEVTextScan::Block m_block;
+    bool m_isRead = false;
+};
