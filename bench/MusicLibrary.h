@@ -39,10 +39,11 @@ private:
     QString word()
     {
         static const char16_t *const words[]{
-            u"love",    u"night",  u"the",   u"of",      u"and",     u"Blue", u"river",   u"Été",
-            u"dancing", u"heart",  u"in",    u"word",    u"summer",  u"rain", u"München", u"ночь",
-            u"song",    u"feat.",  u"light", u"city",    u"dream",   u"Wörd", u"live",    u"remix",
-            u"golden",  u"東京の", u"over",  u"Strange", u"wordless"};
+            u"love",     u"night",   u"the",   u"of",     u"and",    u"Blue",    u"river",
+            u"Été",      u"dancing", u"heart", u"in",     u"word",   u"summer",  u"rain",
+            u"München",  u"ночь",    u"song",  u"feat.",  u"light",  u"city",    u"dream",
+            u"Wörd",     u"live",    u"remix", u"golden", u"東京の", u"over",    u"Strange",
+            u"wordless", u"kiss",    u"kiß",   u"Straße", u"ſong",   u"İstanbul"};
         return QString::fromUtf16(words[upTo(int(std::size(words)))]);
     }
 

@@ -189,16 +189,18 @@ struct ZEVRegularExpressionMatcher::Private {
     void resetWithAlias();
     void resetWithUText();
     void strike(UErrorCode code);
-    std::optional<ZEVRange> findByPlan();
-    std::optional<ZEVRange> matchAt(qsizetype candidate);
-    std::optional<ZEVRange> matchOfMatcher(bool found, UErrorCode code);
+    bool find();
+    bool findByPlan();
+    bool isMatchAt(qsizetype candidate);
+    bool isMatchOfMatcher(bool found, UErrorCode code);
     std::optional<ZEVRange> rangeOfMatchersGroup(int group) const;
 
     const ZEVRegularExpression expression; // keeps alive what the matcher runs
     const std::unique_ptr<icu::RegexMatcher> matcher;
     ZEVSearchWalk walk;
     QStringView view;
-    qsizetype position = 0; // where the walk goes on
+    qsizetype begin = 0; // of the last match
+    qsizetype end = 0; // and where the walk goes on
     bool hasMatch = false;
     bool walkHasMatch = false; // else it is the matcher's
     bool matcherHasText = false;
@@ -223,7 +225,7 @@ ZEVRegularExpressionMatcher::Private::Private(const ZEVRegularExpression &usedEx
 void ZEVRegularExpressionMatcher::Private::setText(QStringView newText)
 {
     view = newText;
-    position = 0;
+    begin = end = 0;
     hasMatch = false;
     matcherHasText = false;
     if (plan().kind == ZEVSearchPlan::Kind::General)
@@ -267,54 +269,70 @@ void ZEVRegularExpressionMatcher::Private::strike(UErrorCode code)
     anyStruck = true;
 }
 
-/// A plan's own matches are never empty, so that the next one begins where the last one ended.
-std::optional<ZEVRange> ZEVRegularExpressionMatcher::Private::findByPlan()
+bool ZEVRegularExpressionMatcher::Private::find()
 {
-    while (const auto candidate = walk.nextCandidate(position)) {
-        const auto match = matchAt(*candidate);
-        position = match ? match->location + match->length : *candidate + 1;
-        if (match || textStruck || wasInterrupted())
-            return match;
-        if (watch && !watch->mayGoOnFrom(*candidate)) {
-            if (!wasInterrupted())
-                strike(U_REGEX_TIME_OUT);
-            return std::nullopt;
-        }
-    }
-    position = view.size();
-    return std::nullopt;
+    if (plan().kind != ZEVSearchPlan::Kind::General)
+        return findByPlan();
+    UErrorCode code = U_ZERO_ERROR;
+    const bool found = matcher->find(code);
+    return isMatchOfMatcher(found, code);
 }
 
-std::optional<ZEVRange> ZEVRegularExpressionMatcher::Private::matchAt(qsizetype candidate)
+/// What a plan finds is never empty, so that the next match begins where the last one ended or later.
+bool ZEVRegularExpressionMatcher::Private::findByPlan()
+{
+    for (;;) {
+        const qsizetype candidate = walk.nextCandidate(end);
+        if (candidate >= view.size())
+            break;
+        if (isMatchAt(candidate))
+            return true;
+        end = candidate + 1;
+        if (watch && !watch->mayGoOnFrom(candidate) && !textStruck && !wasInterrupted())
+            strike(U_REGEX_TIME_OUT);
+        if (textStruck || wasInterrupted())
+            return false;
+    }
+    end = view.size();
+    return false;
+}
+
+bool ZEVRegularExpressionMatcher::Private::isMatchAt(qsizetype candidate)
 {
     const ZEVSearchWalk::Answer answer = walk.tryCandidate(candidate);
     walkHasMatch = answer == ZEVSearchWalk::Answer::Yes;
-    if (walkHasMatch)
-        return walk.match();
-    if (answer == ZEVSearchWalk::Answer::No)
-        return std::nullopt;
+    if (walkHasMatch) {
+        begin = walk.begin();
+        end = walk.end();
+    }
+    if (answer != ZEVSearchWalk::Answer::AskMatcher)
+        return walkHasMatch;
     if (!matcherHasText)
         resetMatcher();
     UErrorCode code = U_ZERO_ERROR;
     const bool found = matcher->lookingAt(candidate, code);
-    return matchOfMatcher(found, code);
+    return isMatchOfMatcher(found, code);
 }
 
-std::optional<ZEVRange> ZEVRegularExpressionMatcher::Private::matchOfMatcher(bool found, UErrorCode code)
+bool ZEVRegularExpressionMatcher::Private::isMatchOfMatcher(bool found, UErrorCode code)
 {
     if (U_FAILURE(code) && !wasInterrupted())
         strike(code);
-    return found && U_SUCCESS(code) ? rangeOfMatchersGroup(0) : std::nullopt;
+    if (!found || U_FAILURE(code))
+        return false;
+    begin = static_cast<qsizetype>(matcher->start64(0, code));
+    end = static_cast<qsizetype>(matcher->end64(0, code));
+    return true;
 }
 
 std::optional<ZEVRange> ZEVRegularExpressionMatcher::Private::rangeOfMatchersGroup(int group) const
 {
     UErrorCode code = U_ZERO_ERROR;
-    const qint64 start = matcher->start64(group, code);
-    const qint64 end = matcher->end64(group, code);
-    if (U_FAILURE(code) || start < 0)
+    const auto groupBegin = static_cast<qsizetype>(matcher->start64(group, code));
+    const auto groupEnd = static_cast<qsizetype>(matcher->end64(group, code));
+    if (U_FAILURE(code) || groupBegin < 0)
         return std::nullopt;
-    return ZEVRange{static_cast<qsizetype>(start), static_cast<qsizetype>(end - start)};
+    return ZEVRange{groupBegin, groupEnd - groupBegin};
 }
 
 ZEVRegularExpressionMatcher::ZEVRegularExpressionMatcher(const ZEVRegularExpression &expression)
@@ -340,19 +358,12 @@ std::optional<ZEVRange> ZEVRegularExpressionMatcher::findNext()
     d->hasMatch = false;
     if (d->textStruck || wasInterrupted())
         return std::nullopt;
-    std::optional<ZEVRange> match;
-    if (d->plan().kind != ZEVSearchPlan::Kind::General) {
-        match = d->findByPlan();
-    } else {
-        UErrorCode code = U_ZERO_ERROR;
-        const bool found = d->matcher->find(code);
-        match = d->matchOfMatcher(found, code);
-    }
-    d->hasMatch = match.has_value();
-    if (match && d->watch && !d->watch->mayGoOnAfterMatch(match->location + match->length)
-        && !wasInterrupted())
+    d->hasMatch = d->find();
+    if (!d->hasMatch)
+        return std::nullopt;
+    if (d->watch && !d->watch->mayGoOnAfterMatch(d->end) && !wasInterrupted())
         d->strike(U_REGEX_TIME_OUT);
-    return match;
+    return ZEVRange{d->begin, d->end - d->begin};
 }
 
 std::optional<ZEVRange> ZEVRegularExpressionMatcher::rangeOfGroup(int group) const
@@ -362,7 +373,7 @@ std::optional<ZEVRange> ZEVRegularExpressionMatcher::rangeOfGroup(int group) con
     if (!d->walkHasMatch)
         return d->rangeOfMatchersGroup(group);
     if (group == 0)
-        return d->walk.match();
+        return ZEVRange{d->begin, d->end - d->begin};
     return group == 1 ? d->walk.group() : std::nullopt;
 }
 

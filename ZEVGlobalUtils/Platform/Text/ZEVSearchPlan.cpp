@@ -59,11 +59,12 @@ QString takeLiteral(QStringView &rest)
 
 bool readRun(ZEVSearchPlan &plan, QStringView rest)
 {
-    plan.runIsGroup = rest.size() == 5 && rest.startsWith(u'(') && rest.endsWith(u')');
-    if (plan.runIsGroup)
+    const bool isGroup = rest.size() == 5 && rest.startsWith(u'(') && rest.endsWith(u')');
+    if (isGroup)
         rest = rest.mid(1, 3);
     if (rest.size() == 3 && rest[0] == u'\\' && rest[2] == u'+')
         plan.run = ZEVUnitClass::forLetter(rest[1].unicode());
+    plan.runIsGroup = isGroup && plan.run;
     return plan.run;
 }
 
@@ -111,18 +112,12 @@ void ZEVSearchWalk::setText(QStringView text)
     m_runs.setText(text);
 }
 
-std::optional<qsizetype> ZEVSearchWalk::nextCandidate(qsizetype from)
+qsizetype ZEVSearchWalk::nextCandidate(qsizetype from)
 {
-    if (m_plan.kind != ZEVSearchPlan::Kind::Runs)
-        return nextLiteral(from);
-    const auto run = m_runs.next(*m_plan.run, from);
-    if (!run)
-        return std::nullopt;
-    m_match = *run;
-    return run->location;
+    return m_plan.kind == ZEVSearchPlan::Kind::Runs ? m_runs.next(*m_plan.run, from) : nextLiteral(from);
 }
 
-std::optional<qsizetype> ZEVSearchWalk::nextLiteral(qsizetype from)
+qsizetype ZEVSearchWalk::nextLiteral(qsizetype from)
 {
     if (from < m_block.begin + BlockSize) {
         const quint64 bits = m_block.bits >> (from - m_block.begin);
@@ -130,21 +125,27 @@ std::optional<qsizetype> ZEVSearchWalk::nextLiteral(qsizetype from)
             return from + std::countr_zero(bits);
         from = m_block.begin + BlockSize;
     }
-    if (from < m_text.size())
-        m_block = ZEVTextScan::nextBlock(m_plan.anchors, m_text, from);
-    if (from >= m_text.size() || !m_block.bits)
-        return std::nullopt;
-    return m_block.begin + std::countr_zero(m_block.bits);
+    if (from >= m_text.size())
+        return m_text.size();
+    m_block = ZEVTextScan::nextBlock(m_plan.anchors, m_text, from);
+    return m_block.bits ? m_block.begin + std::countr_zero(m_block.bits) : m_text.size();
 }
 
 ZEVSearchWalk::Answer ZEVSearchWalk::tryCandidate(qsizetype start)
 {
-    m_group.reset();
+    m_begin = start;
     if (m_plan.kind != ZEVSearchPlan::Kind::Runs)
         return tryLiteral(start);
-    if (m_plan.runIsGroup)
-        m_group = m_match;
+    m_runBegin = start;
+    m_end = m_runs.end();
     return Answer::Yes;
+}
+
+std::optional<ZEVRange> ZEVSearchWalk::group() const
+{
+    if (!m_plan.runIsGroup)
+        return std::nullopt;
+    return ZEVRange{m_runBegin, m_end - m_runBegin};
 }
 
 ZEVSearchWalk::Answer ZEVSearchWalk::tryLiteral(qsizetype start)
@@ -161,9 +162,8 @@ ZEVSearchWalk::Answer ZEVSearchWalk::tryLiteral(qsizetype start)
         return Answer::No;
     if (begins == Answer::AskMatcher || ends == Answer::AskMatcher)
         return Answer::AskMatcher;
-    m_match = {start, end - start};
-    if (m_plan.runIsGroup)
-        m_group = {*literalEnd, end - *literalEnd};
+    m_runBegin = *literalEnd;
+    m_end = end;
     return Answer::Yes;
 }
 

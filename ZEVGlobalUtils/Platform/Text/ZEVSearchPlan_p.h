@@ -5,8 +5,7 @@
 
 #include <ZEVGlobalUtils/Platform/Text/ZEVFoldedLiteral_p.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVUnitClass_p.h>
-
-#include <array>
+#include <ZEVGlobalUtils/Platform/Values/ZEVRange.h>
 
 /// How an expression is searched for, chosen once when it is compiled. Whatever the plan, the matches are
 /// those of the general matcher: what is not known to be so is left to it.
@@ -41,16 +40,18 @@ public:
 
     void setText(QStringView text);
 
-    /// The first place at or after \a from where a match may begin, in growing order; nil for no more.
-    std::optional<qsizetype> nextCandidate(qsizetype from);
+    /// The first place at or after \a from where a match may begin, in growing order; the end of the text for
+    /// none.
+    qsizetype nextCandidate(qsizetype from);
 
     /// Whether a match begins at the candidate, and then where the match and its group lie.
     Answer tryCandidate(qsizetype start);
-    ZEVRange match() const { return m_match; }
-    std::optional<ZEVRange> group() const { return m_group; }
+    qsizetype begin() const { return m_begin; }
+    qsizetype end() const { return m_end; }
+    std::optional<ZEVRange> group() const;
 
 private:
-    std::optional<qsizetype> nextLiteral(qsizetype from);
+    qsizetype nextLiteral(qsizetype from);
     Answer tryLiteral(qsizetype start);
     Answer boundaryAt(qsizetype position) const;
     qsizetype endOfRun(qsizetype start) const;
@@ -59,6 +60,8 @@ private:
     QStringView m_text;
     ZEVTextScan::Block m_block;
     ZEVClassRuns m_runs;
-    ZEVRange m_match;
-    std::optional<ZEVRange> m_group;
+    // Single numbers: a range that is copied right after it was written makes the processor wait.
+    qsizetype m_begin = 0;
+    qsizetype m_end = 0;
+    qsizetype m_runBegin = 0;
 };

@@ -72,7 +72,7 @@ void ZEVClassRuns::setText(QStringView text)
     m_isRead = false;
 }
 
-std::optional<qsizetype> ZEVClassRuns::firstFrom(const ZEVUnitClass &unitClass, qsizetype from, bool isIn)
+qsizetype ZEVClassRuns::firstFrom(const ZEVUnitClass &unitClass, qsizetype from, bool isIn)
 {
     while (from < m_text.size()) {
         if (!m_isRead || from >= m_block.begin + BlockSize) {
@@ -81,17 +81,15 @@ std::optional<qsizetype> ZEVClassRuns::firstFrom(const ZEVUnitClass &unitClass, 
         }
         const quint64 wanted = (isIn ? m_block.bits : ~m_block.bits) >> (from - m_block.begin);
         if (wanted)
-            return from + std::countr_zero(wanted);
+            return std::min(from + std::countr_zero(wanted), m_text.size());
         from = m_block.begin + BlockSize;
     }
-    return std::nullopt;
+    return m_text.size();
 }
 
-std::optional<ZEVRange> ZEVClassRuns::next(const ZEVUnitClass &unitClass, qsizetype from)
+qsizetype ZEVClassRuns::next(const ZEVUnitClass &unitClass, qsizetype from)
 {
-    const auto start = firstFrom(unitClass, from, true);
-    if (!start)
-        return std::nullopt;
-    const qsizetype end = firstFrom(unitClass, *start, false).value_or(m_text.size());
-    return ZEVRange{*start, std::min(end, m_text.size()) - *start};
+    const qsizetype begin = firstFrom(unitClass, from, true);
+    m_end = firstFrom(unitClass, begin, false);
+    return begin;
 }

@@ -5,12 +5,9 @@
 
 #include <ZEVGlobalUtils/Platform/Text/ZEVTextScan_p.h>
 
-#include <ZEVGlobalUtils/Platform/Values/ZEVRange.h>
-
 #include <unicode/uniset.h>
 
 #include <bitset>
-#include <optional>
 
 /// One of the classes \d, \w and \s as expressions know them: decimal digits, the characters of words (with
 /// marks, connectors and joiners), white space.
@@ -38,13 +35,16 @@ class ZEVClassRuns {
 public:
     void setText(QStringView text);
 
-    /// The first longest run that begins at or after \a from; positions only grow.
-    std::optional<ZEVRange> next(const ZEVUnitClass &unitClass, qsizetype from);
+    /// Where the first longest run begins, and ends, of those that begin at or after \a from; the end of the
+    /// text for none. Positions only grow.
+    qsizetype next(const ZEVUnitClass &unitClass, qsizetype from);
+    qsizetype end() const { return m_end; }
 
 private:
-    std::optional<qsizetype> firstFrom(const ZEVUnitClass &unitClass, qsizetype from, bool isIn);
+    qsizetype firstFrom(const ZEVUnitClass &unitClass, qsizetype from, bool isIn);
 
     QStringView m_text;
     ZEVTextScan::Block m_block;
+    qsizetype m_end = 0;
     bool m_isRead = false;
 };
