@@ -220,7 +220,8 @@ void ZEVFindPanelQueryParamsController::addSavedQuery(const ZEVFindPanelQuery &q
 {
     if (!query.hasPattern())
         return;
-    const ZEVFindPanelQuery added = query; // which may be one of the list
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): the query may be one of the list
+    const ZEVFindPanelQuery added = query;
     loadSavedQueries();
     m_savedQueriesSet.removeAll(added);
     m_savedQueriesSet.prepend(added);
@@ -229,6 +230,7 @@ void ZEVFindPanelQueryParamsController::addSavedQuery(const ZEVFindPanelQuery &q
 
 void ZEVFindPanelQueryParamsController::removeSavedQuery(const ZEVFindPanelQuery &query)
 {
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): the query may be one of the list
     const ZEVFindPanelQuery removed = query;
     loadSavedQueries();
     m_savedQueriesSet.removeAll(removed);

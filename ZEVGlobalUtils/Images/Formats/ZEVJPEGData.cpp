@@ -41,7 +41,8 @@ bool readsWithoutWarning(jpeg_decompress_struct &decoder, std::vector<JSAMPLE> &
 /// The marker is put there: without one, its want alone would be a warning.
 bool ZEVJPEGMarkers::hasAllPixels(QByteArrayView bytes)
 {
-    const QByteArray ended = bytes.toByteArray() + "\xFF\xD9";
+    QByteArray ended = bytes.toByteArray();
+    ended.append("\xFF\xD9", 2);
     std::vector<JSAMPLE> row; // out here: the way back from an error runs no destructors
     ErrorManager error{};
     jpeg_decompress_struct decoder{};

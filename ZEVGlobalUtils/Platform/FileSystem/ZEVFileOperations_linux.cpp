@@ -32,7 +32,7 @@ ZEVFileFailure failureOfOpening(const ZEVPlace &source, const ZEVPlace &destinat
 /// Both places are open, the user's own leftovers in them have gone, and nothing forbids the operation.
 ZEVFileFailure prepare(const ZEVPlace &source, const ZEVPlace &destination)
 {
-    if (const ZEVFileFailure failure = failureOfOpening(source, destination))
+    if (ZEVFileFailure failure = failureOfOpening(source, destination))
         return failure;
     for (const ZEVPlace *place : {&source, &destination}) {
         const ZEVDescriptor folder = ZEVPlaces::openFolder({place->entry().folder, "."});
@@ -85,7 +85,7 @@ ZEVFileFailure ZEVFileOperations::copyItem(const QByteArray &source, const QByte
 {
     const ZEVPlace from(source);
     const ZEVPlace to(destination);
-    if (const ZEVFileFailure failure = prepare(from, to))
+    if (ZEVFileFailure failure = prepare(from, to))
         return failure;
     if (const int error = to.entry().checkIsFree())
         return error;
@@ -97,7 +97,7 @@ ZEVFileFailure ZEVFileOperations::moveItem(const QByteArray &source, const QByte
 {
     const ZEVPlace from(source);
     const ZEVPlace to(destination);
-    if (const ZEVFileFailure failure = prepare(from, to))
+    if (ZEVFileFailure failure = prepare(from, to))
         return failure;
     int error = to.entry().checkIsFree();
     if (error == EEXIST && isSameName(from.entry(), to.entry()))
@@ -113,9 +113,9 @@ ZEVFileFailure ZEVFileOperations::replaceItem(const QByteArray &item, const QByt
 {
     const ZEVPlace to(item);
     const ZEVPlace from(replacement);
-    if (const ZEVFileFailure failure = prepare(from, to))
+    if (ZEVFileFailure failure = prepare(from, to))
         return failure;
-    if (const ZEVFileFailure failure = ZEVItemMoving::obstacleToReplacing(end(from), end(to)))
+    if (ZEVFileFailure failure = ZEVItemMoving::obstacleToReplacing(end(from), end(to)))
         return failure;
     return ZEVItemMoving::replace(end(to), end(from));
 }
@@ -125,11 +125,11 @@ ZEVFileFailure ZEVFileOperations::moveReplacing(const QByteArray &source, const 
 {
     const ZEVPlace from(source);
     const ZEVPlace to(destination);
-    if (const ZEVFileFailure failure = prepare(from, to))
+    if (ZEVFileFailure failure = prepare(from, to))
         return failure;
-    if (const ZEVFileFailure failure = ZEVItemMoving::obstacleToReplacing(end(from), end(to)))
+    if (ZEVFileFailure failure = ZEVItemMoving::obstacleToReplacing(end(from), end(to)))
         return failure;
-    if (const ZEVFileFailure failure = obstacleToRemoval(to.entry(), to.path(), Force::MakeWritable))
+    if (ZEVFileFailure failure = obstacleToRemoval(to.entry(), to.path(), Force::MakeWritable))
         return failure;
     return ZEVItemMoving::moveByCopying(end(from), end(to), handling, ZEVItemMoving::Taken::Replace);
 }
@@ -150,7 +150,7 @@ ZEVFileFailure ZEVFileOperations::obstacleToReplacing(const QByteArray &source, 
 {
     const ZEVPlace from(source);
     const ZEVPlace to(destination);
-    const ZEVFileFailure failure = failureOfOpening(from, to);
+    ZEVFileFailure failure = failureOfOpening(from, to);
     return failure ? failure : ZEVItemMoving::obstacleToReplacing(end(from), end(to));
 }
 
@@ -160,7 +160,7 @@ ZEVFileFailure ZEVFileOperations::createDirectory(const QByteArray &path, bool w
     const qsizetype slash = path.lastIndexOf('/');
     int error = makeFolder(path);
     if (error == ENOENT && withIntermediateDirectories && slash > 0) {
-        if (const ZEVFileFailure failure = createDirectory(path.first(slash), true, created))
+        if (ZEVFileFailure failure = createDirectory(path.first(slash), true, created))
             return failure;
         error = makeFolder(path);
     }
@@ -186,7 +186,7 @@ ZEVFileFailure ZEVFileOperations::createTemporaryDirectory(const QByteArray &pat
 ZEVFileFailure ZEVFileOperations::createFile(const QByteArray &path, const QByteArray &contents)
 {
     const ZEVPlace place(path);
-    if (const ZEVFileFailure failure = failureOfOpening(place, place))
+    if (ZEVFileFailure failure = failureOfOpening(place, place))
         return failure;
     if (const int error = place.entry().checkIsFree()) // saves writing it all; the renaming decides
         return error;

@@ -39,7 +39,7 @@ int readWhole(QByteArray &bytes, const auto &read)
 /// A file system that does not have something, or has it for its owner alone.
 bool isRefusal(int error)
 {
-    return error == EPERM || error == EOPNOTSUPP || error == ENOTSUP || error == ENOSYS;
+    return error == EPERM || error == EOPNOTSUPP || error == ENOSYS; // ENOTSUP is the second one's other name
 }
 
 /// Also told as a full disk, where the disk is not full.

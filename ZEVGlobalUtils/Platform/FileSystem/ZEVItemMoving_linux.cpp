@@ -92,7 +92,7 @@ ZEVFileFailure takeAway(const End &source, const ZEVCopiedItems &copied)
     };
     if (const int error = renameWithoutReplacing(source.entry, aside))
         return error == EXDEV ? removeInPlace(source, copied) : error;
-    if (const ZEVFileFailure failure = checkUnchanged(copied, source, aside, Compare::NotTimeOfChange)) {
+    if (ZEVFileFailure failure = checkUnchanged(copied, source, aside, Compare::NotTimeOfChange)) {
         comeBack(aside);
         return failure;
     }
@@ -114,7 +114,7 @@ ZEVFileFailure bringIn(const ZEVEntry &copy, const End &from, const End &to, con
     if (error)
         return failureOfRenaming(error, to, to);
     synchronizeFolder(to.entry);
-    const ZEVFileFailure failure = takeAway(from, copied);
+    ZEVFileFailure failure = takeAway(from, copied);
     if (failure && failure.reason != Reason::Changed && replacement.takeBack() == 0)
         return failure;
     replacement.finish();
@@ -130,7 +130,7 @@ int replaceItself(const End &to, const End &from)
 
 ZEVFileFailure replaceByExchange(const End &to, const End &from)
 {
-    if (const ZEVFileFailure failure = obstacleToRemoval(to.entry, to.path, Force::MakeWritable))
+    if (ZEVFileFailure failure = obstacleToRemoval(to.entry, to.path, Force::MakeWritable))
         return failure;
     ZEVItemReplacement replacement(to.entry, from.entry);
     if (const int error = replacement.put())
@@ -201,7 +201,7 @@ ZEVFileFailure ZEVItemMoving::failureOfRenaming(int error, const End &from, cons
 ZEVFileFailure ZEVItemMoving::moveByCopying(const End &from, const End &to,
                                             const ZEVFileOperations::Handling &handling, Taken taken)
 {
-    if (const ZEVFileFailure failure = obstacleToRemoval(from.entry, from.path, Force::None))
+    if (ZEVFileFailure failure = obstacleToRemoval(from.entry, from.path, Force::None))
         return failure;
     const ZEVEntry temporary = to.entry.sibling(ZEVTemporaries::name());
     ZEVItemCopying copying(handling, ZEVItemCopying::Owner::Source, from.path, to.path);
@@ -221,7 +221,7 @@ ZEVFileFailure ZEVItemMoving::replace(const End &to, const End &from)
 {
     if (const int error = synchronize(from.entry))
         return error;
-    if (const ZEVFileFailure failure = put(to, from))
+    if (ZEVFileFailure failure = put(to, from))
         return failure;
     // The item is in its place; a folder that cannot be written out is no reason to say that it is not.
     if (synchronizeFolder(to.entry) || synchronizeFolder(from.entry))

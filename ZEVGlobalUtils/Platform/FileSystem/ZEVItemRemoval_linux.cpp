@@ -114,7 +114,7 @@ private:
         if (!names.isEmpty() && !canOpen && !mayChange(folder.get()))
             return {EACCES, Reason::Removal, path + '/' + names.first()};
         for (const QByteArray &name : std::as_const(names)) {
-            if (const ZEVFileFailure failure = look({folder.get(), name}, status, path + '/' + name))
+            if (ZEVFileFailure failure = look({folder.get(), name}, status, path + '/' + name))
                 return failure;
         }
         return 0;

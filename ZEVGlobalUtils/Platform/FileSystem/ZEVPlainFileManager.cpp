@@ -112,7 +112,7 @@ bool ZEVPlainFileManager::moveItemAtURL(const QUrl &srcURL, const QUrl &dstURL, 
 bool ZEVPlainFileManager::replaceItemAtURL(const QUrl &originalItemURL, const QUrl &newItemURL,
                                            QUrl *resultingItemURL, ZEVError *error)
 {
-    const ZEVFileFailure failure = perform(ZEVFileOperations::replaceItem, originalItemURL, newItemURL);
+    ZEVFileFailure failure = perform(ZEVFileOperations::replaceItem, originalItemURL, newItemURL);
     const QUrl resulting = originalItemURL; // which may be the same as what it is written to
     if (!failure && resultingItemURL)
         *resultingItemURL = resulting;
@@ -121,7 +121,7 @@ bool ZEVPlainFileManager::replaceItemAtURL(const QUrl &originalItemURL, const QU
 
 bool ZEVPlainFileManager::moveItemReplacingItemAtURL(const QUrl &srcURL, const QUrl &dstURL, ZEVError *error)
 {
-    const ZEVFileFailure failure = perform(
+    ZEVFileFailure failure = perform(
         [this](const QByteArray &source, const QByteArray &destination) {
             return ZEVFileOperations::moveReplacing(source, destination, handlingOf(*this));
         },

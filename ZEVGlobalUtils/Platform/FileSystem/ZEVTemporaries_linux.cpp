@@ -33,7 +33,7 @@ constexpr qsizetype LongestName = 143; ///< bytes: what encrypted folders take, 
 enum Number { Time, Machine, Process, Random, NumberOfNumbers };
 using Numbers = std::array<quint32, NumberOfNumbers>;
 
-constexpr qsizetype NumbersEnd = Prefix.size() + NumberOfNumbers * NumberWidth;
+constexpr qsizetype NumbersEnd = Prefix.size() + qsizetype(NumberOfNumbers) * NumberWidth;
 
 /// Of this machine and its processes: those of a container have numbers of their own.
 quint32 machine()
