@@ -97,7 +97,7 @@ QString ZEVFindPanelQuery::expressionPattern() const
 std::optional<ZEVRegularExpression> ZEVFindPanelQuery::searchExpression() const
 {
     ZEVError error;
-    const auto expression = searchExpression(&error);
+    auto expression = searchExpression(&error);
     if (!expression && hasPattern())
         ZEVErrorPresentation::presentError(error);
     return expression;

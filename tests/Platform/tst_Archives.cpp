@@ -189,6 +189,8 @@ private Q_SLOTS:
                                        QVariant(u"aGVsbG8="_s)}) { // base64 of something else
             raw->setValue(u"damaged"_s, stored);
             COMPARE_ROW(stored, defaults.objectForKey(u"damaged"_s), QVariant());
+            defaults.setObject(1, u"damaged"_s);
+            COMPARE_ROW(stored, raw->value(u"damaged-unreadable"_s), stored); // nothing is lost by it
         }
     }
 

@@ -11,6 +11,8 @@
 
 namespace {
 
+const QString UnreadableSuffix = QStringLiteral("-unreadable");
+
 /// QSettings makes groups of "/" and "\"; an encoded key stays the one key that it is.
 QString storeKey(const QString &key) { return QString::fromLatin1(QUrl::toPercentEncoding(key)); }
 
@@ -57,6 +59,8 @@ void ZEVUserDefaults::setObject(const QVariant &value, const QString &key)
 {
     const QString name = storeKey(key);
     const QVariant before = m_store->value(name);
+    if (before.isValid() && !objectForKey(key).isValid() && elementsForKey(key).isEmpty())
+        m_store->setValue(storeKey(key + UnreadableSuffix), before);
     if (!value.isValid()) {
         m_store->remove(name);
     } else {

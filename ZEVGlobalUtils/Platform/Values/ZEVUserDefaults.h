@@ -37,6 +37,8 @@ public:
 
     /// Stores a boolean, number, string, byte array, list or map of these, or an object of a class that is
     /// registered for archives; an invalid \a value removes the key.
+    /// What stands there and cannot be read at all, of a later version or damaged, is kept beside it under the
+    /// key with "-unreadable" behind it.
     void setObject(const QVariant &value, const QString &key);
     void removeObjectForKey(const QString &key) { setObject({}, key); }
 
