@@ -113,7 +113,8 @@ bool ZEVPlainFileManager::replaceItemAtURL(const QUrl &originalItemURL, const QU
                                            QUrl *resultingItemURL, ZEVError *error)
 {
     ZEVFileFailure failure = perform(ZEVFileOperations::replaceItem, originalItemURL, newItemURL);
-    const QUrl resulting = originalItemURL; // which may be the same as what it is written to
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): it may be what the result is written to
+    const QUrl resulting = originalItemURL;
     if (!failure && resultingItemURL)
         *resultingItemURL = resulting;
     return succeeded(failure, error, resulting);

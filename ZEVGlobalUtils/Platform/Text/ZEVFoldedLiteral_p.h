@@ -5,6 +5,8 @@
 
 #include <ZEVGlobalUtils/Platform/Text/ZEVTextScan_p.h>
 
+#include <QString>
+
 #include <optional>
 #include <string>
 #include <vector>

@@ -171,7 +171,7 @@ ZEV_AVX2 Block avx2Block(const Anchors &anchors, const Stretch &stretch)
         const char16_t *b = stretch.text + block.begin + anchors.offsets[1];
         const char16_t *c = stretch.text + block.begin + anchors.insteadOffset;
         __m256i fits[4];
-        for (int i = 0; i < 4; ++i) {
+        for (qsizetype i = 0; i < 4; ++i) {
             fits[i] = _mm256_and_si256(first(load256(a + 16 * i)), second(load256(b + 16 * i)));
             if (anchors.instead.count)
                 fits[i] = _mm256_or_si256(fits[i], instead(load256(c + 16 * i)));
@@ -192,7 +192,7 @@ ZEV_AVX2 Classes avx2Classes(const AsciiRanges &ranges, const char16_t *text)
     const __m256i zero = _mm256_setzero_si256();
     __m256i isIn[4];
     __m256i isAscii[4];
-    for (int i = 0; i < 4; ++i) {
+    for (qsizetype i = 0; i < 4; ++i) {
         const __m256i units = load256(text + 16 * i);
         isAscii[i] = _mm256_cmpeq_epi16(_mm256_subs_epu16(units, _mm256_set1_epi16(0x7F)), zero);
         isIn[i] = zero;

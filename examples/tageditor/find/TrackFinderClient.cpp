@@ -9,7 +9,7 @@
 /// value before it.
 QString TrackFinderClient::stringAtIndex(qsizetype index, ZEVRange &effectiveRange) const
 {
-    const QString text = ZEVItemModelFinderClient::stringAtIndex(index, effectiveRange);
+    QString text = ZEVItemModelFinderClient::stringAtIndex(index, effectiveRange);
     if (!text.contains(TagValues::Separator))
         return text;
     const qsizetype place = index - effectiveRange.location;

@@ -97,8 +97,8 @@ QString copyBytes(const std::filesystem::path &from, const std::filesystem::path
     const int failure = ::posix_fallocate(target.handle(), 0, after.size());
     if (failure == 0 && setBytes(target, after))
         return {};
-    const QString problem = failure == 0 ? target.errorString()
-                                         : QString::fromStdString(std::generic_category().message(failure));
+    QString problem = failure == 0 ? target.errorString()
+                                   : QString::fromStdString(std::generic_category().message(failure));
     setBytes(target, before);
     return problem;
 }
