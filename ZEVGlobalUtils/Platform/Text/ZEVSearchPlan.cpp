@@ -39,7 +39,7 @@ QString takeCharacter(QStringView &rest)
     if (isEscaped)
         rest = rest.mid(1);
     const bool isPair = rest.size() > 1 && rest[0].isHighSurrogate() && rest[1].isLowSurrogate();
-    const QString character = rest.left(isPair ? 2 : 1).toString();
+    QString character = rest.left(isPair ? 2 : 1).toString();
     rest = rest.mid(character.size());
     return character;
 }
