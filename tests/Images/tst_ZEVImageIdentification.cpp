@@ -86,6 +86,7 @@ private Q_SLOTS:
             {extendedWebp(), u"image/webp"_s, {320, 65680}},
             {losslessWebp(300, 16384), u"image/webp"_s, {300, 16384}},
             {EncodedImages::avif(4000, 3000), u"image/avif"_s, {4000, 3000}},
+            {EncodedImages::avif(4000, 3000).replace("avif", "heic"), u"image/heic"_s, {4000, 3000}},
             {bigTiff, u"image/tiff"_s, {37, 65536}},
             {endlessPng, u"image/png"_s, {}}, // more than an int
         };
