@@ -3,6 +3,7 @@
 
 #include <ZEVGlobalUtils/ImageViews/ZEVDragImageView.h>
 
+#include <ZEVGlobalUtils/Images/Artwork/ZEVCopiedArtwork_p.h>
 #include <ZEVGlobalUtils/Images/Artwork/ZEVImageDescription.h>
 #include <ZEVGlobalUtils/Images/Artwork/ZEVPboardImageWriter.h>
 #include <ZEVGlobalUtils/Images/Artwork/ZEVPreviewPanel.h>
@@ -55,12 +56,6 @@ void answer(QDropEvent *event, Qt::DropAction action)
 
 /// As the beginning of a label.
 QString capitalized(const QString &text) { return text.left(1).toUpper() + text.mid(1); }
-
-QByteArray tiffOf(const QImage &image)
-{
-    QBuffer buffer;
-    return image.save(&buffer, "TIFF") ? buffer.data() : QByteArray();
-}
 
 /// A page of the size of the view, a point for a point.
 QByteArray pdfOf(ZEVInnerImageView *view)
@@ -423,7 +418,7 @@ QByteArray ZEVDragImageView::provideDataForType(const ZEVPasteboard &, const ZEV
     if (m_imageView->image().isNull())
         return {};
     if (ZEVUniformType::isEqual(type, ZEVUniformType::TIFF))
-        return tiffOf(m_imageDescription->image());
+        return ZEVCopiedArtwork({}, m_imageDescription->image()).pasteboardPropertyListForType(type);
     return ZEVUniformType::isEqual(type, u"com.adobe.pdf") ? pdfOf(m_imageView) : QByteArray();
 }
 
