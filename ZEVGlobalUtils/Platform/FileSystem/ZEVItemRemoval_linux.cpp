@@ -93,10 +93,11 @@ public:
         return S_ISDIR(status.st_mode) ? lookWithin(entry, status, path) : 0;
     }
 
-    /// Whether anything in a folder may be removed.
-    bool mayChange(int folder) const
+    /// What stops everything in a folder from being removed, as an error of the system; 0 for nothing.
+    static int obstacleOf(int folder)
     {
-        return faccessat(folder, ".", W_OK | X_OK, AT_EACCESS) == 0 && !isFixed(folder, "");
+        const int error = ZEVPlaces::errnoOf(faccessat(folder, ".", W_OK | X_OK, AT_EACCESS));
+        return error == 0 && isFixed(folder, "") ? EACCES : error;
     }
 
 private:
@@ -111,8 +112,8 @@ private:
         QByteArrayList names;
         if (const int error = ZEVPlaces::readNames(folder.get(), names))
             return {error, Reason::Removal, path};
-        if (!names.isEmpty() && !canOpen && !mayChange(folder.get()))
-            return {EACCES, Reason::Removal, path + '/' + names.first()};
+        if (const int error = names.isEmpty() || canOpen ? 0 : obstacleOf(folder.get()))
+            return {error, Reason::Removal, path + '/' + names.first()};
         for (const QByteArray &name : std::as_const(names)) {
             if (ZEVFileFailure failure = look({folder.get(), name}, status, path + '/' + name))
                 return failure;
@@ -142,8 +143,8 @@ ZEVFileFailure ZEVItemRenaming::obstacleToRemoval(const ZEVEntry &entry, const Q
     struct stat folder { };
     if (fstat(entry.folder, &folder) < 0)
         return errno;
-    if (!survey.mayChange(entry.folder))
-        return {EACCES, ZEVFileFailure::Reason::Folder,
+    if (const int error = Survey::obstacleOf(entry.folder))
+        return {error, ZEVFileFailure::Reason::Folder,
                 path.first(std::max<qsizetype>(path.lastIndexOf('/'), 1))};
     return survey.look(entry, folder, path);
 }
