@@ -8,6 +8,7 @@
 #include <cstring>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <string>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
@@ -42,8 +43,19 @@ struct Without {
     ~Without() { alwaysFailing = ""; }
 };
 
+inline thread_local std::string *heard = nullptr;
+
+/// The names of the calls that are made as long as this lives, each with a space behind it.
+struct Trace {
+    Trace() { heard = &calls; }
+    ~Trace() { heard = nullptr; }
+    std::string calls;
+};
+
 inline bool fails(const char *name)
 {
+    if (heard)
+        *heard += std::string(name) + ' ';
     if (callsLeft > 0 && --callsLeft == 0) {
         errno = failure;
         return true;

@@ -167,6 +167,15 @@ private Q_SLOTS:
             {"as it was", [] {}},
             {"data", [&] { source->setData(source->index(1, 0), u"longer"_s); }},
             {"emptied", [&] { source->setData(source->index(0, 0), QString()); }},
+            {"data of two rows at once",
+             [&] {
+                 {
+                     const QSignalBlocker blocker(source.get());
+                     for (const int row : {1, 2})
+                         source->setData(source->index(row, 1), u"long text"_s);
+                 }
+                 Q_EMIT source->dataChanged(source->index(0, 0), source->index(2, 1));
+             }},
             {"rows in", [&] { source->insertRow(1, new QStandardItem(u"in"_s)); }},
             {"rows out", [&] { source->removeRow(0); }},
             {"sorted", [&] { sorted.sort(0, Qt::DescendingOrder); }},
@@ -204,6 +213,10 @@ private Q_SLOTS:
         QVERIFY(!client.matchesInCell(source->index(0, 1)).ranges.isEmpty()); // nothing before it has moved
         source->removeRow(2);
         QVERIFY(client.matchesInCell(source->index(0, 1)).ranges.isEmpty()); // they may lie anywhere now
+        finder.find(u"$"_s);
+        source->insertRow(1, new QStandardItem(u"g"_s));
+        for (int row = 0; row < 3; ++row)
+            QVERIFY(client.matchesInCell(source->index(row, 1)).ranges.isEmpty());
 
         client.stringAtIndex(0, range); // the walk would go on at 2
         source->setData(source->index(0, 2), QString());

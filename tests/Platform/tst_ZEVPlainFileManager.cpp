@@ -152,13 +152,18 @@ private Q_SLOTS:
         for (const bool isFolder : {false, true}) {
             const Pair copied(isFolder), moved(isFolder), replaced(isFolder, "old");
             const Pair across(isFolder, {}, m_other.folder.path());
-            QVERIFY(copied.run(Copy) && copied.isDone(true));
+            QVERIFY(copied.run(Copy));
+            QVERIFY(copied.isDone(true));
             struct stat status { };
             stat((copied.destination + "/sparse").constData(), &status);
             QVERIFY(!isFolder || status.st_blocks < 64); // the hole is one
-            QVERIFY(moved.run(Move) && moved.isDone(false));
-            QVERIFY(replaced.run(Replace) && replaced.isDone(false));
-            QVERIFY(m_other.isOther() && across.run(Move) && across.isDone(false));
+            QVERIFY(moved.run(Move));
+            QVERIFY(moved.isDone(false));
+            QVERIFY(replaced.run(Replace));
+            QVERIFY(replaced.isDone(false));
+            QVERIFY(m_other.isOther());
+            QVERIFY(across.run(Move));
+            QVERIFY(across.isDone(false));
         }
     }
 
@@ -259,6 +264,24 @@ private Q_SLOTS:
                 COMPARE_ROW(call, codeOf(taken, Move), 516);
                 QVERIFY2(taken.isAsBefore(), call);
             }
+        }
+    }
+
+    /// The copy, then the folder that has its name: only then the source may go.
+    void theSourceGoesOnceTheCopyIsWrittenOut()
+    {
+        for (const bool isFolder : {false, true}) {
+            const Pair pair(isFolder, {}, m_other.folder.path());
+            SystemFaults::Trace trace;
+            QVERIFY(pair.run(Move));
+            QStringList order;
+            for (const QString &call : QString::fromStdString(trace.calls).split(u' ')) {
+                if (call.endsWith(u"sync") || call == u"syncfs" || call == u"renameat2")
+                    order += call;
+            }
+            const QString item = isFolder ? u"syncfs"_s : u"fsync"_s;
+            QCOMPARE(order.first(5),
+                     (QStringList{u"renameat2"_s, item, u"renameat2"_s, u"fsync"_s, u"renameat2"_s}));
         }
     }
 
@@ -369,7 +392,9 @@ private Q_SLOTS:
         ZEVError error;
         QVERIFY(!manager.copyItemAtURL(ZEVFileURL::withPath(pair.source),
                                        ZEVFileURL::withPath(pair.destination), &error));
-        QVERIFY(told >= 10 && wasPrivate && pair.isAsBefore());
+        QVERIFY(told >= 10);
+        QVERIFY(wasPrivate);
+        QVERIFY(pair.isAsBefore());
         QCOMPARE(ZEVFileErrors::posixCode(error), ECANCELED);
     }
 
@@ -385,7 +410,8 @@ private Q_SLOTS:
         QVERIFY(setxattr(pair.destination.chopped(5).constData(), "system.posix_acl_default", list,
                          sizeof list - 1, 0)
                 == 0);
-        QVERIFY(pair.run(Copy) && pair.isDone(true));
+        QVERIFY(pair.run(Copy));
+        QVERIFY(pair.isDone(true));
     }
 };
 
