@@ -63,9 +63,10 @@ private Q_SLOTS:
         QCOMPARE(error.userInfo().value(u"k"_s), 1);
         const auto attempter = ZEVErrorRecoveryAttempting::attempterOfError(error);
         error = {};
-        QVERIFY(attempter->attemptRecoveryFromError(error, 0) && m_retries == 1);
-        QVERIFY(!attempter->attemptRecoveryFromError(error, 1)
-                && !attempter->attemptRecoveryFromError(error, 2));
+        QVERIFY(attempter->attemptRecoveryFromError(error, 0));
+        QVERIFY(m_retries == 1);
+        QVERIFY(!attempter->attemptRecoveryFromError(error, 1));
+        QVERIFY(!attempter->attemptRecoveryFromError(error, 2));
     }
 
     void everyPresentationRunsTheChosenOption()
@@ -102,11 +103,12 @@ private Q_SLOTS:
         std::optional<qint64> all;
         {
             const Answers once(1);
-            QVERIFY(!presentErrorSolver(nullptr, item, &all, true) && !all);
+            QVERIFY(!presentErrorSolver(nullptr, item, &all, true));
+            QVERIFY(!all);
         }
         const Answers answers(1, true);
-        QVERIFY(!presentErrorSolver(nullptr, item, &all, true)
-                && !presentErrorSolver(nullptr, item, &all, true));
+        QVERIFY(!presentErrorSolver(nullptr, item, &all, true));
+        QVERIFY(!presentErrorSolver(nullptr, item, &all, true));
         QCOMPARE(all, 1);
         all = 0; // is an answer as well
         QVERIFY(presentErrorSolver(nullptr, item, &all, true));
@@ -114,7 +116,8 @@ private Q_SLOTS:
         const ZEVAlert &alert = answers.shown.first();
         QCOMPARE(alert.windowTitle, u"Copying"_s);
         QCOMPARE(alert.suppressionTitle, u"Apply to All"_s);
-        QVERIFY(alert.showsSuppressionButton && !alert.icon.isNull());
+        QVERIFY(alert.showsSuppressionButton);
+        QVERIFY(!alert.icon.isNull());
     }
 
     void bookmarksFollowRenamedItems()
@@ -136,9 +139,10 @@ private Q_SLOTS:
                  url("a\xFF.flac")); // as when it was saved anew
         std::filesystem::remove((root + "a\xFF.flac").toStdString());
         ZEVError error;
-        QVERIFY(!ZEVURLBookmarkAdditions::URLWithBookmark(bookmark, &error).isValid() && error.code() == 4);
-        QVERIFY(ZEVURLBookmarkAdditions::bookmarkWithError(url("none"), &error).isNull()
-                && error.code() == 4);
+        QVERIFY(!ZEVURLBookmarkAdditions::URLWithBookmark(bookmark, &error).isValid());
+        QVERIFY(error.code() == 4);
+        QVERIFY(ZEVURLBookmarkAdditions::bookmarkWithError(url("none"), &error).isNull());
+        QVERIFY(error.code() == 4);
         const auto values = ZEVURLBookmarkAdditions::resourceValuesForBookmark(bookmark);
         QCOMPARE(values->localizedName, u"a\uFFFD.flac"_s);
         QCOMPARE(values->effectiveIconName, u"audio-flac"_s);
@@ -162,11 +166,14 @@ private Q_SLOTS:
             return response;
         });
         const QUrl place(u"file:///home/none/of/these"_s);
-        QVERIFY(!ZEVURLFileAccess::runModalSandboxPanel(place) && stored().isEmpty());
+        QVERIFY(!ZEVURLFileAccess::runModalSandboxPanel(place));
+        QVERIFY(stored().isEmpty());
         QVERIFY(!ZEVURLFileAccess::requestSandboxExtention(place)); // nobody is asked outside of a sandbox
         response = 1;
-        for (int n = 0; n < 2; ++n)
-            QVERIFY(ZEVURLFileAccess::runModalSandboxPanel(place) && stored().size() == 1);
+        for (int n = 0; n < 2; ++n) {
+            QVERIFY(ZEVURLFileAccess::runModalSandboxPanel(place));
+            QVERIFY(stored().size() == 1);
+        }
         ZEVOpenPanel::setRunner({});
         QCOMPARE(ZEVDataBookmarkAdditions::bookmarkedURL(stored().first().toByteArray()),
                  Trees::url(folder.path()));

@@ -110,7 +110,8 @@ private Q_SLOTS:
         const bool isSafe = ZEVURLFileAccess::isSafeURL(ZEVFileURL::withPath(root + "/a"));
         const bool rootIsSafe = ZEVURLFileAccess::isSafeURL(ZEVFileURL::withPath(root));
         QVERIFY(umount(root.constData()) == 0);
-        QVERIFY(isSafe && !rootIsSafe);
+        QVERIFY(isSafe);
+        QVERIFY(!rootIsSafe);
     }
 
     void takenNamesAreNumbered()
@@ -133,9 +134,11 @@ private Q_SLOTS:
         for (int n = 3; n <= 300; ++n)
             QVERIFY(Trees::write(path("README " + QByteArray::number(n)), "old"));
         ZEVError error;
-        QVERIFY(!write("README", &final, &error) && ZEV_isFileWriteFileExistsError(error));
+        QVERIFY(!write("README", &final, &error));
+        QVERIFY(ZEV_isFileWriteFileExistsError(error));
         QVERIFY(!QFile::exists(QString::fromUtf8(path("README 301"))));
-        QVERIFY(!write("none/README", &final, &error) && ZEV_isNoSuchFileError(error));
+        QVERIFY(!write("none/README", &final, &error));
+        QVERIFY(ZEV_isNoSuchFileError(error));
         {
             const SystemFaults::Nth full(4, ENOSPC);
             QVERIFY(!write("Full", &final, &error));
@@ -158,22 +161,27 @@ private Q_SLOTS:
         };
         const ZEVError taken(u"NSCocoaErrorDomain", 516), foreign(u"x", 516);
         QUrl out;
-        QVERIFY(attempt(3, taken, "a.mp3", out) && out == url("a 4.mp3"));
-        QVERIFY(attempt(1, taken, "Name", out) && out == url("Name 2."));
-        QVERIFY(!attempt(0, taken, "a", out) && attempts == 998);
-        QVERIFY(!attempt(0, foreign, "a", out) && attempts == 1);
+        QVERIFY(attempt(3, taken, "a.mp3", out));
+        QVERIFY(out == url("a 4.mp3"));
+        QVERIFY(attempt(1, taken, "Name", out));
+        QVERIFY(out == url("Name 2."));
+        QVERIFY(!attempt(0, taken, "a", out));
+        QVERIFY(attempts == 998);
+        QVERIFY(!attempt(0, foreign, "a", out));
+        QVERIFY(attempts == 1);
     }
 
     void commonAncestors()
     {
         using namespace ZEVURLCommonAncestor;
         QVERIFY(QDir().mkpath(QString::fromUtf8(path("x/ab"))));
-        QVERIFY(Trees::write(path("x/ac"), {}) && Trees::write(path("x/ab/f"), {}));
+        QVERIFY(Trees::write(path("x/ac"), {}));
+        QVERIFY(Trees::write(path("x/ab/f"), {}));
         QCOMPARE(URLCommonToURLs({url("a/b/c.mp3"), url("a/b/d.mp3")}), url("a/b"));
         QCOMPARE(URLCommonToURLs({url("a/b"), url("a/b/d")}), url("a/b"));
         QCOMPARE(URLCommonToURLs({QUrl(u"file:///a"_s), QUrl(u"file:///b"_s)}), QUrl(u"file:///"_s));
-        QVERIFY(!URLCommonToURLs({}).isValid()
-                && !commonDirectoryToURLs({url("no/a"), url("no/b")}).isValid());
+        QVERIFY(!URLCommonToURLs({}).isValid());
+        QVERIFY(!commonDirectoryToURLs({url("no/a"), url("no/b")}).isValid());
         QCOMPARE(commonDirectoryToURLs({url("x/ac")}), url("x"));
         QCOMPARE(commonDirectoryToURLs({url("x/ab/f"), url("x/ac")}), url("x"));
         QCOMPARE(paths(firstDescendantsOfCommonParent({url("x/ab/f"), url("x/ac"), url("x/ab/g")})),
@@ -186,10 +194,12 @@ private Q_SLOTS:
     void foldersAndFilters()
     {
         using namespace ZEVFileManagerHelpers;
-        QVERIFY(QDir().mkpath(QString::fromUtf8(path("empty"))) && Trees::write(path("empty/.hidden"), {}));
+        QVERIFY(QDir().mkpath(QString::fromUtf8(path("empty"))));
+        QVERIFY(Trees::write(path("empty/.hidden"), {}));
         QVERIFY(isEmptyDirectoryAtURL(manager(), url("empty")));
         QVERIFY(isEmptyDirectoryAtURL(manager(), url("empty/.hidden"))); // which cannot be listed
-        QVERIFY(!isEmptyDirectoryAtURL(manager(), url("")) && !isEmptyDirectoryAtURL(manager(), url("none")));
+        QVERIFY(!isEmptyDirectoryAtURL(manager(), url("")));
+        QVERIFY(!isEmptyDirectoryAtURL(manager(), url("none")));
         const QList<QUrl> all{url("empty/.hidden"), url("none"), url("empty")};
         QCOMPARE(filteredArrayOfExistingURLs(manager(), all, false), (QList{all.at(0), all.at(2)}));
         QCOMPARE(filteredArrayOfExistingURLs(manager(), all, true), QList{all.at(2)});
@@ -199,7 +209,8 @@ private Q_SLOTS:
     {
         using ZEVFileManagerHelpers::atomicCopyItemAtURL;
         Trees::makeHard(path("hard"));
-        QVERIFY(QDir().mkpath(QString::fromUtf8(path("to"))) && Trees::write(path("to/item"), "old"));
+        QVERIFY(QDir().mkpath(QString::fromUtf8(path("to"))));
+        QVERIFY(Trees::write(path("to/item"), "old"));
         const Trees::Contents before = Trees::contents(path("hard"));
         bool wasReached = true;
         for (int n = 1; wasReached; ++n) {

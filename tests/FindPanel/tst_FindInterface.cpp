@@ -211,7 +211,8 @@ private Q_SLOTS:
         QTest::keyClicks(&shown.field(), u"(a"_s);
         QCOMPARE(shown.listener.searches.last(), u"nil"_s);
         auto *message = shown.child<QLabel>(u"messageLabel"_s);
-        QVERIFY(message->isVisible() && message->text().contains(u"parenthesis"));
+        QVERIFY(message->isVisible());
+        QVERIFY(message->text().contains(u"parenthesis"));
         QTest::keyClicks(&shown.field(), u")"_s);
         QVERIFY(!message->isVisible());
         shown.controller.setNumberOfMatches(12);
@@ -332,7 +333,8 @@ private Q_SLOTS:
     {
         QProcess other;
         other.start(QCoreApplication::applicationFilePath(), {u"--write"_s, u"Übung"_s});
-        QVERIFY(other.waitForFinished() && other.exitCode() == 0);
+        QVERIFY(other.waitForFinished());
+        QVERIFY(other.exitCode() == 0);
         auto pasteboard = ZEVFindPasteboard::findPasteboard().value();
         QCOMPARE(pasteboard.string(), u"Übung"_s);
         const qint64 count = pasteboard.changeCount();
@@ -416,7 +418,8 @@ private Q_SLOTS:
         auto *scope = shown.child(u"scopeButton"_s);
         QVERIFY(!scope->isVisible());
         shown.controller.setScope(std::make_shared<ZEVFindPanelScope>(u"Library"_s));
-        QVERIFY(scope->isVisible() && scope->text() == u"Library");
+        QVERIFY(scope->isVisible());
+        QVERIFY(scope->text() == u"Library");
         shown.child(u"findMenuButton"_s)->pressed();
         QVERIFY(titles(shown.field().dropDownMenu()).contains(u"Custom"_s));
         shown.field().dropDownMenu()->close();
@@ -511,12 +514,14 @@ private Q_SLOTS:
         Window window({u"ab"_s, u"ba"_s});
         window.container.setFocus();
         window.finder.performAction(12);
-        QVERIFY(window.container.isFindBarVisible() && window.bar().showReplace());
+        QVERIFY(window.container.isFindBarVisible());
+        QVERIFY(window.bar().showReplace());
         QVERIFY(window.bar().findTokenField()->hasFocus()); // it begins with what to find
         window.finder.performAction(12);
         QVERIFY(window.bar().replaceTokenField()->hasFocus());
         window.finder.performAction(1);
-        QVERIFY(window.bar().showReplace() && window.bar().findTokenField()->hasFocus());
+        QVERIFY(window.bar().showReplace());
+        QVERIFY(window.bar().findTokenField()->hasFocus());
         const int tall = window.bar().view()->sizeHint().height();
         QTRY_COMPARE(window.editor.mapTo(&window.container, QPoint()).y() > tall, true);
         QCOMPARE(window.bar().view()->height(), tall);
@@ -753,10 +758,12 @@ private Q_SLOTS:
         window.bar().setMatchingType(ZEVFindPanelQuery::RegularExpression);
         const auto *message = window.bar().view()->findChild<QLabel *>(u"messageLabel"_s);
         window.bar().setSearchPattern(QVariantList{u"(a+)+$"_s});
-        QVERIFY(window.finder.isSearching() && !message->isVisible());
+        QVERIFY(window.finder.isSearching());
+        QVERIFY(!message->isVisible());
         QTRY_VERIFY2(message->text().contains(u"Escape"), qPrintable(message->text()));
         QTest::keyClick(window.bar().findTokenField(), Qt::Key_Escape);
-        QVERIFY(!window.finder.isSearching() && window.container.isFindBarVisible());
+        QVERIFY(!window.finder.isSearching());
+        QVERIFY(window.container.isFindBarVisible());
         QVERIFY(message->text().contains(u"stopped"));
         QTest::keyClick(window.bar().findTokenField(), Qt::Key_Escape);
         QVERIFY(!window.container.isFindBarVisible());

@@ -59,7 +59,8 @@ void checkEditor()
     const auto selected = [&] { return editor.textCursor().selectionStart(); };
     editor.moveCursor(QTextCursor::Start);
     window.press(Qt::Key_F, Qt::ControlModifier);
-    QVERIFY(window.place->isFindBarVisible() && window.place->bar().hasFocus());
+    QVERIFY(window.place->isFindBarVisible());
+    QVERIFY(window.place->bar().hasFocus());
     window.type(u"one"_s);
     QCOMPARE(window.count(), 3);
     window.press(Qt::Key_F3);
@@ -77,7 +78,8 @@ void checkEditor()
     window.pressButton(u"replaceAllButton"_s);
     QCOMPARE(editor.toPlainText(), u"1 two\n1\nthree 1"_s);
     window.press(Qt::Key_Escape);
-    QVERIFY(!window.place->isFindBarVisible() && editor.hasFocus());
+    QVERIFY(!window.place->isFindBarVisible());
+    QVERIFY(editor.hasFocus());
 
     editor.setPlainText(u"two two"_s); // unseen, so nobody looks after it
     window.press(Qt::Key_F, Qt::ControlModifier);

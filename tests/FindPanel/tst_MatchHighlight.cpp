@@ -117,7 +117,8 @@ private Q_SLOTS:
         QCOMPARE(cell.extentOf(cell.matchColor(false)).first, -1);
         cell.find(u"m{4}"_s);
         const auto both = cell.extentOf(cell.matchColor(false));
-        QVERIFY(both.first >= 0 && both.second > both.first);
+        QVERIFY(both.first >= 0);
+        QVERIFY(both.second > both.first);
         cell.goToNextMatch();
         const auto current = cell.extentOf(cell.matchColor(true));
         const auto other = cell.extentOf(cell.matchColor(false));
@@ -133,7 +134,8 @@ private Q_SLOTS:
         const auto latin = cell.extentOf(cell.matchColor(false));
         cell.find(u"ليل"_s);
         const auto word = cell.extentOf(cell.matchColor(false));
-        QVERIFY(latin.first >= 0 && latin.second < word.first);
+        QVERIFY(latin.first >= 0);
+        QVERIFY(latin.second < word.first);
     }
 
     void anEmptyMatchIsABar()
@@ -168,7 +170,8 @@ private Q_SLOTS:
             const auto current = ZEVMatchColors::forMatchOver(base, true);
             QVERIFY(ZEVMatchColors::contrast(match.background, match.text) >= 4.5);
             QVERIFY(ZEVMatchColors::contrast(current.background, current.text) >= 4.5);
-            QVERIFY(match.background != base && match.background != current.background);
+            QVERIFY(match.background != base);
+            QVERIFY(match.background != current.background);
         }
         const QColor dimmed = ZEVMatchColors::dimmedText(palette);
         QVERIFY(dimmed != palette.color(QPalette::Text));

@@ -199,21 +199,25 @@ private Q_SLOTS:
         QCOMPARE(delegate.changes, 3);
         QCOMPARE(filtered.controller.regex(), ZEVStringFilterRegexValue::filterRegexValue(u"a b"_s));
         filtered.press(Qt::Key_Down); // into nothing
-        QVERIFY(filtered.field->hasFocus() && filtered.menu.isVisible());
+        QVERIFY(filtered.field->hasFocus());
+        QVERIFY(filtered.menu.isVisible());
         delegate.hasItems = std::nullopt;
         filtered.press(Qt::Key_Down); // the menu's own
         QCOMPARE(filtered.active(), u"a"_s);
         filtered.field->setFocus();
         filtered.controller.clearFilter();
-        QVERIFY(delegate.changes == 3 && filtered.controller.hasNeedle());
+        QVERIFY(delegate.changes == 3);
+        QVERIFY(filtered.controller.hasNeedle());
         auto *more = filtered.controller.moreMenuItem()->defaultWidget()->findChild<QToolButton *>();
         filtered.controller.moreMenuItem()->setVisible(false);
         filtered.controller.moreMenuItem()->setVisible(true);
         more->click();
-        QVERIFY(delegate.changes == 4 && filtered.controller.filterCleared());
+        QVERIFY(delegate.changes == 4);
+        QVERIFY(filtered.controller.filterCleared());
         delegate.showsMore = true;
         more->click();
-        QVERIFY(delegate.changes == 4 && delegate.requests == 2);
+        QVERIFY(delegate.changes == 4);
+        QVERIFY(delegate.requests == 2);
         QVERIFY(filtered.controller.regex()); // unused, and kept
     }
 
@@ -226,7 +230,8 @@ private Q_SLOTS:
         filtered.press(Qt::Key_Return);
         QVERIFY(filtered.menu.isVisible());
         filtered.press(Qt::Key_Down);
-        QVERIFY(filtered.active() == u"Berta"_s && !filtered.field->hasFocus());
+        QVERIFY(filtered.active() == u"Berta"_s);
+        QVERIFY(!filtered.field->hasFocus());
         filtered.press(Qt::Key_Up);
         QVERIFY(filtered.field->hasFocus());
         filtered.press(Qt::Key_Tab);
@@ -236,11 +241,13 @@ private Q_SLOTS:
         QCOMPARE(filtered.shown(), u"Bertram"_s);
         QSignalSpy chosen(filtered.client->menuItems[2], &QAction::triggered);
         filtered.press(Qt::Key_Return);
-        QVERIFY(chosen.size() == 1 && !filtered.menu.isVisible());
+        QVERIFY(chosen.size() == 1);
+        QVERIFY(!filtered.menu.isVisible());
         QVERIFY(filtered.open());
         QCOMPARE(filtered.field->selectedText(), u"bertr"_s);
         filtered.press(Qt::Key_Escape);
-        QVERIFY(filtered.menu.isVisible() && filtered.controller.filterCleared());
+        QVERIFY(filtered.menu.isVisible());
+        QVERIFY(filtered.controller.filterCleared());
         QCOMPARE(filtered.shown(), u"Anna|Berta|Bertram"_s);
         filtered.press(Qt::Key_Escape);
         QVERIFY(!filtered.menu.isVisible());
@@ -252,7 +259,8 @@ private Q_SLOTS:
         filtered.client->menuItems[9'998]->setEnabled(false);
         QVERIFY(filtered.open());
         const qsizetype inView = filtered.menu.actions().size() - 1;
-        QVERIFY(inView >= 4 && inView <= 30);
+        QVERIFY(inView >= 4);
+        QVERIFY(inView <= 30);
         filtered.press(Qt::Key_Up);
         QCOMPARE(filtered.active(), u"Track 9999"_s);
         filtered.press(Qt::Key_Up);
@@ -295,7 +303,8 @@ private Q_SLOTS:
         const auto frame = [&] { return filtered.field->grab({0, 0, 3, 23}).toImage(); };
         const QImage focused = frame();
         filtered.menu.setFocus();
-        QVERIFY(focused == frame() && !filtered.field->hasFocus());
+        QVERIFY(focused == frame());
+        QVERIFY(!filtered.field->hasFocus());
         QVERIFY(filtered.field->fontInfo().pixelSize() < QFontInfo(QGuiApplication::font()).pixelSize());
         // The plus is as wide as it is high.
         auto *more = filtered.controller.moreMenuItem()->defaultWidget()->findChild<QToolButton *>();
@@ -331,7 +340,8 @@ private Q_SLOTS:
         QCOMPARE(filtered.menu.width(), width);
         QVERIFY(filtered.menu.height() < filtered.menu.screen()->availableSize().height());
         auto *bar = filtered.menu.findChild<QScrollBar *>();
-        QVERIFY(bar->isVisible() && filtered.menu.rect().contains(bar->geometry()));
+        QVERIFY(bar->isVisible());
+        QVERIFY(filtered.menu.rect().contains(bar->geometry()));
         QVERIFY(!filtered.menu.actionGeometry(filtered.menu.actions()[3]).intersects(bar->geometry()));
     }
 
@@ -348,7 +358,8 @@ private Q_SLOTS:
         QInputMethodEvent event;
         event.setCommitString(u"日"_s);
         QCoreApplication::sendEvent(QGuiApplication::focusObject(), &event);
-        QVERIFY(filtered.shown() == u"日本"_s && beneath.text().isEmpty());
+        QVERIFY(filtered.shown() == u"日本"_s);
+        QVERIFY(beneath.text().isEmpty());
         QInputMethodQueryEvent query(Qt::ImSurroundingText);
         QCoreApplication::sendEvent(QGuiApplication::focusObject(), &query);
         QCOMPARE(query.value(Qt::ImSurroundingText).toString(), u"日"_s);

@@ -157,8 +157,8 @@ private Q_SLOTS:
         Field field;
         auto *cell = static_cast<ZEVTokenFieldCell *>(field.field.cell());
         const QRectF bounds(10, 20, 200, 30);
-        QVERIFY(cell->buttonRectForBounds(bounds).isNull()
-                && cell->rightButtonRectForBounds(bounds).isNull());
+        QVERIFY(cell->buttonRectForBounds(bounds).isNull());
+        QVERIFY(cell->rightButtonRectForBounds(bounds).isNull());
         QPointer<QAbstractButton> menu =
             ZEVTokenFieldCell::cellButtonWithImageNamed(u"icoAddTemplate", [] {});
         QPointer<QAbstractButton> right =
@@ -188,7 +188,8 @@ private Q_SLOTS:
         QVERIFY(field.field.viewport()->geometry().left() > 24);
         cell->setActionButton(nullptr);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QVERIFY(!menu && right);
+        QVERIFY(!menu);
+        QVERIFY(right);
     }
 
     void hasTheHeightOfALineEdit()
@@ -258,11 +259,14 @@ private Q_SLOTS:
         QCOMPARE(field.sizeHint().height(), 24);
         auto *cancel = field.findChild<QToolButton *>();
         field.setText(u"  "_s);
-        QVERIFY(!field.isActive() && cancel->isVisibleTo(&field));
+        QVERIFY(!field.isActive());
+        QVERIFY(cancel->isVisibleTo(&field));
         field.setText(u"jazz "_s);
         QVERIFY(field.isActive());
         cancel->click();
-        QVERIFY(!field.isActive() && field.text().isEmpty() && cancel->isHidden());
+        QVERIFY(!field.isActive());
+        QVERIFY(field.text().isEmpty());
+        QVERIFY(cancel->isHidden());
         QCOMPARE(field.searchTextRectForBounds({0, 0, 200, 24}), QRectF(26, 0, 150, 24));
         field.setText(u"x"_s);
         QTest::keyClick(&field, Qt::Key_Escape);

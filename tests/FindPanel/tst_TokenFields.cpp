@@ -224,8 +224,9 @@ private Q_SLOTS:
             set();
             QCOMPARE(changes.size(), ++told);
             const auto held = field.field.objectValue().first().value<ZEVPatternItem>();
-            QVERIFY(held.editingString() == one.editingString() && held.title() == one.title()
-                    && held.valueTransformerName() == one.valueTransformerName());
+            QVERIFY(held.editingString() == one.editingString());
+            QVERIFY(held.title() == one.title());
+            QVERIFY(held.valueTransformerName() == one.valueTransformerName());
         }
         field.field.setObjectValue(field.field.objectValue());
         QCOMPARE(changes.size(), told);
@@ -247,7 +248,8 @@ private Q_SLOTS:
             field.setPatternStringValue(u"abc"_s);
             window.show();
             window.activateWindow();
-            QVERIFY(QTest::qWaitForWindowActive(&window) && field.hasFocus());
+            QVERIFY(QTest::qWaitForWindowActive(&window));
+            QVERIFY(field.hasFocus());
             QCOMPARE(field.selectedRange(), (selects ? ZEVRange{0, 3} : ZEVRange{3, 0}));
             field.setSelectedRange({1, 0});
             other.show();

@@ -79,7 +79,8 @@ private Q_SLOTS:
         QCOMPARE(listener.calls, QStringList(u"3 at 2+1 of 4, 1 edits"_s));
         QCOMPARE(storage.attachmentAtIndex(2), attachment);
         storage.removeAttribute(ZEVTextAttachments::NSAttachmentAttributeName, {0, 4});
-        QVERIFY(!storage.attachmentAtIndex(2) && !storage.attachmentAtIndex(3));
+        QVERIFY(!storage.attachmentAtIndex(2));
+        QVERIFY(!storage.attachmentAtIndex(3));
         storage.setDelegate(nullptr);
         storage.replaceCharactersInRange({0, 99}, attachmentText(4));
         QCOMPARE(storage.string(), QString(QChar::ObjectReplacementCharacter));
@@ -175,8 +176,9 @@ private Q_SLOTS:
         field.field.setObjectValue(pattern(u"ab<Title>c"_s));
         QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(&field.field);
         QCOMPARE(accessible->role(), QAccessible::EditableText);
-        QVERIFY(accessible->state().editable && accessible->state().focused
-                && !accessible->state().multiLine);
+        QVERIFY(accessible->state().editable);
+        QVERIFY(accessible->state().focused);
+        QVERIFY(!accessible->state().multiLine);
         QCOMPARE(accessible->text(QAccessible::Name), u"Find"_s);
         QCOMPARE(accessible->text(QAccessible::Value), u"abTitlec"_s);
         QAccessibleTextInterface *spoken = accessible->textInterface();

@@ -86,7 +86,8 @@ private Q_SLOTS:
         QCOMPARE(item.text().trimmed(), u"R&&D"_s);
         item.setText(u"&Open && &Close&"_s); // the host's word is the last
         QCOMPARE(title(&item), u"Open & Close"_s);
-        QVERIFY(!attributedTitle(&item) && indentationLevel(&item) == 15);
+        QVERIFY(!attributedTitle(&item));
+        QVERIFY(indentationLevel(&item) == 15);
         setState(&item, Off);
         QVERIFY(!item.isCheckable());
     }

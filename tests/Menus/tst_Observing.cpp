@@ -142,7 +142,8 @@ private Q_SLOTS:
         observer = Observer::observeObject(node, u"next"_s, &target, "changed", Observer::Old);
         delete old;
         node->setNext(nullptr);
-        QVERIFY(target.last.contains(u"old"_s) && !target.last[u"old"_s].isValid());
+        QVERIFY(target.last.contains(u"old"_s));
+        QVERIFY(!target.last[u"old"_s].isValid());
         delete node;
     }
 
@@ -212,7 +213,8 @@ private Q_SLOTS:
         auto *defaults = ZEVUserDefaults::standardUserDefaults();
         defaults->setObject(3, u"size"_s);
         Node one, two;
-        QVERIFY(bind(&one, u"size"_s, u"size"_s) && bind(&two, u"size"_s, u"size"_s));
+        QVERIFY(bind(&one, u"size"_s, u"size"_s));
+        QVERIFY(bind(&two, u"size"_s, u"size"_s));
         QVERIFY(!bind(&one, u"nothing"_s, u"size"_s));
         one.setProperty("size", 4);
         QCOMPARE(two.m_size, 4);

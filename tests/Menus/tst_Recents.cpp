@@ -118,14 +118,16 @@ private Q_SLOTS:
         button.setURL(QUrl::fromLocalFile(m_folder->filePath(u"b/Last"_s))); // the sixth: "track 10" goes
         QCOMPARE(shown(button).section(u'|', 1, 2),
                  u"(Last —\u00A0b)|Last —\u00A0%1"_s.arg(QDir(m_folder->path()).dirName()));
-        QVERIFY(!shown(button).contains(u"10") && button.recentURLSet().size() == 5);
+        QVERIFY(!shown(button).contains(u"10"));
+        QVERIFY(button.recentURLSet().size() == 5);
         QFile::remove(m_folder->filePath(u"zoo"_s));
         button.menu()->popup({});
         QVERIFY(!shown(button).contains(u"zoo"));
         button.menu()->close();
         button.setURL(QUrl(u"http://example.com/x"_s));
-        QVERIFY(!shown(button).contains(u"zoo") && shown(button).contains(u"(None)")
-                && !button.URL().isValid());
+        QVERIFY(!shown(button).contains(u"zoo"));
+        QVERIFY(shown(button).contains(u"(None)"));
+        QVERIFY(!button.URL().isValid());
     }
 
     void theMaximumIsHeld()
@@ -152,8 +154,8 @@ private Q_SLOTS:
         for (const char *name : {"gone", "a", "b", "c"})
             button->setURL(made(QString::fromLatin1(name)));
         button->setURL(made(u"b"_s));
-        QVERIFY(stored(button->selectedURLDefaultsKey()).isValid()
-                && stored(button->recentURLsDefaultsKey()).isValid());
+        QVERIFY(stored(button->selectedURLDefaultsKey()).isValid());
+        QVERIFY(stored(button->recentURLsDefaultsKey()).isValid());
         button->addRecentURL(made(u"c"_s)); // which is not the selected one
         button = saving();
         QCOMPARE(QFileInfo(button->recentURLSet().first().path()).fileName(), u"c"_s);
@@ -170,9 +172,11 @@ private Q_SLOTS:
         QCOMPARE(shown(*button), u"(renamed & b)|a|c|-|None|Choose…"_s);
         QCOMPARE(button->text(), u"renamed && b"_s);
         button->clearRecents();
-        QVERIFY(!stored(RecentsName).isValid() && shown(*button).contains(u"a|c"));
+        QVERIFY(!stored(RecentsName).isValid());
+        QVERIFY(shown(*button).contains(u"a|c"));
         button = saving(); // what was cleared stays so
-        QVERIFY(button->recentURLSet().isEmpty() && button->URL().isValid());
+        QVERIFY(button->recentURLSet().isEmpty());
+        QVERIFY(button->URL().isValid());
         QVERIFY(!stored(RecentsName).isValid());
         QFile::remove(m_folder->filePath(u"renamed & b"_s));
         button = saving();
@@ -180,7 +184,8 @@ private Q_SLOTS:
         QVERIFY(!stored(Name).isValid());
         button->setAutosaveName({});
         button->setURL(made(u"c"_s));
-        QVERIFY(!stored(Name).isValid() && !stored(RecentsName).isValid());
+        QVERIFY(!stored(Name).isValid());
+        QVERIFY(!stored(RecentsName).isValid());
     }
 
     void foreignDefaultsGiveAnEmptyList()
@@ -254,10 +259,13 @@ private Q_SLOTS:
             QCoreApplication::processEvents();
         };
         choose(ZEVOpenPanel::CancelResponse);
-        QVERIFY(delegate.told.isEmpty() && shown(button) == u"(None)|Choose…"_s);
+        QVERIFY(delegate.told.isEmpty());
+        QVERIFY(shown(button) == u"(None)|Choose…"_s);
         choose(ZEVOpenPanel::OKResponse);
         QCOMPARE(delegate.told, QStringList(u"a.flac"_s));
-        QVERIFY(asked.title == u"Mine" && asked.prompt == u"Choose" && asked.canChooseFiles);
+        QVERIFY(asked.title == u"Mine");
+        QVERIFY(asked.prompt == u"Choose");
+        QVERIFY(asked.canChooseFiles);
         QCOMPARE(asked.allowedContentTypes, (QStringList{u"audio/flac"_s, u"public.image"_s}));
         choose(ZEVOpenPanel::CancelResponse);
         QCOMPARE(shown(button), u"(a.flac)|-|None|Choose…"_s);
@@ -305,12 +313,15 @@ private Q_SLOTS:
         for (QDropEvent *event : {static_cast<QDropEvent *>(&enter), &drop}) {
             event->setDropAction(Qt::MoveAction);
             QApplication::sendEvent(&button, event);
-            QVERIFY(event->isAccepted() && event->dropAction() == Qt::CopyAction);
+            QVERIFY(event->isAccepted());
+            QVERIFY(event->dropAction() == Qt::CopyAction);
         }
-        QVERIFY(button.text() == u"a.png" && delegate.told.isEmpty());
+        QVERIFY(button.text() == u"a.png");
+        QVERIFY(delegate.told.isEmpty());
         QTRY_COMPARE(delegate.told, QStringList(u"a.png"_s));
         data.setUrls({remote});
-        QVERIFY(!button.performDragOperation(&data) && button.text() == u"a.png");
+        QVERIFY(!button.performDragOperation(&data));
+        QVERIFY(button.text() == u"a.png");
     }
 };
 
