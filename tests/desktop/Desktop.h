@@ -105,6 +105,28 @@ public:
         return waitFor(isPlaced) ? window : QString();
     }
 
+    /// The window of \a process that has the keyboard, when it has; empty if it never does.
+    QString activeWindow(const QProcess &process) const
+    {
+        QString window;
+        const auto isActive = [&] {
+            window = tool(u"getactivewindow"_s);
+            return !window.isEmpty()
+                && tool(u"getwindowpid "_s + window) == QString::number(process.processId());
+        };
+        return waitFor(isActive) ? window : QString();
+    }
+
+    /// Of which one with a quotation mark is a text.
+    void press(const QStringList &keys) const
+    {
+        for (const QString &pressed : keys) {
+            pressed.startsWith(u'\'') ? type(pressed.mid(1)) : key(pressed);
+            if (pressed.startsWith(u"alt+"))
+                QTest::qWait(400); // a button that is pressed by its letter clicks a tenth of a second later
+        }
+    }
+
     void activate(const QString &window) const { tool(u"windowactivate --sync "_s + window); }
     void moveTo(QPoint point) const { tool(u"mousemove %1 %2"_s.arg(point.x()).arg(point.y())); }
     void click(QPoint point) const { tool(u"mousemove %1 %2 click 1"_s.arg(point.x()).arg(point.y())); }

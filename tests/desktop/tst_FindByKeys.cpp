@@ -10,23 +10,13 @@ class tst_FindByKeys : public QObject {
     Q_OBJECT
 
 private:
-    /// What the program has left when its window is closed, after \a keys, of which one with a quotation
-    /// mark is a text.
+    /// What the program has left when its window is closed, after \a keys.
     QString textAfter(const QString &program, const QStringList &keys) const
     {
         QProcess *process = m_desktop->start(QStringLiteral(ZEV_CONSUMERS "/consumer_") + program, {});
-        const auto isActive = [&] {
-            const QString active = m_desktop->tool(u"getactivewindow"_s);
-            return !active.isEmpty()
-                && m_desktop->tool(u"getwindowpid "_s + active) == QString::number(process->processId());
-        };
-        if (!Desktop::waitFor(isActive))
+        if (m_desktop->activeWindow(*process).isEmpty())
             return u"no window"_s;
-        for (const QString &key : keys) {
-            key.startsWith(u'\'') ? m_desktop->type(key.mid(1)) : m_desktop->key(key);
-            if (key.startsWith(u"alt+"))
-                QTest::qWait(400); // a button that is pressed by its letter clicks a tenth of a second later
-        }
+        m_desktop->press(keys);
         m_desktop->key(u"alt+F4"_s);
         process->waitForFinished();
         return QString::fromUtf8(process->readAllStandardOutput()).trimmed();

@@ -11,6 +11,7 @@ still has; left over is an unfinished item that is still there after the next op
 
 import collections
 import os
+import random
 import re
 import shutil
 import subprocess
@@ -160,12 +161,16 @@ def attempt(program, operation, kind, source_volume, volume, number, point, faul
 
 def survey(program, source_volume, volume):
     totals = collections.Counter()
+    chosen = random.Random(1)
+    share = int(os.environ.get("ZEV_INJECT_SHARE", "1"))
     with ThreadPoolExecutor(int(os.environ.get("ZEV_JOBS", "2"))) as workers:
         runs = []
         for operation in OPERATIONS:
             for kind in NEW:
                 for point in points(program, operation, kind, source_volume, volume, 0):
                     for fault in FAULTS:
+                        if chosen.randrange(share):
+                            continue
                         runs.append(workers.submit(attempt, program, operation, kind, source_volume, volume,
                                                    len(runs) + 1, point, fault))
         for run in runs:
