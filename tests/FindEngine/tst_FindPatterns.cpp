@@ -129,6 +129,9 @@ private Q_SLOTS:
         withoutTemplate.setRegexTemplateString(std::nullopt);
         QVERIFY(withoutTemplate != Item::tab()); // their effective templates differ
         QVERIFY(artistAt(u"artist"_s) != artistAt(std::nullopt));
+        Item retitled = Item::tab();
+        retitled.setTokenTitle(u"Tabulator"_s);
+        QVERIFY(retitled != Item::tab());
         QVERIFY(artistAt(u""_s) != artistAt(std::nullopt)); // empty is not nil
 
         Item renamed = Item::digits();

@@ -139,7 +139,7 @@ private Q_SLOTS:
     void replacementsAreMadeOfTokens()
     {
         ZEVPatternItem hosts = ZEVPatternItem::itemWithTitle(u"t"_s, {}, {}, u"x"_s);
-        hosts.setRegexTemplateString(u"<$1$20\\$1$>"_s);
+        hosts.setRegexTemplateString(u"<$1$20$10\\$1$>"_s);
         ZEVPatternItem plainTab = ZEVPatternItem::tab();
         plainTab.setRegexTemplateString(std::nullopt); // as an archive gives it back
         const QVariant digits = token(ZEVPatternItem::digits()), word = token(ZEVPatternItem::anyWord());
@@ -152,7 +152,7 @@ private Q_SLOTS:
             {u"ab"_s, {u"a"_s}, {token(ZEVPatternItem::tab()), token(plainTab), 5}, 0, u"\t\tb"_s},
             {u"1-2"_s, {digits, u"-"_s, digits}, {digits, u":"_s, digits, digits}, 0, u"1:22"_s},
             {u"www.a.org 7"_s, {token(ZEVPatternItem::webAddress()), u" "_s, digits}, {digits}, 0, u"7"_s},
-            {u"abcdefghi7"_s, tenWords, {digits, u"0"_s, token(hosts)}, 0, u"70<ab0$1$>"_s},
+            {u"abcdefghi7"_s, tenWords, {digits, u"0"_s, token(hosts)}, 0, u"70<ab07$1$>"_s},
             {u"a - b"_s, {artist, u" - "_s, word}, {word, u" by "_s, artist}, 5, u"b by a"_s},
             {u"ab"_s, {u"b"_s}, {size}, 0, u"a2.0 MB"_s},
             {u"xa"_s, {u"a"_s}, {artist, digits}, 0, u"xartist@1"_s},

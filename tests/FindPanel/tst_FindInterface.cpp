@@ -15,6 +15,7 @@
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderFakeCellView.h>
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderMenu.h>
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderViewController.h>
+#include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVWrappingLayout_p.h>
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
 #include <ZEVGlobalUtils/Menus/Observing/ZEVKeyValueObserver.h>
 #include <ZEVGlobalUtils/Platform/Desktop/ZEVApplicationActivity_p.h>
@@ -169,6 +170,23 @@ class tst_FindInterface : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void whatDoesNotFitGoesOntoTheNextLine()
+    {
+        QWidget window;
+        auto *layout = new ZEVWrappingLayout(&window);
+        layout->setContentsMargins({});
+        layout->setSpacing(10);
+        for (int n = 0; n < 3; ++n) {
+            auto *box = new QWidget(&window);
+            box->setFixedSize(40, 20);
+            box->show();
+            layout->addWidget(box);
+        }
+        const std::pair<int, int> rows[] = {{140, 1}, {139, 2}, {90, 2}, {89, 3}, {1, 3}};
+        for (const auto &[width, lines] : rows)
+            COMPARE_ROW(width, layout->heightForWidth(width), lines * 20 + (lines - 1) * 10);
+    }
+
     void init()
     {
         m_folder = std::make_unique<QTemporaryDir>();
@@ -305,6 +323,17 @@ private Q_SLOTS:
         QVERIFY(shown.controller.searchTermUnchanged());
         shown.controller.setCaseInsensitiveSearch(true);
         QVERIFY(!shown.controller.searchTermUnchanged());
+    }
+
+    void anApplicationComesAndGoes()
+    {
+        const QSignalSpy active(ZEVApplicationActivity::shared(), &ZEVApplicationActivity::didBecomeActive);
+        const QSignalSpy resigned(ZEVApplicationActivity::shared(),
+                                  &ZEVApplicationActivity::willResignActive);
+        Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationInactive);
+        QCOMPARE(active.size() * 10 + resigned.size(), 1);
+        Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+        QCOMPARE(active.size() * 10 + resigned.size(), 11);
     }
 
     void followsTheFindPasteboard()

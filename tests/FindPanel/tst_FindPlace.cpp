@@ -81,6 +81,13 @@ void checkEditor()
     QVERIFY(!window.place->isFindBarVisible());
     QVERIFY(editor.hasFocus());
 
+    QVERIFY(window.place->hasFocusWithin());
+    QLineEdit beside(&window);
+    beside.show();
+    beside.setFocus();
+    QVERIFY(!window.place->hasFocusWithin());
+    editor.setFocus();
+
     editor.setPlainText(u"two two"_s); // unseen, so nobody looks after it
     window.press(Qt::Key_F, Qt::ControlModifier);
     window.type(u"two"_s); // in place of what is selected in the field

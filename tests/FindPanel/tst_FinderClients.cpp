@@ -8,6 +8,7 @@
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinder.h>
 #include <ZEVGlobalUtils/FindEngine/ZEVTextFinderActor.h>
 #include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVItemModelFinderClient.h>
+#include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVItemModelText_p.h>
 #include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVTextEditFinderClient.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
 
@@ -206,6 +207,7 @@ private Q_SLOTS:
         QCOMPARE(client.cellOfRange({8, 1}, &range), source->index(1, 1));
         QCOMPARE(range, (ZEVRange{1, 1}));
         QVERIFY(!client.cellOfRange({10, 0}).isValid());
+        QCOMPARE(ZEVItemModelText(*source).placeOfCell({}), ZEVRange());
         finder.find(u"$"_s);
         QCOMPARE(client.matchesInCell(source->index(0, 1)).ranges, (QList<ZEVRange>{{2, 0}}));
         QVERIFY(client.matchesInCell(source->index(0, 0)).ranges.isEmpty());

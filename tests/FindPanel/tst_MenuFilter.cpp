@@ -265,6 +265,9 @@ private Q_SLOTS:
         QCOMPARE(filtered.active(), u"Track 9999"_s);
         filtered.press(Qt::Key_Up);
         QCOMPARE(filtered.active(), u"Track 9997"_s);
+        for (const Qt::Key key : {Qt::Key_PageUp, Qt::Key_End, Qt::Key_PageDown})
+            filtered.press(key);
+        QCOMPARE(filtered.active(), u"Track 9999"_s);
         filtered.press(Qt::Key_Home);
         for (int i = 0; i < inView + 5; ++i)
             filtered.press(Qt::Key_Down);

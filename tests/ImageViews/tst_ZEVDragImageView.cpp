@@ -384,6 +384,11 @@ private Q_SLOTS:
         QTest::keyClick(&well, Qt::Key_V, Qt::ControlModifier);
         well.settle();
         QCOMPARE(well.bitmapData(), png(5));
+        for (const Qt::Key key : {Qt::Key_Delete, Qt::Key_Backspace}) {
+            QTest::keyClick(&well, key);
+            QVERIFY(well.bitmapData().isNull());
+            well.setBitmapData(png(5));
+        }
         Q_EMIT well.menu()->aboutToShow();
         well.menu()->actions().at(4)->trigger();
         QVERIFY(well.bitmapData().isNull());
@@ -446,6 +451,9 @@ private Q_SLOTS:
         QCOMPARE(well.imageView()->imageScaling(), ZEVImageView::ScaleProportionallyUpOrDown);
         QTRY_COMPARE(well.imageView()->image().deviceIndependentSize(), QSizeF(200, 180));
         QCOMPARE(well.imageView()->imageScaling(), ZEVImageView::ScaleProportionallyDown);
+        ZEVImageView tall;
+        tall.setImage(QImage(20, 200, QImage::Format_RGB32));
+        QCOMPARE(tall.drawingRectForBounds({0, 0, 100, 100}), QRectF(45, 0, 10, 100));
     }
 
     void newArtworkFadesInAndGrows()

@@ -161,6 +161,12 @@ private Q_SLOTS:
             {44, u"0 1"_s}, {48, u"none"_s}, {52, u"0 1"_s}, {100, u"1 1"_s}};
         for (const auto &[x, name] : rows)
             COMPARE_ROW(x, field(target, x, 15), name);
+        QImage upright = canvas(30, 200);
+        QPainter down(&upright);
+        down.scale(1, 10);
+        drawAsNinePartImageInRect(fields(), down, {0, 0, 30, 19.6}, {}, 10, 4.6, Over, 1, true);
+        for (const int x : {5, 25})
+            COMPARE_ROW(x, field(upright, x, 48), u"none"_s);
     }
 
     void ninePartsEitherWayUp()

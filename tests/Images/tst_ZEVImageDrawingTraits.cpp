@@ -146,6 +146,13 @@ private Q_SLOTS:
             QVERIFY(isNear(image.pixel(3, upright ? 15 : 0), QColor(44, 148, 237)));
             QVERIFY(isNear(image.pixel(3, 8), QColor(38, 119, 229)));
         }
+        ZEVDrawingTrait trait;
+        trait.setGradient({{0.25, Qt::red}, {0.75, Qt::blue}});
+        const QImage image = drawn(filled(16, 16, Qt::black), trait);
+        for (const int end : {0, 15})
+            QVERIFY(isNear(image.pixel(3, end), Qt::red) || isNear(image.pixel(3, end), Qt::blue));
+        QCOMPARE(qRed(image.pixel(3, 0)) > 128, qRed(image.pixel(3, 5)) > 128);
+        QCOMPARE(qRed(image.pixel(3, 15)) > 128, qRed(image.pixel(3, 10)) > 128);
     }
 
     void theDropShadowFallsBelow()

@@ -73,6 +73,12 @@ class tst_ZEVPasteboard : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void noTypeIsToldOfWhatIsNoPicture()
+    {
+        const auto none = writer("no picture", u"x"_s, u"board");
+        QVERIFY(!none->mimeTypesForType(u"public.image").contains(QString()));
+    }
+
     void whatIsTakenFromAPasteboard()
     {
         const Folder folder;

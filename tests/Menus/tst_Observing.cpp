@@ -159,6 +159,7 @@ private Q_SLOTS:
             {"number", u"twelve"_s, false, {}},
             {"titleChanged", {}, false, {}}, // a signal is no action
             {"none", {}, false, {}},
+            {"plai", {}, false, {}},
         };
         for (const auto &[selector, object, isHandled, said] : rows) {
             COMPARE_ROW(selector, ZEVResponder::tryToPerform(low, selector, object), isHandled);

@@ -94,6 +94,37 @@ private:
     }
 
 private Q_SLOTS:
+    void onlyExecutablesAreOffered()
+    {
+        const QTemporaryDir folder;
+        QVERIFY(QDir(folder.path()).mkdir(u"inner"_s));
+        for (const QString &name : {u"plain"_s, u"program"_s}) {
+            QFile file(folder.filePath(name));
+            QVERIFY(file.open(QFile::WriteOnly));
+            file.setPermissions(name == u"plain" ? QFile::ReadOwner : QFile::ReadOwner | QFile::ExeOwner);
+        }
+        ZEVOpenPanel panel;
+        panel.canChooseFiles = panel.onlyExecutables = true;
+        panel.directoryURL = QUrl::fromLocalFile(folder.path());
+        QStringList offered;
+        QTimer::singleShot(0, qApp, [&] {
+            auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+            const auto *view = dialog->findChild<QListView *>(u"listView"_s);
+            const auto names = [&] {
+                offered.clear();
+                for (int row = 0; row < view->model()->rowCount(view->rootIndex()); ++row)
+                    offered += view->model()->index(row, 0, view->rootIndex()).data().toString();
+                return offered.size();
+            };
+            const bool isFilled = QTest::qWaitFor([&] { return names() >= 2; });
+            dialog->reject();
+            QVERIFY2(isFilled, qPrintable(offered.join(u",")));
+        });
+        QCOMPARE(panel.runModal(), ZEVOpenPanel::CancelResponse);
+        offered.sort();
+        QCOMPARE(offered, (QStringList{u"inner"_s, u"program"_s}));
+    }
+
     void initTestCase()
     {
         QFile stub(data.folder.filePath(u"zev-stub"_s));

@@ -144,6 +144,7 @@ private Q_SLOTS:
         };
         for (const auto &[name, dot, numbered] : rows)
             COMPARE_ROW(name, ZEVFileName(name).numbered(12, dot), numbered);
+        QCOMPARE(ZEVFileName(QByteArray(256, 'a')).fitting(), QByteArray(255, 'a'));
         QCOMPARE(ZEVFileName(QByteArray(255, '\xBF')).numbered(2, Dot::BeforeExtensionOnly).size(), 252);
     }
 

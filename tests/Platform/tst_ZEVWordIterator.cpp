@@ -46,6 +46,7 @@ private Q_SLOTS:
             {{}, {}},
             {u"part:the"_s, u"part|the"_s},
             {u"In 1999, 3.14 times"_s, u"In|1999|3.14|times"_s},
+            {u"عام ١٩٩٩، _7"_s, u"عام|١٩٩٩|_7"_s},
         };
         for (const auto &[text, expected] : rows)
             COMPARE_ROW(text, words(text), expected);
