@@ -140,6 +140,7 @@ private Q_SLOTS:
         writeEntry(u"p9-again"_s, "Tagger", "X-AppImage-Version=9.8\n");
         writeEntry(u"glued"_s, "Tagger9", "X-AppImage-Version=.8\n"); // the same name and version in one
         writeEntry(u"own"_s, "Our Own Editor");
+        writeEntry(u"unseen"_s, "Unseen", "NoDisplay=true\n");
         writeEntry(u"old"_s, "ärger.app");
         writeEntry(u"snapp"_s, "Snapp");
         writeEntry(u"draw"_s, "Draw.io app");
@@ -239,7 +240,8 @@ private Q_SLOTS:
         };
         choose([](QDialog *chooser) {
             auto *list = chooser->findChild<QListWidget *>();
-            QVERIFY(list->findItems(u"Our Own Editor"_s, Qt::MatchExactly).isEmpty());
+            for (const QString &name : {u"Our Own Editor"_s, u"Unseen"_s})
+                QVERIFY(list->findItems(name, Qt::MatchExactly).isEmpty());
             auto *filter = chooser->findChild<QLineEdit *>();
             QTest::keyClicks(filter, u"tag"_s);
             QTest::keyClick(filter, Qt::Key_Down);
