@@ -9,9 +9,9 @@ function(run)
 endfunction()
 
 function(run_consumer program)
-    execute_process(COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen LD_LIBRARY_PATH=${prefix}/${libdir}
+    execute_process(COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8 LD_LIBRARY_PATH=${prefix}/${libdir}
                     ${program} OUTPUT_VARIABLE output RESULT_VARIABLE result)
-    if(NOT result EQUAL 0 OR NOT output STREQUAL "2 matches\n")
+    if(NOT result EQUAL 0 OR NOT output STREQUAL "2 matches\nContains\n")
         message(FATAL_ERROR "${program} answered ${result} and said: ${output}")
     endif()
 endfunction()

@@ -19,6 +19,9 @@
 
 using namespace Qt::StringLiterals;
 
+/// Of a static library nobody else would ask for them.
+static void initializeInterfaces() { Q_INIT_RESOURCE(ZEVGlobalUtils_interfaces); }
+
 namespace {
 
 using Maker = QWidget *(*)(QWidget *parent);
@@ -85,6 +88,7 @@ void localize(QWidget *widget)
 
 QString fileForName(const QString &name)
 {
+    initializeInterfaces();
     const QString own = u":/"_s + name + u".ui"_s;
     return QFile::exists(own) ? own : u":/ZEVGlobalUtils/interfaces/"_s + name + u".ui"_s;
 }

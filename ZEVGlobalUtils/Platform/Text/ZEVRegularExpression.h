@@ -43,7 +43,7 @@ public:
     Options options() const;
     int numberOfCaptureGroups() const;
 
-    /// The number of the group (?<name>...); nil when the expression has none of that name.
+    /// The number of the group `(?<name>...)`; nil when the expression has none of that name.
     std::optional<int> numberOfCaptureGroup(const QString &name) const;
 
     Matches matchesInString(QStringView text) const;

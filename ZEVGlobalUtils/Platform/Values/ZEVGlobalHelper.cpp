@@ -8,6 +8,9 @@
 
 using namespace Qt::StringLiterals;
 
+/// Of a static library nobody else would ask for them.
+static void initializeTexts() { Q_INIT_RESOURCE(ZEVGlobalUtils_translations); }
+
 namespace {
 
 /// Kept apart from the application's translators: a host's own text for the same English wording must not
@@ -16,6 +19,7 @@ class Table : public QTranslator {
 public:
     Table()
     {
+        initializeTexts();
         // A language without a table leaves the translator empty, and every key is its own text.
         static_cast<void>(load(QLocale(), u"ZEVGlobalUtils"_s, u"_"_s, u":/ZEVGlobalUtils/translations"_s));
     }

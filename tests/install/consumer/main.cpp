@@ -12,5 +12,7 @@ int main()
     ZEVFindPanelQuery query;
     query.setSearchPattern(
         QVariantList{QStringLiteral("Track "), QVariant::fromValue(ZEVPatternItem::digits())});
-    std::printf("%d matches\n", int(query.searchExpression()->numberOfMatchesInString(u"Track 1, Track 22")));
+    std::printf("%d matches\n%s\n",
+                int(query.searchExpression()->numberOfMatchesInString(u"Track 1, Track 22")),
+                qPrintable(*ZEVFindPanelQuery::titleForMatchingType(0)));
 }
