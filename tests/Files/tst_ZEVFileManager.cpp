@@ -295,6 +295,19 @@ private Q_SLOTS:
         }
     }
 
+    void aFileThatIsSavedWhileItIsMovedStays()
+    {
+        const Trees::OtherVolume other;
+        Desk desk;
+        const QByteArray track = other.folder.path().toUtf8() + "/Other.mp3";
+        QVERIFY(Trees::write(track, "as it was"));
+        desk.manager.setProgressHandler([&](qint64) { return Trees::write(track, "as it is saved"); });
+        QVERIFY(
+            !desk.manager.moveItemAtURL(ZEVFileURL::withPath(track), desk.url("to/Other.mp3"), &desk.error));
+        QCOMPARE(Trees::read(track), "as it is saved");
+        QCOMPARE(desk.names("to"), "Track.mp3");
+    }
+
     void readOnlyFoldersAreReplacedWithoutATrace()
     {
         for (const bool copies : {false, true}) {
