@@ -16,7 +16,7 @@ test_packages=(openbox xdotool thunar dbus-daemon weston qt6-wayland
 # What makes and mounts the volumes of tests/volumes.
 volume_packages=(xfsprogs btrfs-progs exfatprogs exfat-fuse ntfs-3g bindfs fuse3)
 bench_packages=(libbenchmark-dev libpcre2-dev)
-check_packages=(git clang-format clang-tidy)
+check_packages=(git clang-format clang-tidy doxygen reuse codespell)
 
 install_packages() {
     local missing=() package
