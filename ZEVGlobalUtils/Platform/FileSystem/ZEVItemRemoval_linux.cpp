@@ -3,6 +3,7 @@
 
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVCopiedItems_p.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVItemRenaming_p.h>
+#include <ZEVGlobalUtils/Platform/Values/ZEVLog_p.h>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -36,8 +37,9 @@ public:
         int error = isFolder ? empty(entry) : 0;
         if (!error)
             error = unlink(entry, isFolder ? AT_REMOVEDIR : 0);
-        if (error && isOpened)
-            fchmodat(entry.folder, entry.name.constData(), status.st_mode & 07777, 0);
+        if (error && isOpened
+            && fchmodat(entry.folder, entry.name.constData(), status.st_mode & 07777, 0) < 0)
+            qCWarning(zevLog).noquote() << "A folder that could not be removed stays writable:" << entry.name;
         return error;
     }
 
