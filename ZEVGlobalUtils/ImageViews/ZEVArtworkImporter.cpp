@@ -29,19 +29,15 @@ ZEVArtworkImporter::~ZEVArtworkImporter()
     m_queue.waitForDone();
 }
 
-void ZEVArtworkImporter::cancel()
-{
-    m_settled = begin();
-    Q_EMIT workEnded();
-}
+void ZEVArtworkImporter::cancel() { settle(begin()); }
 
 void ZEVArtworkImporter::decode(quint64 import, const QByteArray &bytes, const Apply &then)
 {
-    beginWork();
+    beginWork(import);
     m_queue.start([=, this] {
         const auto description = std::make_shared<ZEVImageDescription>(bytes);
         QMetaObject::invokeMethod(this, [=, this] {
-            endWork();
+            endWork(import);
             if (import < m_settled)
                 return;
             if (description->image().isNull())
@@ -84,7 +80,7 @@ void ZEVArtworkImporter::answer(quint64 import, const Description &offered, cons
 {
     if (accepted.isEmpty() || import <= m_settled)
         return;
-    m_settled = import;
+    settle(import);
     if (accepted == offered->bitmapData())
         apply(offered);
     else
@@ -97,12 +93,12 @@ bool ZEVArtworkImporter::readFile(quint64 import, const QUrl &file, const Apply 
     const auto path = ZEVLocalFile::path(file);
     if (!path || !QFileInfo(*path).isFile())
         return false;
-    beginWork();
+    beginWork(import);
     m_queue.start([=, this] {
         const QByteArray bytes = ZEVImageFile::read(*path);
         QMetaObject::invokeMethod(this, [=, this] {
-            endWork();
             vet(import, bytes, apply);
+            endWork(import);
         });
     });
     return true;
@@ -114,27 +110,38 @@ bool ZEVArtworkImporter::receivePromisedFile(quint64 import, const ZEVPasteboard
     const auto promises = ZEVFilePromiseReceiver::receiversFromPasteboard(pasteboard);
     if (promises.isEmpty())
         return false;
-    beginWork();
-    promises.first().receivePromisedFiles(
-        &m_queue, [=, this](const QByteArray &bytes, const ZEVError *error) {
+    beginWork(import);
+    const WId window = m_well->window()->internalWinId();
+    m_promises[import] = promises.first().receivePromisedFiles(
+        &m_queue, window, [=, this](const QByteArray &bytes, const ZEVError *error) {
             if (error)
                 qCWarning(zevLog).noquote() << "File promise error:" << error->localizedDescription();
             QMetaObject::invokeMethod(this, [=, this] {
-                endWork();
+                m_promises.erase(import);
                 vet(import, bytes, apply);
+                endWork(import);
             });
         });
     return true;
 }
 
-void ZEVArtworkImporter::beginWork()
+void ZEVArtworkImporter::beginWork(quint64 import)
 {
-    ++m_works;
+    m_works.append(import);
     Q_EMIT workBegan();
 }
 
-void ZEVArtworkImporter::endWork()
+void ZEVArtworkImporter::endWork(quint64 import)
 {
-    if (--m_works == 0)
+    if (m_works.removeOne(import) && m_works.isEmpty())
+        Q_EMIT workEnded();
+}
+
+/// Whatever comes of older imports is not waited for any more.
+void ZEVArtworkImporter::settle(quint64 import)
+{
+    m_settled = import;
+    m_promises.erase(m_promises.begin(), m_promises.lower_bound(import));
+    if (m_works.removeIf([=](quint64 work) { return work < import; }) > 0 && m_works.isEmpty())
         Q_EMIT workEnded();
 }

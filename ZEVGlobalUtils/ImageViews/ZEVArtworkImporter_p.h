@@ -7,6 +7,7 @@
 #include <QThreadPool>
 
 #include <functional>
+#include <map>
 #include <memory>
 
 class QUrl;
@@ -48,7 +49,8 @@ public:
     /// The same with a promised file; only while the drop is being handled. False without a promise.
     bool receivePromisedFile(quint64 import, const ZEVPasteboard &pasteboard, const Apply &apply);
 
-    bool isWorking() const { return m_works > 0; }
+    /// Whether something is on its way that may still be shown.
+    bool isWorking() const { return !m_works.isEmpty(); }
 
 Q_SIGNALS:
     void workBegan();
@@ -57,8 +59,9 @@ Q_SIGNALS:
     void refused(const QString &reason);
 
 private:
-    void beginWork();
-    void endWork();
+    void beginWork(quint64 import);
+    void endWork(quint64 import);
+    void settle(quint64 import);
     void decode(quint64 import, const QByteArray &bytes, const Apply &then);
     void ask(quint64 import, const Description &offered, const Apply &apply);
     void answer(quint64 import, const Description &offered, const QByteArray &accepted, const Apply &apply);
@@ -66,6 +69,7 @@ private:
     ZEVDragImageView *m_well;
     quint64 m_last = 0;
     quint64 m_settled = 0; ///< the newest one that was accepted or given up
-    int m_works = 0;
+    QList<quint64> m_works; ///< one for each piece of work that is waited for
     QThreadPool m_queue;
+    std::map<quint64, std::unique_ptr<QObject>> m_promises; ///< of files that have not come yet
 };

@@ -9,14 +9,7 @@ using namespace ZEVX11;
 
 namespace {
 
-/// The window that owns the drag: the protocol's property lives on it.
-xcb_window_t dragOwner(xcb_connection_t *server)
-{
-    const auto cookie = xcb_get_selection_owner(server, atom(server, "XdndSelection"));
-    const auto reply = owned(xcb_get_selection_owner_reply(server, cookie, nullptr));
-    return reply ? reply->owner : xcb_window_t(XCB_WINDOW_NONE);
-}
-
+/// Other connections of ours to the server see it when this has returned.
 void setProperty(const QByteArray &value)
 {
     xcb_connection_t *const server = connection();
@@ -25,7 +18,7 @@ void setProperty(const QByteArray &value)
         return;
     xcb_change_property(server, XCB_PROP_MODE_REPLACE, owner, atom(server, "XdndDirectSave0"),
                         atom(server, "text/plain"), 8, quint32(value.size()), value.constData());
-    xcb_flush(server);
+    owned(xcb_get_input_focus_reply(server, xcb_get_input_focus(server), nullptr)).reset();
 }
 
 enum class Then { Keep, Delete };

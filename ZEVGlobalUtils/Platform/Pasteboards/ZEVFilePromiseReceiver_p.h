@@ -6,7 +6,10 @@
 #include <ZEVGlobalUtils/Export.h>
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboard.h>
 
+#include <QWindow>
+
 #include <functional>
+#include <memory>
 
 class QThreadPool;
 class ZEVError;
@@ -30,10 +33,11 @@ public:
     /// The contents of the file, or why there are none (then they are null).
     using Reader = std::function<void(const QByteArray &contents, const ZEVError *error)>;
 
-    /// Has the source write its file into a private folder. That is only possible while the drop is being
-    /// handled, and takes as long as the source does, though never for ever. \a reader is called in \a queue
-    /// afterwards, when the file is gone again.
-    void receivePromisedFiles(QThreadPool *queue, const Reader &reader) const;
+    /// Has the source write its file into a private folder. That can only be asked for while the drop is being handled,
+    /// in \a window; the source may take its time, or never answer. \a reader is called in \a queue when the file has
+    /// been read and is gone again. Deleting what is returned before that gives the file up: a reader that has not
+    /// been queued is not called then.
+    std::unique_ptr<QObject> receivePromisedFiles(QThreadPool *queue, WId window, const Reader &reader) const;
 
 private:
     ZEVFilePromiseReceiver(const ZEVPasteboard &pasteboard, const QString &fileName);

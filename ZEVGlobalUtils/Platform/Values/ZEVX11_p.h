@@ -35,4 +35,12 @@ inline xcb_atom_t atom(xcb_connection_t *server, QByteArrayView name)
     return reply ? reply->atom : xcb_atom_t(XCB_ATOM_NONE);
 }
 
+/// The window that owns the drag in progress, where the source has its properties.
+inline xcb_window_t dragOwner(xcb_connection_t *server)
+{
+    const auto cookie = xcb_get_selection_owner(server, atom(server, "XdndSelection"));
+    const auto reply = owned(xcb_get_selection_owner_reply(server, cookie, nullptr));
+    return reply ? reply->owner : xcb_window_t(XCB_WINDOW_NONE);
+}
+
 } // namespace ZEVX11
