@@ -12,6 +12,9 @@
 
 #include <QSettings>
 
+#include <sys/mount.h>
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -98,13 +101,29 @@ private Q_SLOTS:
         startEditor(1);
     }
 
+    /// Nothing but the promise tells the folder of the name, and the source of the drag numbers a second file: bytes
+    /// alone would be named by the file manager.
     void theArtworkBecomesAFileOfTheFolder()
     {
-        const QString file = m_folder.filePath(u"empty/Winter:Wind.png"_s);
-        QVERIFY(m_desktop->drag(well(0), place(1, 1).center() + QPoint(100, 0),
-                                [&] { return contents(file) == png(Large); }));
-        QCOMPARE(
-            QDir(m_folder.filePath(u"empty"_s)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size(), 1);
+        for (const QString &name : {u"Winter:Wind.png"_s, u"Winter:Wind 2.png"_s}) {
+            const QString file = m_folder.filePath(u"empty/"_s + name);
+            QVERIFY(m_desktop->drag(well(0), place(1, 1).center() + QPoint(100, 80),
+                                    [&] { return contents(file) == png(Large); }));
+        }
+        QCOMPARE(QDir(m_folder.filePath(u"empty"_s)).entryList(QDir::Files).size(), 2);
+    }
+
+    void aFolderThatTakesNothing()
+    {
+        const QByteArray folder = QFile::encodeName(m_folder.filePath(u"empty"_s));
+        if (geteuid() != 0 || mount("none", folder.constData(), "tmpfs", MS_RDONLY, nullptr) < 0)
+            QSKIP("No right to mount a volume");
+        const auto alerts = [&] { return m_desktop->tool(u"search --onlyvisible --name ^Tag.Editor$"_s); };
+        const bool isShown = m_desktop->drag(well(0), place(1, 1).center() + QPoint(100, 80),
+                                             [&] { return !alerts().isEmpty(); });
+        m_desktop->tool(u"key Escape"_s);
+        QCOMPARE(umount2(folder.constData(), MNT_DETACH), 0); // the file manager looks at it
+        QVERIFY(isShown && Desktop::waitFor([&] { return alerts().isEmpty(); }));
     }
 
     void aPictureOfTheFolderBecomesTheArtwork()
