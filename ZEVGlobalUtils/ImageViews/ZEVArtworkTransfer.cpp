@@ -9,6 +9,7 @@
 #include <ZEVGlobalUtils/Images/Formats/ZEVDataBitmapData.h>
 #include <ZEVGlobalUtils/Images/Formats/ZEVImageDecoder_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDragImageView.h>
+#include <ZEVGlobalUtils/ImageViews/ZEVInnerImageView.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVLocalFile_p.h>
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVFilePromiseReceiver_p.h>
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboard.h>
@@ -16,9 +17,13 @@
 #include <ZEVGlobalUtils/Platform/Questions/ZEVOpenPanel.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 
+#include <QBuffer>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QMimeDatabase>
+#include <QPageLayout>
+#include <QPainter>
+#include <QPdfWriter>
 #include <QPointer>
 
 using namespace Qt::StringLiterals;
@@ -51,6 +56,21 @@ bool isImageFile(const QUrl &url)
 bool isImageName(const QString &name)
 {
     return std::ranges::any_of(QMimeDatabase().mimeTypesForFileName(name), isShown);
+}
+
+/// A page of the size of the view, a point for a point.
+QByteArray pdfOf(QWidget *view)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter page(&buffer);
+    page.setPageSize(QPageSize(QSizeF(view->size()), QPageSize::Point, {}, QPageSize::ExactMatch));
+    page.setPageMargins({});
+    page.setResolution(72);
+    QPainter painter(&page);
+    view->render(&painter, {}, {}, QWidget::DrawChildren);
+    painter.end();
+    return buffer.data();
 }
 
 qsizetype numberOfFiles(const ZEVPasteboard &pasteboard)
@@ -106,6 +126,15 @@ bool ZEVArtworkTransfer::perform(const QDropEvent &event)
         return m_importer.receivePromisedFile(import, pasteboard, importedFrom(source));
     m_importer.vet(import, bytes, importedFrom(source));
     return true;
+}
+
+QByteArray ZEVArtworkTransfer::dataForType(QStringView type) const
+{
+    if (m_well->imageView()->image().isNull())
+        return {};
+    if (ZEVUniformType::isEqual(type, ZEVUniformType::TIFF))
+        return ZEVCopiedArtwork({}, m_well->imageDescription()->image()).pasteboardPropertyListForType(type);
+    return ZEVUniformType::isEqual(type, u"com.adobe.pdf") ? pdfOf(m_well->imageView()) : QByteArray();
 }
 
 void ZEVArtworkTransfer::copy() const

@@ -29,6 +29,9 @@ public:
     /// Everything is taken here and now: on Wayland the data of a drop does not outlive its event.
     bool perform(const QDropEvent &event);
 
+    /// The picture as TIFF or, as it is shown, as PDF; null for other types and without a picture.
+    QByteArray dataForType(QStringView type) const;
+
     void copy() const;
     void paste();
     void browse();

@@ -3,12 +3,13 @@
 
 #include <ZEVGlobalUtils/ImageViews/ZEVDragImageView.h>
 
-#include <ZEVGlobalUtils/Images/Artwork/ZEVCopiedArtwork_p.h>
 #include <ZEVGlobalUtils/Images/Artwork/ZEVImageDescription.h>
 #include <ZEVGlobalUtils/Images/Artwork/ZEVPboardImageWriter.h>
-#include <ZEVGlobalUtils/Images/Artwork/ZEVPreviewPanel.h>
 #include <ZEVGlobalUtils/Images/Drawing/ZEVImageCrop.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVArtworkActions_p.h>
+#include <ZEVGlobalUtils/ImageViews/ZEVArtworkMotion_p.h>
+#include <ZEVGlobalUtils/ImageViews/ZEVArtworkOutline_p.h>
+#include <ZEVGlobalUtils/ImageViews/ZEVArtworkPreview_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVArtworkTransfer_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDashView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDragImageViewAccessible_p.h>
@@ -16,19 +17,13 @@
 #include <ZEVGlobalUtils/ImageViews/ZEVFocusFrame_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVImageDragging_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVInnerImageView.h>
-#include <ZEVGlobalUtils/ImageViews/ZEVViewAnimation_p.h>
 #include <ZEVGlobalUtils/Menus/Layout/ZEVViewEasyConstraints.h>
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboard.h>
-#include <ZEVGlobalUtils/Platform/Pasteboards/ZEVUniformType.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 
-#include <QBuffer>
 #include <QContextMenuEvent>
 #include <QDropEvent>
-#include <QPageLayout>
 #include <QPainter>
-#include <QPdfWriter>
-#include <QPropertyAnimation>
 #include <QResizeEvent>
 #include <QTimer>
 
@@ -37,16 +32,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qreal DashPadding = 5;
-constexpr qreal HoveredOpacity = 0.55;
 constexpr int LiveResizePause = 150; ///< milliseconds without a further change end a resize
-
-QPropertyAnimation *animation(ZEVInnerImageView *view, const QByteArray &property, const QString &key)
-{
-    auto *const animation = new QPropertyAnimation(view, property, view);
-    animation->setObjectName(key);
-    animation->setEndValue(1.0);
-    return animation;
-}
 
 void answer(QDropEvent *event, Qt::DropAction action)
 {
@@ -54,45 +40,7 @@ void answer(QDropEvent *event, Qt::DropAction action)
     event->setAccepted(action != Qt::IgnoreAction);
 }
 
-/// As the beginning of a label.
-QString capitalized(const QString &text) { return text.left(1).toUpper() + text.mid(1); }
-
-/// A page of the size of the view, a point for a point.
-QByteArray pdfOf(ZEVInnerImageView *view)
-{
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    QPdfWriter page(&buffer);
-    page.setPageSize(QPageSize(QSizeF(view->size()), QPageSize::Point, {}, QPageSize::ExactMatch));
-    page.setPageMargins({});
-    page.setResolution(72);
-    QPainter painter(&page);
-    view->render(&painter, {}, {}, QWidget::DrawChildren);
-    painter.end();
-    return buffer.data();
-}
-
 } // namespace
-
-ZEVDragImageViewDelegate::~ZEVDragImageViewDelegate() = default;
-
-bool ZEVDragImageViewDelegate::acceptBitmapData(ZEVDragImageView *, const QByteArray &, const Completion &)
-{
-    return false;
-}
-
-bool ZEVDragImageViewDelegate::acceptImageDescription(ZEVDragImageView *imageView,
-                                                      const std::shared_ptr<ZEVImageDescription> &description,
-                                                      const Completion &completion)
-{
-    return acceptBitmapData(imageView, description->bitmapData(), completion);
-}
-
-std::optional<QString> ZEVDragImageViewDelegate::exportNameForBitmapData(ZEVDragImageView *,
-                                                                         const QByteArray &)
-{
-    return std::nullopt;
-}
 
 ZEVDragImageView::ZEVDragImageView(QWidget *parent)
     : QWidget(parent)
@@ -101,26 +49,26 @@ ZEVDragImageView::ZEVDragImageView(QWidget *parent)
     , m_imageView(new ZEVInnerImageView)
     , m_focusFrame(new ZEVFocusFrame(this))
     , m_progressView(new ZEVDropProgressView(this))
-    , m_alphaAnimation(animation(m_imageView, "opacity", u"animateAlphas"_s))
-    , m_scaleAnimation(animation(m_imageView, "scale", u"animateScale"_s))
-    , m_alphaAnimationOut(animation(m_imageView, "opacity", u"alphaAnimatonOut"_s)) // kept: spelled so
     , m_liveResize(new QTimer(this))
+    , m_motion(new ZEVArtworkMotion(m_imageView))
+    , m_outline(new ZEVArtworkOutline(this))
     , m_transfer(new ZEVArtworkTransfer(this))
+    , m_preview(std::make_unique<ZEVArtworkPreview>())
 {
     ZEVDragImageViewAccessible::install();
     setAccessibleName(ZEVGlobalHelper::localizedStringForKey(u"Artwork"));
     setFocusPolicy(Qt::StrongFocus);
     setAcceptDrops(true);
-    m_alphaAnimation->setStartValue(HoveredOpacity);
-    m_scaleAnimation->setStartValue(0.9);
     m_liveResize->setSingleShot(true);
     m_liveResize->setInterval(LiveResizePause);
     connect(m_liveResize, &QTimer::timeout, this, &ZEVDragImageView::viewDidEndLiveResize);
     setUpViews();
     setUpTransfer();
     m_imageView->setMenu(ZEVArtworkActions::makeMenu(this));
-    updateDashes();
+    m_outline->update();
 }
+
+ZEVDragImageView::~ZEVDragImageView() = default;
 
 void ZEVDragImageView::setUpTransfer()
 {
@@ -138,16 +86,16 @@ void ZEVDragImageView::setUpTransfer()
 
 void ZEVDragImageView::setUpViews()
 {
-    updateLabel();
     ZEVViewEasyConstraints::addFittingSubview(m_innerImageViewContainerView, m_imageView);
     ZEVViewEasyConstraints::addFittingSubview(this, m_dashView, DashPadding);
     ZEVViewEasyConstraints::addFittingSubview(this, m_innerImageViewContainerView);
     m_focusFrame->raise();
     m_progressView->raise();
-    connect(m_dashView, &ZEVDashView::highlightedChanged, this, &ZEVDragImageView::updateDashes);
-    connect(m_imageView, &ZEVImageView::imageChanged, this, &ZEVDragImageView::updateDashes);
+    connect(m_outline, &ZEVArtworkOutline::drawnChanged, this, &ZEVDragImageView::drawDashesChanged);
 }
 
+QPropertyAnimation *ZEVDragImageView::alphaAnimation() const { return m_motion->alphaAnimation(); }
+QPropertyAnimation *ZEVDragImageView::scaleAnimation() const { return m_motion->scaleAnimation(); }
 QThreadPool *ZEVDragImageView::filePromiseQueue() const { return m_transfer->importer()->queue(); }
 bool ZEVDragImageView::isImporting() const { return m_transfer->importer()->isWorking(); }
 void ZEVDragImageView::cancelImports() { m_transfer->importer()->cancel(); }
@@ -157,7 +105,7 @@ void ZEVDragImageView::setEditable(bool editable)
     if (std::exchange(m_editable, editable) == editable)
         return;
     update();
-    updateDashes();
+    m_outline->update();
     Q_EMIT editableChanged(editable);
 }
 
@@ -165,34 +113,11 @@ void ZEVDragImageView::setDashDisplayRule(uint rule)
 {
     if (std::exchange(m_dashDisplayRule, rule) == rule)
         return;
-    updateDashes();
+    m_outline->update();
     Q_EMIT dashDisplayRuleChanged(rule);
 }
 
-bool ZEVDragImageView::drawDashes() const
-{
-    if (!m_editable || m_dashDisplayRule == DashesNever)
-        return false;
-    return m_dashDisplayRule == DashesAlways || m_dashView->isHighlighted() || m_imageView->image().isNull();
-}
-
-void ZEVDragImageView::updateDashes()
-{
-    const bool draws = drawDashes();
-    const bool isUnseen = m_imageDescription && m_imageDescription->image().isNull();
-    m_dashView->setDrawLabel(isUnseen || (!m_imageDescription && m_editable));
-    m_dashView->setDrawDashes(draws);
-    if (std::exchange(m_drewDashes, draws) != draws)
-        Q_EMIT drawDashesChanged(draws);
-}
-
-/// Artwork that cannot be shown says so, and does not look like none.
-void ZEVDragImageView::updateLabel()
-{
-    const bool isUnseen = m_imageDescription && m_imageDescription->image().isNull();
-    m_dashView->setLabel(isUnseen ? capitalized(m_imageDescription->remark())
-                                  : ZEVGlobalHelper::localizedStringForKey(u"Drop Image Here"));
-}
+bool ZEVDragImageView::drawDashes() const { return m_outline->isDrawn(); }
 
 QByteArray ZEVDragImageView::bitmapData() const
 {
@@ -234,12 +159,12 @@ void ZEVDragImageView::showDescription(const std::shared_ptr<ZEVImageDescription
 {
     const std::shared_ptr<ZEVImageDescription> previous = std::exchange(m_imageDescription, description);
     setAccessibleDescription(m_imageDescription ? m_imageDescription->imageDescription() : QString());
-    updateLabel();
+    m_outline->updateLabel();
     fitImage();
     update();
     if (animate)
-        animateImage();
-    updatePreviewPanel(previous.get());
+        m_motion->appear();
+    m_preview->follow(previous.get(), m_imageDescription);
     const QPointer<ZEVDragImageView> guard = this;
     Q_EMIT imageDescriptionChanged();
     if (notifies && guard)
@@ -259,13 +184,6 @@ void ZEVDragImageView::fitImage()
     const QImage whole = m_imageDescription ? m_imageDescription->image() : QImage();
     m_imageView->setImage(
         whole.isNull() ? whole : ZEVImageCrop::imageScaledToFitSize(whole, size(), devicePixelRatioF()));
-}
-
-void ZEVDragImageView::animateImage()
-{
-    m_alphaAnimationOut->stop();
-    for (QPropertyAnimation *animation : {m_alphaAnimation, m_scaleAnimation})
-        ZEVViewAnimation::run(*animation, ZEVViewAnimation::DefaultSeconds, ZEVViewAnimation::easeOutCurve());
 }
 
 QRect ZEVDragImageView::drawingImageRectInBounds() const
@@ -383,29 +301,7 @@ void ZEVDragImageView::clearImage()
         notify({{u"imageCleared"_s, true}});
 }
 
-void ZEVDragImageView::togglePreviewPanel()
-{
-    ZEVPreviewPanel *const panel = ZEVPreviewPanel::sharedPreviewPanel();
-    if (!m_imageDescription && !panel->isVisible())
-        return;
-    panel->setPreviewItems(m_imageDescription ? ZEVPreviewPanel::Items{m_imageDescription}
-                                              : ZEVPreviewPanel::Items());
-    panel->toggle();
-}
-
-/// A panel that shows this well's artwork goes on doing so, from track to track.
-void ZEVDragImageView::updatePreviewPanel(const ZEVImageDescription *previous)
-{
-    if (!ZEVPreviewPanel::sharedPreviewPanelExists())
-        return;
-    ZEVPreviewPanel *const panel = ZEVPreviewPanel::sharedPreviewPanel();
-    const ZEVPreviewPanel::Items &items = panel->previewItems();
-    const bool isOurs = previous ? items.size() == 1 && items.front().get() == previous : m_isPreviewed;
-    m_isPreviewed = isOurs;
-    if (isOurs)
-        panel->setPreviewItems(m_imageDescription ? ZEVPreviewPanel::Items{m_imageDescription}
-                                                  : ZEVPreviewPanel::Items());
-}
+void ZEVDragImageView::togglePreviewPanel() { ZEVArtworkPreview::toggle(m_imageDescription); }
 
 bool ZEVDragImageView::canReadDataFromPasteboard(const ZEVPasteboard &pasteboard)
 {
@@ -415,11 +311,7 @@ bool ZEVDragImageView::canReadDataFromPasteboard(const ZEVPasteboard &pasteboard
 QByteArray ZEVDragImageView::provideDataForType(const ZEVPasteboard &, const ZEVPasteboardItem *,
                                                 QStringView type) const
 {
-    if (m_imageView->image().isNull())
-        return {};
-    if (ZEVUniformType::isEqual(type, ZEVUniformType::TIFF))
-        return ZEVCopiedArtwork({}, m_imageDescription->image()).pasteboardPropertyListForType(type);
-    return ZEVUniformType::isEqual(type, u"com.adobe.pdf") ? pdfOf(m_imageView) : QByteArray();
+    return m_transfer->dataForType(type);
 }
 
 void ZEVDragImageView::mousePressEvent(QMouseEvent *event)
@@ -437,20 +329,12 @@ void ZEVDragImageView::mouseMoveEvent(QMouseEvent *event)
 
 std::shared_ptr<ZEVPboardImageWriter> ZEVDragImageView::pasteboardWriter() { return m_transfer->writer(); }
 
-/// Without any animation, whatever was going on.
-void ZEVDragImageView::setImageOpacity(qreal opacity)
-{
-    m_alphaAnimation->stop();
-    m_alphaAnimationOut->stop();
-    m_imageView->setOpacity(opacity);
-}
-
 void ZEVDragImageView::dragEnterEvent(QDragEnterEvent *event)
 {
     const Qt::DropAction action = m_transfer->entered(*event);
     if (action != Qt::IgnoreAction) {
         m_dashView->setHighlighted(true);
-        setImageOpacity(HoveredOpacity);
+        m_motion->beginHovering();
     }
     answer(event, action);
 }
@@ -462,7 +346,7 @@ void ZEVDragImageView::dragMoveEvent(QDragMoveEvent *event)
 
 void ZEVDragImageView::dragLeaveEvent(QDragLeaveEvent *event)
 {
-    setImageOpacity(1);
+    m_motion->endHovering();
     m_dashView->setHighlighted(false);
     QWidget::dragLeaveEvent(event);
 }
@@ -476,8 +360,7 @@ void ZEVDragImageView::dropEvent(QDropEvent *event)
 
 void ZEVDragImageView::draggingEnded()
 {
-    ZEVViewAnimation::animateTo(*m_alphaAnimationOut, 1.0, ZEVViewAnimation::DefaultSeconds,
-                                ZEVViewAnimation::defaultCurve());
+    m_motion->settle();
     m_dashView->setHighlighted(false);
 }
 

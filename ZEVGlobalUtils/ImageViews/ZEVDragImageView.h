@@ -18,6 +18,9 @@ class QMenu;
 class QPropertyAnimation;
 class QThreadPool;
 class QTimer;
+class ZEVArtworkMotion;
+class ZEVArtworkOutline;
+class ZEVArtworkPreview;
 class ZEVArtworkTransfer;
 class ZEVDashView;
 class ZEVDropProgressView;
@@ -44,6 +47,7 @@ class ZEV_EXPORT ZEVDragImageView : public QWidget {
 
 public:
     explicit ZEVDragImageView(QWidget *parent = nullptr);
+    ~ZEVDragImageView() override;
 
     const ZEVWeakRef<ZEVDragImageViewDelegate> &delegate() const { return m_delegate; }
     void setDelegate(const ZEVWeakRef<ZEVDragImageViewDelegate> &delegate) { m_delegate = delegate; }
@@ -88,8 +92,8 @@ public:
     ZEVDashView *dashView() const { return m_dashView; }
     ZEVInnerImageView *imageView() const { return m_imageView; }
     QWidget *innerImageViewContainerView() const { return m_innerImageViewContainerView; }
-    QPropertyAnimation *alphaAnimation() const { return m_alphaAnimation; }
-    QPropertyAnimation *scaleAnimation() const { return m_scaleAnimation; }
+    QPropertyAnimation *alphaAnimation() const;
+    QPropertyAnimation *scaleAnimation() const;
     /// Where files are read and pictures decoded.
     QThreadPool *filePromiseQueue() const;
     /// Whether artwork is still on its way.
@@ -168,16 +172,11 @@ protected:
 private:
     void setUpViews();
     void setUpTransfer();
-    void updateDashes();
-    void updateLabel();
     void showDescription(const std::shared_ptr<ZEVImageDescription> &description, bool notifies,
                          bool animate);
     void showImported(const std::shared_ptr<ZEVImageDescription> &description, const QUrl &source);
     void notify(const QVariantMap &userInfo);
-    void animateImage();
-    void setImageOpacity(qreal opacity);
     void fitImage();
-    void updatePreviewPanel(const ZEVImageDescription *previous);
 
     void draggingEnded();
     bool prepareForDragOperation(const QDropEvent &event);
@@ -185,8 +184,6 @@ private:
 
     ZEVWeakRef<ZEVDragImageViewDelegate> m_delegate;
     bool m_editable = true;
-    bool m_drewDashes = false;
-    bool m_isPreviewed = false; ///< the panel showed this well's artwork when it last had any
     uint m_dashDisplayRule = DashesAutomatic;
     std::shared_ptr<ZEVImageDescription> m_imageDescription;
     QUrl m_browseURL;
@@ -198,9 +195,9 @@ private:
     ZEVInnerImageView *m_imageView;
     ZEVFocusFrame *m_focusFrame;
     ZEVDropProgressView *m_progressView;
-    QPropertyAnimation *m_alphaAnimation;
-    QPropertyAnimation *m_scaleAnimation;
-    QPropertyAnimation *m_alphaAnimationOut;
     QTimer *m_liveResize;
+    ZEVArtworkMotion *m_motion;
+    ZEVArtworkOutline *m_outline;
     ZEVArtworkTransfer *m_transfer;
+    std::unique_ptr<ZEVArtworkPreview> m_preview;
 };
