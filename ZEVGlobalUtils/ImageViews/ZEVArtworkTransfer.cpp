@@ -178,6 +178,7 @@ std::shared_ptr<ZEVPboardImageWriter> ZEVArtworkTransfer::writer() const
     const QString given =
         delegate ? delegate->exportNameForBitmapData(m_well, bytes).value_or(QString()) : QString();
     const QString name = given.isEmpty() ? ZEVGlobalHelper::localizedStringForKey(u"Image") : given;
+    // Kept: "tiff" whatever it is, where the first byte says nothing.
     const auto extension = ZEVDataBitmapData::bitmapDataImageFileExtention(bytes);
     auto writer = std::make_shared<ZEVPboardImageWriter>();
     writer->setBitmapData(bytes);

@@ -31,8 +31,8 @@ QString previewFolder() { return ZEVImageDescription::quickLookTemporaryDirector
 /// The bare digest where no extension is known.
 QString previewFileName(const QByteArray &data)
 {
-    const auto extension = ZEVDataBitmapData::bitmapDataImageFileExtention(data);
-    return ZEVDataMD5::MD5Hash(data) + (extension ? u'.' + *extension : QString());
+    const QString extension = ZEVImageFile::extension(data);
+    return ZEVDataMD5::MD5Hash(data) + (extension.isEmpty() ? QString() : u'.' + extension);
 }
 
 /// Makes sure of the file. Nobody else may have put a folder, or a link to one, in the place of ours.

@@ -3,6 +3,8 @@
 
 #include <ZEVGlobalUtils/Images/Artwork/ZEVImageFile_p.h>
 
+#include <ZEVGlobalUtils/Images/Formats/ZEVDataBitmapData.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVImageIdentification.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileErrors.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVWholeFile_p.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
@@ -35,6 +37,12 @@ QByteArray ZEVImageFile::read(const QString &path)
         return {};
     const QByteArray bytes = file.read(LargestFile);
     return bytes.isNull() && file.error() == QFile::NoError ? ""_ba : bytes;
+}
+
+QString ZEVImageFile::extension(const QByteArray &data)
+{
+    const auto byFirstByte = ZEVDataBitmapData::bitmapDataImageFileExtention(data);
+    return byFirstByte.value_or(ZEVImageIdentification::identificationWithData(data).fileExtension());
 }
 
 ZEVError ZEVImageFile::writeError(qint64 code, const QString &path, const QString &reason)

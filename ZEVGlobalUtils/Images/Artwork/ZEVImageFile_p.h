@@ -14,6 +14,10 @@ namespace ZEVImageFile {
 /// MB, the limit of an ID3v2 frame).
 QByteArray read(const QString &path);
 
+/// The extension, without its dot, of a file with these bytes: by the first one or, where that says nothing, by all of
+/// the header. Empty when unknown.
+QString extension(const QByteArray &data);
+
 std::optional<ZEVError> writeAtomically(const QByteArray &data, const QString &path);
 
 /// An error with the text that the user gets to read; the code is one of ZEVFileErrors.

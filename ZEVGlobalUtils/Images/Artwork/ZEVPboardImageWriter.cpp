@@ -5,7 +5,7 @@
 
 #include <ZEVGlobalUtils/Files/ZEVErrorFileErrorHelpers.h>
 #include <ZEVGlobalUtils/Files/ZEVURLFileOperationAttempter.h>
-#include <ZEVGlobalUtils/Images/Formats/ZEVDataBitmapData.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVImageFile_p.h>
 #include <ZEVGlobalUtils/Images/Formats/ZEVImageIdentification.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileName_p.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
@@ -59,8 +59,8 @@ QString ZEVPboardImageWriter::withExtension(const QString &name) const
 {
     if (!ZEVFileName(name.toUtf8()).extension.isEmpty() || m_bitmapData.isNull())
         return name;
-    const auto extension = ZEVDataBitmapData::bitmapDataImageFileExtention(m_bitmapData);
-    return extension ? name + u'.' + *extension : name;
+    const QString extension = ZEVImageFile::extension(m_bitmapData);
+    return extension.isEmpty() ? name : name + u'.' + extension;
 }
 
 QByteArray ZEVPboardImageWriter::writePromisedFile(const ZEVPasteboard::PasteLocation &location) const

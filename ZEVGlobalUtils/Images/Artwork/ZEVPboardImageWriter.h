@@ -29,7 +29,8 @@ public:
     /// Among them the artwork's own MIME type.
     QStringList mimeTypesForType(QStringView type) const override;
 
-    /// With the extension that the artwork's first byte calls for, unless the name has one.
+    /// With the extension that the artwork calls for, unless the name has one: by its first byte or, where that says
+    /// nothing ("webp", "avif"), by all of its header.
     QString promisedFileName() const override;
 
     /// Next to a file of the same name under a numbered one. A failure is presented to the user afterwards, since a

@@ -16,6 +16,7 @@ struct Kind {
     QSize (*pixelSize)(QByteArrayView);
     const char *mimeType;
     const char *name;
+    const char *extension;
 };
 
 bool isTiff(QByteArrayView bytes)
@@ -59,15 +60,21 @@ bool isAvif(QByteArrayView bytes) { return hasBrand(bytes, "avif", "avis"); }
 bool isHeic(QByteArrayView bytes) { return hasBrand(bytes, "heic", "heix"); }
 
 constexpr Kind Kinds[] = {
-    {ZEVImageIdentification::TIFF, isTiff, ZEVImageHeaders::tiffSize, "image/tiff", "TIFF"},
-    {ZEVImageIdentification::BMP, isBmp, ZEVImageHeaders::bmpSize, "image/bmp", "BMP"},
-    {ZEVImageIdentification::GIF, isGif, ZEVImageHeaders::gifSize, "image/gif", "GIF"},
-    {ZEVImageIdentification::JPEG, isJpeg, ZEVImageHeaders::jpegSize, "image/jpeg", "JPEG"},
-    {ZEVImageIdentification::PNG, isPng, ZEVImageHeaders::pngSize, "image/png", "PNG"},
-    {ZEVImageIdentification::WebP, isWebp, ZEVImageHeaders::webpSize, "image/webp", "WebP"},
-    {ZEVImageIdentification::AVIF, isAvif, ZEVImageHeaders::avifSize, "image/avif", "AVIF"},
-    {ZEVImageIdentification::HEIC, isHeic, ZEVImageHeaders::avifSize, "image/heic", "HEIC"},
+    {ZEVImageIdentification::TIFF, isTiff, ZEVImageHeaders::tiffSize, "image/tiff", "TIFF", "tiff"},
+    {ZEVImageIdentification::BMP, isBmp, ZEVImageHeaders::bmpSize, "image/bmp", "BMP", "bmp"},
+    {ZEVImageIdentification::GIF, isGif, ZEVImageHeaders::gifSize, "image/gif", "GIF", "gif"},
+    {ZEVImageIdentification::JPEG, isJpeg, ZEVImageHeaders::jpegSize, "image/jpeg", "JPEG", "jpg"},
+    {ZEVImageIdentification::PNG, isPng, ZEVImageHeaders::pngSize, "image/png", "PNG", "png"},
+    {ZEVImageIdentification::WebP, isWebp, ZEVImageHeaders::webpSize, "image/webp", "WebP", "webp"},
+    {ZEVImageIdentification::AVIF, isAvif, ZEVImageHeaders::avifSize, "image/avif", "AVIF", "avif"},
+    {ZEVImageIdentification::HEIC, isHeic, ZEVImageHeaders::avifSize, "image/heic", "HEIC", "heic"},
 };
+
+QString text(ZEVImageIdentification::Format format, const char *Kind::*field)
+{
+    const auto *const kind = std::ranges::find(Kinds, format, &Kind::format);
+    return kind == std::end(Kinds) ? QString() : QString::fromLatin1(kind->*field);
+}
 
 } // namespace
 
@@ -80,17 +87,9 @@ ZEVImageIdentification ZEVImageIdentification::identificationWithData(QByteArray
     return {};
 }
 
-QString ZEVImageIdentification::mimeType() const
-{
-    const auto kind = std::ranges::find(Kinds, format, &Kind::format);
-    return kind == std::end(Kinds) ? QString() : QString::fromLatin1(kind->mimeType);
-}
-
-QString ZEVImageIdentification::formatName() const
-{
-    const auto kind = std::ranges::find(Kinds, format, &Kind::format);
-    return kind == std::end(Kinds) ? QString() : QString::fromLatin1(kind->name);
-}
+QString ZEVImageIdentification::mimeType() const { return text(format, &Kind::mimeType); }
+QString ZEVImageIdentification::formatName() const { return text(format, &Kind::name); }
+QString ZEVImageIdentification::fileExtension() const { return text(format, &Kind::extension); }
 
 QStringList ZEVImageIdentification::mimeTypes()
 {

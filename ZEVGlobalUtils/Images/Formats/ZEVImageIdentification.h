@@ -29,6 +29,9 @@ struct ZEV_EXPORT ZEVImageIdentification {
     /// "PNG", "WebP" and the like; empty when unknown.
     QString formatName() const;
 
+    /// The usual extension of a file, without its dot: "jpg", "webp" and the like; empty when unknown.
+    QString fileExtension() const;
+
     /// Those of all formats that are known here. What of them can be shown is the system's matter.
     static QStringList mimeTypes();
 
