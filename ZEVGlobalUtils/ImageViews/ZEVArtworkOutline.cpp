@@ -4,6 +4,7 @@
 #include <ZEVGlobalUtils/ImageViews/ZEVArtworkOutline_p.h>
 
 #include <ZEVGlobalUtils/Images/Artwork/ZEVImageDescription.h>
+#include <ZEVGlobalUtils/Images/Formats/ZEVImageIdentification.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDashView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDragImageView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVInnerImageView.h>
@@ -17,6 +18,14 @@ QString capitalized(const QString &text) { return text.left(1).toUpper() + text.
 bool hasUnseenArtwork(const ZEVDragImageView &well)
 {
     return well.imageDescription() && well.imageDescription()->image().isNull();
+}
+
+/// What is wrong with it and, where that is known, how large it is.
+QString labelOf(const ZEVImageDescription &artwork)
+{
+    const QString name = ZEVImageIdentification::identificationWithData(artwork.bitmapData()).formatName();
+    const QString size = artwork.size().isEmpty() ? QString() : u'\n' + artwork.dimensions() + u", " + name;
+    return capitalized(artwork.remark()) + size;
 }
 
 } // namespace
@@ -53,6 +62,6 @@ void ZEVArtworkOutline::update()
 void ZEVArtworkOutline::updateLabel()
 {
     m_well->dashView()->setLabel(hasUnseenArtwork(*m_well)
-                                     ? capitalized(m_well->imageDescription()->remark())
+                                     ? labelOf(*m_well->imageDescription())
                                      : ZEVGlobalHelper::localizedStringForKey(u"Drop Image Here"));
 }

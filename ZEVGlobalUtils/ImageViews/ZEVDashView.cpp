@@ -72,11 +72,16 @@ void ZEVDashView::setLabel(const QString &label)
     elideLabel();
 }
 
-/// A small view shows how the label begins, not its middle cut off on both sides.
+/// A small view shows how the label begins, not its middle cut off on all sides.
 void ZEVDashView::elideLabel()
 {
+    const QFontMetrics metrics = m_labelField->fontMetrics();
     const int room = std::max(1, width() - int(2 * LabelPadding));
-    m_labelField->setText(m_labelField->fontMetrics().elidedText(m_label, Qt::ElideRight, room));
+    const int most = std::max(1, (height() - int(2 * LabelPadding)) / metrics.lineSpacing());
+    QStringList lines = m_label.split(u'\n').first(std::min<qsizetype>(m_label.count(u'\n') + 1, most));
+    for (QString &line : lines)
+        line = metrics.elidedText(line, Qt::ElideRight, room);
+    m_labelField->setText(lines.join(u'\n'));
     m_labelField->setToolTip(m_labelField->text() == m_label ? QString() : m_label);
 }
 

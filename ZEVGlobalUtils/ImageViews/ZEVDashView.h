@@ -34,6 +34,7 @@ public:
     void setHighlighted(bool highlighted) { setHighlighted(highlighted, true); }
     void setHighlighted(bool highlighted, bool animated);
 
+    /// Of one line, or more where there is room for them.
     const QString &label() const { return m_label; }
     void setLabel(const QString &label);
 

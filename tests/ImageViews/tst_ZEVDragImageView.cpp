@@ -210,7 +210,7 @@ private Q_SLOTS:
     {
         Well well;
         well.setBitmapData(EncodedImages::avif(40, 30));
-        QCOMPARE(well.dashView()->label(), u"No decoder for AVIF"_s);
+        QCOMPARE(well.dashView()->label(), u"No decoder for AVIF\n40\u2006×\u200630 px, AVIF"_s);
         QVERIFY(well.drawDashes());
         well.setEditable(false);
         QVERIFY(well.dashView()->drawLabel());

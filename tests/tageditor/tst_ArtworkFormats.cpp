@@ -147,7 +147,7 @@ QString shown(const Format &format)
 {
     Well well;
     well.setBitmapData(format.bytes);
-    return well.imageView()->image().isNull() ? well.dashView()->label() : u"shown"_s;
+    return well.imageView()->image().isNull() ? well.dashView()->label().section(u'\n', 0, 0) : u"shown"_s;
 }
 
 QString pasted(const Format &format)
