@@ -61,12 +61,16 @@ QByteArray talkativeJpeg()
     return encoded(300, 300, "JPG").insert(2, ("\xFF\xFE\xFF\xFF" + QByteArray(65533, 'x')).repeated(100));
 }
 
+QByteArray pngChunk(const QByteArray &content)
+{
+    return bigEndian(quint32(content.size() - 4)) + content + bigEndian(pngChecksum(content));
+}
+
 /// A chunk of text that is 16 MB when it is inflated.
 QByteArray talkativePng()
 {
-    const QByteArray text = QByteArray("zTXtA\0\0", 7) + qCompress(QByteArray(16 << 20, ' ')).sliced(4);
     return encoded(300, 300, "PNG")
-        .insert(33, bigEndian(quint32(text.size() - 4)) + text + bigEndian(pngChecksum(text)));
+        .insert(33, pngChunk(QByteArray("zTXtA\0\0", 7) + qCompress(QByteArray(16 << 20, ' ')).sliced(4)));
 }
 
 /// A directory that says it has 65535 entries.
@@ -74,6 +78,66 @@ QByteArray talkativeTiff()
 {
     return QByteArray("II*\0\x08\0\0\0\xFF\xFF", 10)
         + QByteArray("\x0F\1\2\0\xFF\xFF\xFF\xFF\0\0\0\0", 12).repeated(65535);
+}
+
+/// Grey four times over, as printers have it: a scan for each ink, in the manner of Adobe (inverted).
+QByteArray cmykJpeg(int edge)
+{
+    QImage grey(edge, edge, QImage::Format_Grayscale8);
+    grey.fill(200);
+    const QByteArray bytes = encoded(grey, "JPG");
+    const qsizetype frame = bytes.indexOf("\xFF\xC0"), scan = bytes.indexOf("\xFF\xDA");
+    QByteArray inks, scans;
+    for (char ink = 1; ink <= 4; ++ink) {
+        inks += ink + QByteArray("\x11\0", 2);
+        scans += bytes.sliced(scan).chopped(2).replace(5, 1, QByteArray(1, ink));
+    }
+    const QByteArray adobe("\xFF\xEE\0\x0E"
+                           "Adobe\0d\0\0\0\0\0",
+                           16);
+    return bytes.first(2) + adobe + bytes.sliced(2, frame - 2) + QByteArray("\xFF\xC0\0\x14", 4)
+        + bytes.sliced(frame + 4, 5) + '\4' + inks + bytes.sliced(frame + 13, scan - frame - 13) + scans
+        + "\xFF\xD9";
+}
+
+constexpr int LargeEdge = 5900; ///< more than is decoded as a whole
+
+/// A small picture that says it is large: what is refused by its header needs nothing else.
+QByteArray enlarged(QByteArray bytes, qsizetype width, qsizetype height)
+{
+    qToLittleEndian(LargeEdge, bytes.data() + width);
+    qToLittleEndian(LargeEdge, bytes.data() + height);
+    return bytes;
+}
+
+QByteArray largeTiff()
+{
+    const QByteArray bytes = encoded(16, 16, "TIFF");
+    const auto valueOf = [&](const char *tag) { return bytes.indexOf(QByteArray(tag, 2) + '\3') + 8; };
+    return enlarged(bytes, valueOf("\0\1"), valueOf("\1\1"));
+}
+
+/// With rows of a length that nobody knows beforehand.
+QByteArray largeBmp()
+{
+    return enlarged(encoded(QImage(16, 16, QImage::Format_Indexed8), "BMP"), 18, 22).replace(30, 1, "\1");
+}
+
+QByteArray largeWebp()
+{
+    const QByteArray edge = littleEndian(LargeEdge - 1).first(3);
+    return QByteArray("RIFF\x16\0\0\0WEBPVP8X\x0A\0\0\0\0\0\0\0", 24) + edge + edge;
+}
+
+/// Of the kinds that Qt does not write, too.
+QByteArray largePng(char colorType, char depth, int bytesInPixel = 0)
+{
+    const QByteArray rows((LargeEdge * bytesInPixel + 1) * LargeEdge, '\0');
+    const QByteArray size = bigEndian(LargeEdge) + bigEndian(LargeEdge);
+    const QByteArray header = "IHDR" + size + depth + colorType + QByteArray(3, '\0');
+    return QByteArray("\x89PNG\r\n\x1A\n") + pngChunk(header)
+        + (colorType == 3 ? pngChunk("PLTE" + QByteArray(3, '\0')) : QByteArray())
+        + pngChunk("IDAT" + qCompress(rows, 1).sliced(4)) + pngChunk("IEND");
 }
 
 /// Since the last call: the system's own count goes on from that of the parent's.
@@ -109,6 +173,22 @@ QList<Bomb> bombs()
         {u"16 bits a channel"_s, encoded(QImage(1200, 1200, QImage::Format_RGBA64), "PNG"), {1200, 1200}},
         {u"the signature of another"_s, "\x89PNG\r\n\x1A\n" + encoded(300, 300, "JPG"), {0, 0}},
     };
+    bombs.append({u"CMYK"_s, cmykJpeg(1200), {1200, 1200}});
+    bombs.append(
+        {u"16 bits, TIFF"_s, encoded(QImage(1200, 1200, QImage::Format_RGBA64), "TIFF"), {1200, 1200}});
+    const std::pair<const char *, QByteArray> larges[] = {
+        {"large PNG", largePng(2, 8, 3)},
+        {"large PNG, grey and alpha", largePng(4, 8, 2)},
+        {"large PNG, grey", largePng(0, 8)},
+        {"large PNG, palette", largePng(3, 8)},
+        {"large PNG, 16 bits", largePng(2, 16)},
+        {"large TIFF", largeTiff()},
+        {"large BMP", largeBmp()},
+        {"large GIF", gif(LargeEdge, LargeEdge, 1)},
+        {"large WebP", largeWebp()},
+    };
+    for (const auto &[name, bytes] : larges)
+        bombs.append({QString::fromLatin1(name), bytes, {LargeEdge, LargeEdge}});
     for (const char *format : {"JPG", "PNG", "BMP", "TIFF", "WEBP", "GIF"}) {
         const QByteArray whole = qstrcmp(format, "GIF") == 0 ? gif(300, 300, 1) : encoded(300, 300, format);
         bombs.append({u"whole "_s + QString::fromLatin1(format), whole, {300, 300}});
@@ -233,6 +313,8 @@ private Q_SLOTS:
             QVERIFY2(std::abs(seen.red() - wanted.red()) < 4, format);
             QVERIFY2(std::abs(seen.blue() - wanted.blue()) < 4, format);
         }
+        const QColor inks = ZEVImageDescription(cmykJpeg(16)).image().pixelColor(4, 4);
+        QVERIFY(std::abs(inks.red() - 200 * 200 / 255) < 4 && inks.red() == inks.blue());
     }
 
     /// A disk that takes nothing more leaves no file under the name, and somebody is told.

@@ -95,12 +95,13 @@ private:
         }
     }
 
-    /// Rows of true colour with 8 bits, from the top to the bottom.
+    /// Rows of true colour, or of grey with transparency, with 8 bits, from the top to the bottom.
     bool readsByRows() const
     {
         constexpr qsizetype Depth = 24, ColorType = 25, Interlace = 28;
         return m_data.size() > Interlace && m_data[Depth] == 8
-            && (m_data[ColorType] == 2 || m_data[ColorType] == 6) && m_data[Interlace] == 0;
+            && (m_data[ColorType] == 2 || m_data[ColorType] == 4 || m_data[ColorType] == 6)
+            && m_data[Interlace] == 0;
     }
 
     static QSize keptEdges(const QSize &size)
