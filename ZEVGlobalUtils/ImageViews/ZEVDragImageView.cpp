@@ -24,6 +24,7 @@
 #include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QResizeEvent>
 #include <QTimer>
 
@@ -104,17 +105,21 @@ void ZEVDragImageView::setEditable(bool editable)
 {
     if (std::exchange(m_editable, editable) == editable)
         return;
+    const QPointer<ZEVDragImageView> guard = this;
     update();
     m_outline->update();
-    Q_EMIT editableChanged(editable);
+    if (guard)
+        Q_EMIT editableChanged(editable);
 }
 
 void ZEVDragImageView::setDashDisplayRule(uint rule)
 {
     if (std::exchange(m_dashDisplayRule, rule) == rule)
         return;
+    const QPointer<ZEVDragImageView> guard = this;
     m_outline->update();
-    Q_EMIT dashDisplayRuleChanged(rule);
+    if (guard)
+        Q_EMIT dashDisplayRuleChanged(rule);
 }
 
 bool ZEVDragImageView::drawDashes() const { return m_outline->isDrawn(); }
@@ -154,20 +159,23 @@ void ZEVDragImageView::showImported(const std::shared_ptr<ZEVImageDescription> &
     showDescription(description, true, true);
 }
 
+/// Whoever hears of one thing may end the well before the next one is said.
 void ZEVDragImageView::showDescription(const std::shared_ptr<ZEVImageDescription> &description, bool notifies,
                                        bool animate)
 {
+    const QPointer<ZEVDragImageView> guard = this;
     const std::shared_ptr<ZEVImageDescription> previous = std::exchange(m_imageDescription, description);
     setAccessibleDescription(m_imageDescription ? m_imageDescription->imageDescription() : QString());
     m_outline->updateLabel();
-    fitImage();
     update();
     if (animate)
         m_motion->appear();
-    m_preview->follow(previous.get(), m_imageDescription);
-    const QPointer<ZEVDragImageView> guard = this;
-    Q_EMIT imageDescriptionChanged();
-    if (notifies && guard)
+    fitImage();
+    if (guard)
+        m_preview->follow(previous.get(), m_imageDescription);
+    if (guard)
+        Q_EMIT imageDescriptionChanged();
+    if (guard && notifies)
         notify({});
 }
 
@@ -230,9 +238,9 @@ void ZEVDragImageView::viewWillStartLiveResize()
 
 void ZEVDragImageView::viewDidEndLiveResize()
 {
+    m_imageView->setImageScaling(ZEVImageView::ScaleProportionallyDown);
     if (m_imageDescription)
         fitImage();
-    m_imageView->setImageScaling(ZEVImageView::ScaleProportionallyDown);
 }
 
 bool ZEVDragImageView::event(QEvent *event)
@@ -289,8 +297,10 @@ void ZEVDragImageView::cut()
 {
     if (!m_imageDescription)
         return;
+    const QPointer<ZEVDragImageView> guard = this;
     copy();
-    clearImage();
+    if (guard)
+        clearImage();
 }
 
 void ZEVDragImageView::clearImage()
@@ -333,8 +343,8 @@ void ZEVDragImageView::dragEnterEvent(QDragEnterEvent *event)
 {
     const Qt::DropAction action = m_transfer->entered(*event);
     if (action != Qt::IgnoreAction) {
-        m_dashView->setHighlighted(true);
         m_motion->beginHovering();
+        m_dashView->setHighlighted(true);
     }
     answer(event, action);
 }
@@ -347,15 +357,17 @@ void ZEVDragImageView::dragMoveEvent(QDragMoveEvent *event)
 void ZEVDragImageView::dragLeaveEvent(QDragLeaveEvent *event)
 {
     m_motion->endHovering();
-    m_dashView->setHighlighted(false);
     QWidget::dragLeaveEvent(event);
+    m_dashView->setHighlighted(false);
 }
 
 void ZEVDragImageView::dropEvent(QDropEvent *event)
 {
-    const bool isTaken = prepareForDragOperation(*event) && performDragOperation(*event);
+    const QPointer<ZEVDragImageView> guard = this;
+    const bool isTaken = prepareForDragOperation(*event) && guard && performDragOperation(*event);
     answer(event, isTaken ? Qt::CopyAction : Qt::IgnoreAction);
-    draggingEnded();
+    if (guard)
+        draggingEnded();
 }
 
 void ZEVDragImageView::draggingEnded()
@@ -366,8 +378,9 @@ void ZEVDragImageView::draggingEnded()
 
 bool ZEVDragImageView::prepareForDragOperation(const QDropEvent &event)
 {
+    const bool isWelcome = m_editable && canReadDataFromPasteboard(ZEVPasteboard(event.mimeData()));
     m_dashView->setHighlighted(false);
-    return m_editable && canReadDataFromPasteboard(ZEVPasteboard(event.mimeData()));
+    return isWelcome;
 }
 
 /// The well's own artwork changes nothing.

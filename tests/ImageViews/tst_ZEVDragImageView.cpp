@@ -291,6 +291,76 @@ private Q_SLOTS:
         QCOMPARE(other.bitmapData(), png(5));
     }
 
+    /// The sanitizers see what touches a well that is no more.
+    void aWellMayEndInEverySignal()
+    {
+        using Maker = std::function<void(ZEVDragImageView *, const std::function<void()> &)>;
+        const auto at = [](auto signal) -> Maker {
+            return [signal](ZEVDragImageView *well, const auto &end) { connect(well, signal, well, end); };
+        };
+        const std::pair<const char *, Maker> signalsOfWell[] = {
+            {"editable", at(&ZEVDragImageView::editableChanged)},
+            {"rule", at(&ZEVDragImageView::dashDisplayRuleChanged)},
+            {"dashes", at(&ZEVDragImageView::drawDashesChanged)},
+            {"description", at(&ZEVDragImageView::imageDescriptionChanged)},
+            {"update", at(&ZEVDragImageView::didUpdate)},
+            {"artwork", at(&ZEVDragImageView::artworkDidUpdate)},
+            {"refusal", at(&ZEVDragImageView::importWasRefused)},
+            {"image",
+             [](auto *well, const auto &end) {
+                 connect(well->imageView(), &ZEVImageView::imageChanged, well, end);
+             }},
+            {"highlight",
+             [](auto *well, const auto &end) {
+                 connect(well->dashView(), &ZEVDashView::highlightedChanged, well, end);
+             }},
+            {"clipboard",
+             [](auto *well, const auto &end) {
+                 connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, well, end);
+             }},
+        };
+        const auto dragged = offering({{u"image/png"_s, png(5)}});
+        const auto dropped = [](Well *well, const QByteArray &bytes) {
+            const QPointer<Well> guard = well;
+            const auto data = offering({{u"image/png"_s, bytes}});
+            QDropEvent event({20, 20}, Qt::CopyAction, data.get(), Qt::LeftButton, {});
+            QApplication::sendEvent(well, &event);
+            for (int step = 0; step < 4 && guard; ++step) {
+                well->filePromiseQueue()->waitForDone();
+                QCoreApplication::processEvents();
+            }
+        };
+        const std::pair<const char *, std::function<void(Well *)>> deeds[] = {
+            {"editable", [](Well *well) { well->setEditable(false); }},
+            {"rule", [](Well *well) { well->setDashDisplayRule(2); }},
+            {"new artwork", [](Well *well) { well->setBitmapData(png(6), true, true); }},
+            {"none", [](Well *well) { well->clearImage(); }},
+            {"cut", [](Well *well) { QTest::keyClick(well, Qt::Key_X, Qt::ControlModifier); }},
+            {"drop", [&](Well *well) { dropped(well, png(7)); }},
+            {"drop of a ruin", [&](Well *well) { dropped(well, png(64).first(60)); }},
+            {"resize",
+             [](Well *well) {
+                 QResizeEvent event({50, 60}, {100, 100});
+                 QApplication::sendEvent(well, &event);
+             }},
+        };
+        int ended = 0;
+        for (const auto &[signal, connectTo] : signalsOfWell) {
+            for (const auto &[deed, act] : deeds) {
+                const QPointer<Well> well = new Well;
+                well->setBitmapData(png(5));
+                enter(*well, *dragged);
+                connectTo(well, [&] {
+                    ++ended;
+                    delete well.data();
+                });
+                act(well);
+                delete well.data();
+            }
+        }
+        QVERIFY2(ended >= 25, qPrintable(QString::number(ended))); // not all pairs meet
+    }
+
     void anImportCanBeCancelled()
     {
         Well well;
