@@ -361,21 +361,36 @@ private Q_SLOTS:
         QVERIFY2(ended >= 25, qPrintable(QString::number(ended))); // not all pairs meet
     }
 
-    void anImportCanBeCancelled()
+    void whileAFileWaitsToBeRead()
     {
-        Well well;
-        QSemaphore mayGoOn;
-        well.filePromiseQueue()->start([&] { mayGoOn.acquire(); });
-        drop(well, files({m_file}));
-        well.show();
-        auto *const bar = well.findChild<QProgressBar *>();
-        QVERIFY(!bar->isVisible()); // most are quick
-        QTRY_VERIFY(bar->isVisible());
-        QTest::keyClick(&well, Qt::Key_Escape);
-        QVERIFY(!bar->isVisible());
-        mayGoOn.release();
-        well.settle();
-        QVERIFY(well.bitmapData().isNull() && well.updates.isEmpty());
+        const QString file = m_folder.filePath(u"waiting.png"_s), link = m_folder.filePath(u"link.png"_s);
+        const std::pair<const char *, std::function<void(Well &)>> rows[] = {
+            {"it is given up", [](Well &well) { QTest::keyClick(&well, Qt::Key_Escape); }},
+            {"it vanishes", [&](Well &) { QFile::remove(file); }},
+            {"a pipe takes its place", [&](Well &) { QFile::remove(file) && QFile::link(link, file); }},
+            {"other artwork is set", [](Well &well) { well.setBitmapData(png(9)); }},
+        };
+        mkfifo(QFile::encodeName(link), 0600);
+        for (const auto &[name, act] : rows) {
+            QFile::remove(file);
+            QVERIFY(QFile::copy(m_file, file));
+            Well well;
+            well.setBitmapData(png(9));
+            QSemaphore mayGoOn;
+            well.filePromiseQueue()->start([&] { mayGoOn.acquire(); });
+            drop(well, files({file}));
+            well.show();
+            auto *const bar = well.findChild<QProgressBar *>();
+            COMPARE_ROW(name, bar->isVisible(), false); // most are quick
+            QTRY_VERIFY(bar->isVisible());
+            act(well);
+            COMPARE_ROW(name, bar->isVisible(), well.isImporting());
+            mayGoOn.release();
+            well.settle();
+            COMPARE_ROW(name, bar->isVisible(), false);
+            COMPARE_ROW(name, well.bitmapData(), png(9));
+            COMPARE_ROW(name, well.updates.size(), 0);
+        }
     }
 
     void theOriginIsThatOfTheArtworkThatGoes()
