@@ -34,13 +34,13 @@ void ZEVArtworkImporter::cancel() { settle(begin()); }
 void ZEVArtworkImporter::decode(quint64 import, const QByteArray &bytes, const Apply &then)
 {
     beginWork(import);
-    m_queue.start([=, this] {
-        const auto description = std::make_shared<ZEVImageDescription>(bytes);
+    m_queue.start([=, this, room = m_well->roomForImage()] {
+        const auto description = std::make_shared<ZEVImageDescription>(bytes, room);
         QMetaObject::invokeMethod(this, [=, this] {
             endWork(import);
             if (import < m_settled)
                 return;
-            if (description->image().isNull())
+            if (!description->isShown())
                 Q_EMIT refused(description->remark());
             else
                 then(description);

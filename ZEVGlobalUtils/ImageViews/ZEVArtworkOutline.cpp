@@ -17,7 +17,7 @@ QString capitalized(const QString &text) { return text.left(1).toUpper() + text.
 
 bool hasUnseenArtwork(const ZEVDragImageView &well)
 {
-    return well.imageDescription() && well.imageDescription()->image().isNull();
+    return well.imageDescription() && !well.imageDescription()->isShown();
 }
 
 /// What is wrong with it and, where that is known, how large it is.

@@ -5,7 +5,6 @@
 
 #include <ZEVGlobalUtils/Images/Artwork/ZEVImageDescription.h>
 #include <ZEVGlobalUtils/Images/Artwork/ZEVPboardImageWriter.h>
-#include <ZEVGlobalUtils/Images/Drawing/ZEVImageCrop.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVArtworkActions_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVArtworkMotion_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVArtworkOutline_p.h>
@@ -131,8 +130,9 @@ QByteArray ZEVDragImageView::bitmapData() const
 
 void ZEVDragImageView::setBitmapData(const QByteArray &bytes, bool notify, bool animate)
 {
-    setImageDescription(bytes.isNull() ? nullptr : std::make_shared<ZEVImageDescription>(bytes), notify,
-                        animate);
+    setImageDescription(bytes.isNull() ? nullptr
+                                       : std::make_shared<ZEVImageDescription>(bytes, roomForImage()),
+                        notify, animate);
 }
 
 /// A host's own artwork is newer than any that is still on its way.
@@ -148,7 +148,7 @@ void ZEVDragImageView::applyImportedImageData(const QByteArray &bytes, const QUr
     if (bytes.isEmpty())
         return;
     cancelImports();
-    showImported(std::make_shared<ZEVImageDescription>(bytes), source);
+    showImported(std::make_shared<ZEVImageDescription>(bytes, roomForImage()), source);
 }
 
 void ZEVDragImageView::showImported(const std::shared_ptr<ZEVImageDescription> &description,
@@ -189,10 +189,12 @@ void ZEVDragImageView::notify(const QVariantMap &userInfo)
 
 void ZEVDragImageView::fitImage()
 {
-    const QImage whole = m_imageDescription ? m_imageDescription->image() : QImage();
-    m_imageView->setImage(
-        whole.isNull() ? whole : ZEVImageCrop::imageScaledToFitSize(whole, size(), devicePixelRatioF()));
+    m_imageView->setImage(m_imageDescription
+                              ? m_imageDescription->imageScaledToFitSize(size(), devicePixelRatioF())
+                              : QImage());
 }
+
+QSize ZEVDragImageView::roomForImage() const { return (QSizeF(size()) * devicePixelRatioF()).toSize(); }
 
 QRect ZEVDragImageView::drawingImageRectInBounds() const
 {

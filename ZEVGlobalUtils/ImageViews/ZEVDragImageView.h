@@ -99,6 +99,9 @@ public:
     /// Whether artwork is still on its way.
     bool isImporting() const;
 
+    /// What the picture can take, in pixels: all that has to be decoded of it for now.
+    QSize roomForImage() const;
+
     /// Where the artwork lies, upright, in whole points; empty without any.
     QRect drawingImageRectInBounds() const;
 

@@ -7,6 +7,7 @@
 #include <ZEVGlobalUtils/Images/Artwork/ZEVImageDescription.h>
 #include <ZEVGlobalUtils/Images/Artwork/ZEVPasteboardRawBitmapData.h>
 #include <ZEVGlobalUtils/Images/Artwork/ZEVPreviewPanel.h>
+#include <ZEVGlobalUtils/Images/Drawing/ZEVImageCrop.h>
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVPasteboard.h>
 #include <ZEVGlobalUtils/Platform/Pasteboards/ZEVUniformType.h>
 #include <ZEVGlobalUtils/Platform/Questions/ZEVErrorPresentation.h>
@@ -297,6 +298,38 @@ private Q_SLOTS:
             COMPARE_ROW(name, seen.size(), QSizeF(size));
             COMPARE_ROW(name, seen.image().size(), shown);
             COMPARE_ROW(name, seen.remark(), remark);
+        }
+    }
+
+    /// A smaller picture stands for the whole where nobody sees the difference, and nowhere else.
+    void noMoreIsDecodedThanIsShown()
+    {
+        QImage stored(600, 400, QImage::Format_RGB32);
+        QLinearGradient shade(0, 0, 600, 400);
+        shade.setColorAt(1, Qt::red);
+        QPainter(&stored).fillRect(stored.rect(), shade);
+        QPainter(&stored).fillRect(23, 27, 301, 153, Qt::white);
+        const QSizeF room(40, 60);
+        const std::tuple<const char *, QByteArray, QSizeF, bool> rows[] = {
+            {"a large JPEG", turned(stored, "JPG", 6), room, true},
+            {"in more room than was said", turned(stored, "JPG", 6), room * 2, false},
+            {"a JPEG that is not much larger", turned(stored.scaled(120, 80), "JPG", 6), room, false},
+            {"a PNG", turned(stored, "PNG", 6), room, false},
+        };
+        for (const auto &[name, bytes, size, isOther] : rows) {
+            const ZEVImageDescription whole(bytes), seen(bytes, room.toSize());
+            const QImage wanted = ZEVImageCrop::imageScaledToFitSize(whole.image(), size);
+            const QImage shown = seen.imageScaledToFitSize(size);
+            COMPARE_ROW(name, shown != wanted, isOther);
+            COMPARE_ROW(name, shown.size(), wanted.size());
+            qint64 difference = 0;
+            for (int y = 0; y < wanted.height(); ++y) {
+                for (int x = 0; x < wanted.width(); ++x)
+                    difference += std::abs(qGreen(wanted.pixel(x, y)) - qGreen(shown.pixel(x, y)));
+            }
+            QVERIFY2(difference < wanted.width() * wanted.height(), name);
+            COMPARE_ROW(name, seen.shownSize(), whole.shownSize());
+            QVERIFY2(seen.image() == whole.image(), name); // when somebody asks for it
         }
     }
 

@@ -6,6 +6,7 @@
 #include <ZEVGlobalUtils/Images/Artwork/ZEVCopiedArtwork_p.h>
 #include <ZEVGlobalUtils/Images/Artwork/ZEVImageFile_p.h>
 #include <ZEVGlobalUtils/Images/Artwork/ZEVPreviewPanel.h>
+#include <ZEVGlobalUtils/Images/Drawing/ZEVImageCrop.h>
 #include <ZEVGlobalUtils/Images/Formats/ZEVDataBitmapData.h>
 #include <ZEVGlobalUtils/Images/Formats/ZEVImageDecoder_p.h>
 #include <ZEVGlobalUtils/Images/Formats/ZEVImageIdentification.h>
@@ -76,16 +77,35 @@ QString remarkOn(const ZEVImageDecoder::Picture &picture, const QByteArray &data
 
 } // namespace
 
-ZEVImageDescription::ZEVImageDescription(const QByteArray &bitmapData)
+ZEVImageDescription::ZEVImageDescription(const QByteArray &bitmapData, QSize room)
     : m_bitmapData(bitmapData)
     , m_type(ZEVDataBitmapData::bitmapImageType(bitmapData))
 {
-    const ZEVImageDecoder::Picture picture = ZEVImageDecoder::pictureWithData(bitmapData);
-    m_image = picture.image;
+    const ZEVImageDecoder::Picture picture = ZEVImageDecoder::pictureWithData(bitmapData, room);
+    m_isShown = picture.outcome == ZEVImageDecoder::Outcome::Shown;
+    (picture.isForRoom ? m_imageForRoom : m_image) = picture.image;
+    m_room = picture.isForRoom ? room : QSize();
     m_size = picture.storedSize;
     m_shownSize = picture.shownSize;
     m_remark = remarkOn(picture, bitmapData);
     m_dimensions = ResolutionTransformer().transformedValue(m_size).toString();
+}
+
+const QImage &ZEVImageDescription::image() const
+{
+    const QMutexLocker lock(&m_imageLock);
+    if (m_image.isNull() && m_isShown)
+        m_image = ZEVImageDecoder::pictureWithData(m_bitmapData).image;
+    return m_image;
+}
+
+QImage ZEVImageDescription::imageScaledToFitSize(QSizeF size, qreal devicePixelRatio) const
+{
+    const QSizeF pixels = size * devicePixelRatio;
+    const bool isEnough = pixels.width() <= m_room.width() && pixels.height() <= m_room.height();
+    return m_isShown
+        ? ZEVImageCrop::imageScaledToFitSize(isEnough ? m_imageForRoom : image(), size, devicePixelRatio)
+        : QImage();
 }
 
 QUrl ZEVImageDescription::originURL() const

@@ -15,7 +15,9 @@
 /// threads may read and set the same description.
 class ZEV_EXPORT ZEVImageDescription : public ZEVPreviewItem {
 public:
-    explicit ZEVImageDescription(const QByteArray &bitmapData);
+    /// With a \a room, in pixels, in which the picture is to be shown, no more of it is decoded than that takes; the
+    /// rest waits until somebody asks for the image().
+    explicit ZEVImageDescription(const QByteArray &bitmapData, QSize room = {});
 
     /// Where the artwork came from, invalid when that is not known.
     QUrl originURL() const;
@@ -24,7 +26,11 @@ public:
     const QByteArray &bitmapData() const { return m_bitmapData; }
     /// The first frame or page, upright and in sRGB, one point a pixel; scaled down to 16 million pixels where it
     /// has more. Null when it cannot be shown.
-    const QImage &image() const { return m_image; }
+    const QImage &image() const;
+    /// Whether there is a picture.
+    bool isShown() const { return m_isShown; }
+    /// The image() in the middle of one of that \a size, in points, as large as fits. Null when it cannot be shown.
+    QImage imageScaledToFitSize(QSizeF size, qreal devicePixelRatio = 1) const;
     /// The name of the format by the first byte, "PNG" and the like.
     const QString &type() const { return m_type; }
     /// "640 × 480 px".
@@ -51,7 +57,7 @@ public:
     /// overwrites it. Only while the shared preview panel is visible. A failure is presented to the user
     /// later, on the main thread. Any thread.
     QUrl previewItemURL() const override;
-    QImage previewItemImage() const override { return m_image; }
+    QImage previewItemImage() const override { return image(); }
     /// The imageDescription(), only while the shared preview panel is visible.
     std::optional<QString> previewItemTitle() const override;
 
@@ -64,7 +70,11 @@ private:
     mutable QMutex m_originLock;
     QUrl m_originURL;
     QByteArray m_bitmapData;
-    QImage m_image;
+    bool m_isShown = false;
+    QSize m_room; ///< that m_imageForRoom is enough for; empty where there is none
+    QImage m_imageForRoom;
+    mutable QMutex m_imageLock;
+    mutable QImage m_image; ///< null until it is asked for, with a m_imageForRoom
     QSizeF m_size;
     QSizeF m_shownSize;
     QString m_remark;

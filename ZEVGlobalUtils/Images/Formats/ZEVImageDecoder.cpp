@@ -19,6 +19,9 @@ namespace {
 /// Qt's limit belongs to the process and a host may have lifted it; this one is ours. It is enough for 33
 /// million pixels of 8 bits a channel. What is made of a picture may take as much again.
 constexpr qint64 MostDecodedBytes = 128LL * 1024 * 1024;
+/// What is scaled down this much after decoding looks as if the whole had been (49 dB and better), though the decoder
+/// has left out what is finer than that.
+constexpr double EnoughToScaleDown = 5;
 /// Larger pictures are kept scaled down to this many pixels.
 constexpr qint64 MostKeptPixels = 16LL * 1024 * 1024;
 
@@ -49,7 +52,7 @@ public:
     }
 
     /// Nil when the whole picture does not fit and the format is not read in parts.
-    std::optional<QImage> read()
+    std::optional<QImage> read(QSize room)
     {
         const QSize size = m_identification.pixelSize;
         // Asked twice, since the reader has to look into the file for its answer.
@@ -58,9 +61,14 @@ public:
             if (part.isEmpty())
                 return std::nullopt;
             m_reader.setScaledSize(part);
+        } else if (const int divisor = divisorFor(room); divisor > 1) {
+            m_reader.setScaledSize(dividedSize(divisor));
+            m_isForRoom = true;
         }
         return m_reader.read();
     }
+
+    bool isForRoom() const { return m_isForRoom; }
 
 private:
     /// Palettes are decoded to true colour at times, and Qt's own limit counts so, too: nothing is less than 32
@@ -74,16 +82,35 @@ private:
         return std::max(32, int(QImage::toPixelFormat(decoded).bitsPerPixel()));
     }
 
+    /// By the powers of two of the transform of JPEG, without a step in between.
+    QSize dividedSize(int divisor) const
+    {
+        const QSize size = m_identification.pixelSize;
+        return {(size.width() + divisor - 1) / divisor, (size.height() + divisor - 1) / divisor};
+    }
+
+    /// What the decoder may leave out of a picture that takes so much room.
+    int divisorFor(QSize room) const
+    {
+        if (room.isEmpty() || m_identification.format != ZEVImageIdentification::JPEG)
+            return 1;
+        const QSize size = m_identification.pixelSize;
+        const double scale =
+            std::max(double(size.width()) / room.width(), double(size.height()) / room.height());
+        int divisor = 1;
+        while (divisor < 8 && divisor * 2 * EnoughToScaleDown <= scale)
+            divisor *= 2;
+        return divisor;
+    }
+
     /// The size in which the decoder can read without having the whole; empty where it cannot.
     QSize partSize() const
     {
         const QSize size = m_identification.pixelSize;
         switch (m_identification.format) {
-        case ZEVImageIdentification::JPEG: // by the powers of two of its transform, without a step in between
+        case ZEVImageIdentification::JPEG:
             for (int divisor = 2; divisor <= 8; divisor *= 2) {
-                const QSize part((size.width() + divisor - 1) / divisor,
-                                 (size.height() + divisor - 1) / divisor);
-                if (pixels(part) * 4 <= MostDecodedBytes)
+                if (const QSize part = dividedSize(divisor); pixels(part) * 4 <= MostDecodedBytes)
                     return part;
             }
             return {};
@@ -114,6 +141,7 @@ private:
     QByteArray m_data;
     QBuffer m_buffer;
     QImageReader m_reader;
+    bool m_isForRoom = false;
 };
 
 /// One band after the other in the same place, since what is scaled has to be in true colour.
@@ -166,7 +194,7 @@ ZEVImageDecoder::Outcome outcomeBeforeReading(const ZEVImageIdentification &iden
 
 } // namespace
 
-ZEVImageDecoder::Picture ZEVImageDecoder::pictureWithData(const QByteArray &data)
+ZEVImageDecoder::Picture ZEVImageDecoder::pictureWithData(const QByteArray &data, QSize room)
 {
     const auto identification = ZEVImageIdentification::identificationWithData(data);
     const int orientation = ZEVImageOrientation::orientation(identification, data);
@@ -175,7 +203,10 @@ ZEVImageDecoder::Picture ZEVImageDecoder::pictureWithData(const QByteArray &data
     picture.storedSize = identification.pixelSize.expandedTo({0, 0});
     picture.isAnimated = ZEVImageCompleteness::isAnimated(identification, data);
     if (picture.outcome == Outcome::Shown) {
-        const auto image = Reader(identification, data).read();
+        Reader reader(identification, data);
+        const auto image =
+            reader.read(ZEVImageOrientation::isTransposed(orientation) ? room.transposed() : room);
+        picture.isForRoom = reader.isForRoom();
         picture.outcome = !image ? Outcome::TooLarge : image->isNull() ? Outcome::Damaged : Outcome::Shown;
         if (image && !image->isNull())
             picture.image = ZEVImageOrientation::upright(inStandardColors(scaledDown(*image)), orientation);

@@ -27,10 +27,13 @@ struct Picture {
     /// The same as it stands upright.
     QSize shownSize;
     bool isAnimated = false;
+    /// Whether it is smaller than without a room.
+    bool isForRoom = false;
 };
 
-/// Takes at most 256 MB. Any thread.
-Picture pictureWithData(const QByteArray &data);
+/// Takes at most 256 MB. With a \a room, in pixels, in which it is to be shown, the picture may be a smaller one that
+/// nobody tells from the whole there, and is quicker to read. Any thread.
+Picture pictureWithData(const QByteArray &data, QSize room = {});
 
 /// Whether a type is one that is identified and that this system decodes: what may be dropped, pasted and
 /// chosen. Any thread.

@@ -142,6 +142,7 @@ void ArtworkDock::showArtwork()
     const SelectedArtwork::State state = m_selected->state();
     const bool isKnown = state != SelectedArtwork::NoTracks && state != SelectedArtwork::Reading;
     const auto artwork = m_selected->artwork();
+    m_selected->setRoom(m_well->roomForImage());
     if (state != SelectedArtwork::Reading
         && m_well->bitmapData() != (artwork ? artwork->bitmapData() : QByteArray()))
         m_well->setImageDescription(artwork);

@@ -28,7 +28,7 @@ struct Source {
 using Result = std::pair<SelectedArtwork::State, std::shared_ptr<ZEVImageDescription>>;
 
 /// The first difference settles it.
-Result common(const QList<Source> &sources, const std::atomic_bool &isStopped)
+Result common(const QList<Source> &sources, QSize room, const std::atomic_bool &isStopped)
 {
     const QByteArray first = sources.first().bytes();
     for (qsizetype n = 1; n < sources.size() && !isStopped; ++n) {
@@ -37,7 +37,7 @@ Result common(const QList<Source> &sources, const std::atomic_bool &isStopped)
     }
     if (first.isEmpty() || isStopped)
         return {SelectedArtwork::None, nullptr};
-    return {SelectedArtwork::Same, std::make_shared<ZEVImageDescription>(first)};
+    return {SelectedArtwork::Same, std::make_shared<ZEVImageDescription>(first, room)};
 }
 
 } // namespace
@@ -91,8 +91,8 @@ void SelectedArtwork::read()
     if (sources.isEmpty())
         return finish(NoTracks, nullptr);
     const auto isStopped = m_isStopped = std::make_shared<std::atomic_bool>(false);
-    QThreadPool::globalInstance()->start([sources, isStopped, reader = QPointer(this)] {
-        const auto result = common(sources, *isStopped);
+    QThreadPool::globalInstance()->start([sources, isStopped, room = m_room, reader = QPointer(this)] {
+        const auto result = common(sources, room, *isStopped);
         QMetaObject::invokeMethod(qApp, [=] {
             if (reader && !*isStopped)
                 reader->finish(result.first, result.second);

@@ -34,6 +34,9 @@ public:
     /// Null unless the state is Same.
     const std::shared_ptr<ZEVImageDescription> &artwork() const { return m_artwork; }
 
+    /// The pixels in which artwork that is read from now on is to be shown.
+    void setRoom(QSize room) { m_room = room; }
+
     /// The readable ones among the selected, in the order of the rows.
     QList<Track> tracks() const;
 
@@ -48,6 +51,7 @@ private:
 
     TrackTableModel *m_model;
     QTableView *m_table;
+    QSize m_room;
     bool m_isPending = false;
     State m_state = NoTracks;
     std::shared_ptr<ZEVImageDescription> m_artwork;
