@@ -22,6 +22,23 @@ constexpr int LabelPointSize = 12; ///< of points that are pixels at scale facto
 constexpr qreal RestingAlpha = 0.5;
 constexpr qreal HighlightSeconds = 0.15;
 
+/// Lines of whole words that are no longer than the \a room, but for the words that are.
+QStringList wrapped(const QString &text, const QFontMetrics &metrics, int room)
+{
+    QStringList lines;
+    for (const QString &paragraph : text.split(u'\n')) {
+        lines.append(QString());
+        for (const QString &word : paragraph.split(u' ')) {
+            const QString longer = lines.last().isEmpty() ? word : lines.last() + u' ' + word;
+            if (lines.last().isEmpty() || metrics.horizontalAdvance(longer) <= room)
+                lines.last() = longer;
+            else
+                lines.append(word);
+        }
+    }
+    return lines;
+}
+
 } // namespace
 
 ZEVDashView::ZEVDashView(QWidget *parent)
@@ -48,7 +65,7 @@ void ZEVDashView::setUpLabelField()
     m_labelField->setFont(font);
     m_labelField->setTextFormat(Qt::PlainText);
     m_labelField->setAlignment(Qt::AlignCenter);
-    m_labelField->setMinimumWidth(1); // elided rather than a hindrance to small wells
+    m_labelField->setMinimumSize(1, 1); // elided rather than a hindrance to small wells
     QPalette colors = m_labelField->palette();
     colors.setColor(QPalette::WindowText, ZEVNamedColors::highlightWithLevel(m_dashView->dashColor(), 0.1F));
     m_labelField->setPalette(colors);
@@ -78,11 +95,14 @@ void ZEVDashView::elideLabel()
     const QFontMetrics metrics = m_labelField->fontMetrics();
     const int room = std::max(1, width() - int(2 * LabelPadding));
     const int most = std::max(1, (height() - int(2 * LabelPadding)) / metrics.lineSpacing());
-    QStringList lines = m_label.split(u'\n').first(std::min<qsizetype>(m_label.count(u'\n') + 1, most));
+    QStringList lines = wrapped(m_label, metrics, room);
+    if (lines.size() > most)
+        lines = lines.first(most - 1) << lines.sliced(most - 1).join(u' ');
     for (QString &line : lines)
         line = metrics.elidedText(line, Qt::ElideRight, room);
-    m_labelField->setText(lines.join(u'\n'));
-    m_labelField->setToolTip(m_labelField->text() == m_label ? QString() : m_label);
+    const QString shown = lines.join(u'\n');
+    m_labelField->setText(shown);
+    m_labelField->setToolTip(shown.contains(u'\u2026') ? m_label : QString());
 }
 
 void ZEVDashView::resizeEvent(QResizeEvent *event)

@@ -136,6 +136,10 @@ private Q_SLOTS:
         QCOMPARE(view.labelField()->text(), u"Drop Image Here"_s);
         view.resize(80, 80);
         view.grab();
+        QVERIFY(view.labelField()->text().contains(u'\n')); // wrapped where there is room for it
+        QCOMPARE(view.labelField()->text().replace(u'\n', u' '), view.label());
+        view.resize(80, 30);
+        view.grab();
         QVERIFY(view.labelField()->text().startsWith(u"D"));
         QVERIFY(view.labelField()->text().endsWith(u'…'));
         QCOMPARE(view.label(), u"Drop Image Here"_s);
