@@ -6,6 +6,7 @@
 #include <tageditor/tracks/Track.h>
 
 #include <QObject>
+#include <QSize>
 
 #include <atomic>
 #include <memory>
