@@ -3,7 +3,7 @@
 
 #include <ZEVGlobalUtils/ImageViews/ZEVArtFocusView.h>
 
-#include <ZEVGlobalUtils/ImageViews/ZEVViewAnimation_p.h>
+#include <ZEVGlobalUtils/Menus/Layout/ZEVViewAnimation_p.h>
 #include <ZEVGlobalUtils/Platform/Desktop/ZEVApplicationActivity_p.h>
 
 #include <QApplication>

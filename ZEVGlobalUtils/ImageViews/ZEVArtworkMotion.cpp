@@ -4,7 +4,7 @@
 #include <ZEVGlobalUtils/ImageViews/ZEVArtworkMotion_p.h>
 
 #include <ZEVGlobalUtils/ImageViews/ZEVInnerImageView.h>
-#include <ZEVGlobalUtils/ImageViews/ZEVViewAnimation_p.h>
+#include <ZEVGlobalUtils/Menus/Layout/ZEVViewAnimation_p.h>
 
 #include <QPropertyAnimation>
 

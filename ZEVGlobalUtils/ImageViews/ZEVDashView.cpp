@@ -4,8 +4,8 @@
 #include <ZEVGlobalUtils/ImageViews/ZEVDashView.h>
 
 #include <ZEVGlobalUtils/ImageViews/ZEVDashDrawingView.h>
-#include <ZEVGlobalUtils/ImageViews/ZEVViewAnimation_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVViewEffect_p.h>
+#include <ZEVGlobalUtils/Menus/Layout/ZEVViewAnimation_p.h>
 #include <ZEVGlobalUtils/Menus/Layout/ZEVViewEasyConstraints.h>
 #include <ZEVGlobalUtils/Platform/Desktop/ZEVAppearanceHelpers.h>
 #include <ZEVGlobalUtils/Platform/Desktop/ZEVNamedColors_p.h>

@@ -3,12 +3,12 @@
 
 #include <ZEVGlobalUtils/ImageViews/ZEVDragImageView.h>
 
+#include <ZEVGlobalUtils/Images/Artwork/ZEVArtworkPreview_p.h>
 #include <ZEVGlobalUtils/Images/Artwork/ZEVImageDescription.h>
 #include <ZEVGlobalUtils/Images/Artwork/ZEVPboardImageWriter.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVArtworkActions_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVArtworkMotion_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVArtworkOutline_p.h>
-#include <ZEVGlobalUtils/ImageViews/ZEVArtworkPreview_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVArtworkTransfer_p.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDashView.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDragImageViewAccessible_p.h>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/ImageViews/ZEVViewAnimation_p.h>
+#include <ZEVGlobalUtils/Menus/Layout/ZEVViewAnimation_p.h>
 
 #include <ZEVGlobalUtils/Platform/Desktop/ZEVReducedMotion_p.h>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
-#include <ZEVGlobalUtils/ImageViews/ZEVArtworkPreview_p.h>
+#include <ZEVGlobalUtils/Images/Artwork/ZEVArtworkPreview_p.h>
 
 #include <ZEVGlobalUtils/Images/Artwork/ZEVImageDescription.h>
 #include <ZEVGlobalUtils/Images/Artwork/ZEVPreviewPanel.h>
