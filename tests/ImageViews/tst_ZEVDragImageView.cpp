@@ -121,7 +121,8 @@ private Q_SLOTS:
     void initTestCase()
     {
         QFile file(m_file);
-        QVERIFY(file.open(QFile::WriteOnly) && file.write(png(7)) > 0);
+        QVERIFY(file.open(QFile::WriteOnly));
+        QVERIFY(file.write(png(7)) > 0);
         mkfifo(QFile::encodeName(m_folder.filePath(u"pipe.png"_s)), 0600);
     }
 
@@ -232,11 +233,14 @@ private Q_SLOTS:
         QVERIFY(!move.isAccepted());
         QDragLeaveEvent leave;
         QApplication::sendEvent(&well, &leave);
-        QVERIFY(!well.dashView()->isHighlighted() && well.imageView()->opacity() == 1.0);
+        QVERIFY(!well.dashView()->isHighlighted());
+        QVERIFY(well.imageView()->opacity() == 1.0);
         QVERIFY(drop(well, {{u"image/png"_s, png(5)}}));
-        QVERIFY(!well.dashView()->isHighlighted() && well.imageView()->opacity() == 1.0);
+        QVERIFY(!well.dashView()->isHighlighted());
+        QVERIFY(well.imageView()->opacity() == 1.0);
         well.setEditable(false);
-        QVERIFY(!enter(well, *data) && !well.dashView()->isHighlighted());
+        QVERIFY(!enter(well, *data));
+        QVERIFY(!well.dashView()->isHighlighted());
     }
 
     void theDelegateAnswersWhenItLikes()
@@ -401,7 +405,8 @@ private Q_SLOTS:
         well.applyImportedImageData(png(6), QUrl(u"https://a.example/b"_s));
         well.applyImportedImageData("", {});
         QCOMPARE(before->originURL(), QUrl(u"https://a.example/b"_s));
-        QVERIFY(well.imageDescription()->originURL().isEmpty() && well.updates.size() == 1);
+        QVERIFY(well.imageDescription()->originURL().isEmpty());
+        QVERIFY(well.updates.size() == 1);
     }
 
     void copyAndPaste()

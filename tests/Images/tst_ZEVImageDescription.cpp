@@ -347,7 +347,8 @@ private Q_SLOTS:
             QVERIFY2(std::abs(seen.blue() - wanted.blue()) < 4, format);
         }
         const QColor inks = ZEVImageDescription(cmykJpeg(16)).image().pixelColor(4, 4);
-        QVERIFY(std::abs(inks.red() - 200 * 200 / 255) < 4 && inks.red() == inks.blue());
+        QVERIFY(std::abs(inks.red() - 200 * 200 / 255) < 4);
+        QVERIFY(inks.red() == inks.blue());
     }
 
     /// A disk that takes nothing more leaves no file under the name, and somebody is told.
@@ -378,8 +379,9 @@ private Q_SLOTS:
     {
         for (const Bomb &bomb : bombs()) {
             QFile file(m_runtime.filePath(u"bomb"_s));
-            QVERIFY(file.open(QFile::WriteOnly) && file.write(bomb.bytes) == bomb.bytes.size()
-                    && file.flush());
+            QVERIFY(file.open(QFile::WriteOnly));
+            QVERIFY(file.write(bomb.bytes) == bomb.bytes.size());
+            QVERIFY(file.flush());
             qputenv("ZEV_BOMB", QFile::encodeName(file.fileName()));
             QProcess process;
             process.start(QCoreApplication::applicationFilePath(), {u"describeBomb"_s});
@@ -436,26 +438,32 @@ private Q_SLOTS:
     {
         const QString path = m_png.previewItemURL().toLocalFile();
         QCOMPARE(m_png.previewItemTitle(), m_png.imageDescription());
-        QVERIFY(path.endsWith(u".png") && QFile(path).setPermissions(QFile::ReadOwner));
+        QVERIFY(path.endsWith(u".png"));
+        QVERIFY(QFile(path).setPermissions(QFile::ReadOwner));
         QCOMPARE(ZEVImageDescription(m_png.bitmapData()).previewItemURL().toLocalFile(), path);
         QCOMPARE(QFile::permissions(path) & QFile::WriteOwner, QFile::Permissions()); // not written anew
-        QVERIFY(QFile(path).setPermissions(QFile::ReadOwner | QFile::WriteOwner) && QFile::resize(path, 5));
+        QVERIFY(QFile(path).setPermissions(QFile::ReadOwner | QFile::WriteOwner));
+        QVERIFY(QFile::resize(path, 5));
         QCOMPARE(m_png.previewItemURL().toLocalFile(), path);
         QCOMPARE(QFileInfo(path).size(), m_png.bitmapData().size());
         ZEVPreviewPanel::sharedPreviewPanel()->hide();
-        QVERIFY(!m_png.previewItemURL().isValid() && !m_png.previewItemTitle());
+        QVERIFY(!m_png.previewItemURL().isValid());
+        QVERIFY(!m_png.previewItemTitle());
     }
 
     void aPreviewFolderThatIsNotOursIsNotUsed()
     {
         const QTemporaryDir elsewhere;
         const QString others = elsewhere.filePath(u"others"_s);
-        QVERIFY(QFile(others).open(QFile::WriteOnly) && QFile::link(elsewhere.path(), folder()));
+        QVERIFY(QFile(others).open(QFile::WriteOnly));
+        QVERIFY(QFile::link(elsewhere.path(), folder()));
         QVERIFY(!m_png.previewItemURL().isValid());
         QTRY_COMPARE(m_errors.size(), 1);
         ZEVImageDescription::cleanupTemporaryDirectory();
-        QVERIFY(QFileInfo::exists(others) && QFile::remove(folder()));
-        QVERIFY(QDir().mkdir(folder()) && QFile::setPermissions(folder(), QFile::Permissions(0x7777)));
+        QVERIFY(QFileInfo::exists(others));
+        QVERIFY(QFile::remove(folder()));
+        QVERIFY(QDir().mkdir(folder()));
+        QVERIFY(QFile::setPermissions(folder(), QFile::Permissions(0x7777)));
         QVERIFY(m_png.previewItemURL().isValid());
         QCOMPARE(QFile::permissions(folder()) & QFile::Permissions(0x77), QFile::Permissions());
     }
@@ -463,13 +471,16 @@ private Q_SLOTS:
     void whatLiesInThePlaceOfAPreview()
     {
         const QString path = m_png.previewItemURL().toLocalFile();
-        QVERIFY(QFile::remove(path) && QDir().mkdir(path));
+        QVERIFY(QFile::remove(path));
+        QVERIFY(QDir().mkdir(path));
         m_errors.clear();
         QVERIFY(!m_png.previewItemURL().isValid());
         QCoreApplication::processEvents();
         QVERIFY(m_errors.isEmpty()); // swallowed
         const QString secret = m_runtime.filePath(u"secret"_s);
-        QVERIFY(QDir().rmdir(path) && QFile::link(secret, path) && m_png.previewItemURL().isValid());
+        QVERIFY(QDir().rmdir(path));
+        QVERIFY(QFile::link(secret, path));
+        QVERIFY(m_png.previewItemURL().isValid());
         QVERIFY(!QFileInfo::exists(secret)); // nothing is written through a link
     }
 

@@ -88,7 +88,8 @@ private Q_SLOTS:
     {
         const QImage inverse = CGImageCreateInvertedMaskWithMask(stencilMask(square(8)));
         QCOMPARE(inverse.format(), QImage::Format_Grayscale8);
-        QVERIFY(qGray(inverse.pixel(0, 0)) == 255 && qGray(inverse.pixel(4, 4)) == 0);
+        QVERIFY(qGray(inverse.pixel(0, 0)) == 255);
+        QVERIFY(qGray(inverse.pixel(4, 4)) == 0);
         QVERIFY(CGImageCreateInvertedMaskWithMask(std::nullopt).isNull());
         const QRegularExpression nonMask(u"^Attempting to invert non-mask: QImage"_s);
         QTest::ignoreMessage(QtWarningMsg, nonMask);
@@ -104,11 +105,13 @@ private Q_SLOTS:
         trait.setGradientStartColor(Qt::red);
         QVERIFY(!trait.needsGradient());
         trait.setGradientEndColor(Qt::green);
-        QVERIFY(trait.needsGradient() && ZEVDrawingTrait(trait) == trait);
+        QVERIFY(trait.needsGradient());
+        QVERIFY(ZEVDrawingTrait(trait) == trait);
         trait.setGradientStartColor({});
         QVERIFY(!trait.needsGradient());
         trait.setGradient({{0, Qt::red}, {1, Qt::blue}});
-        QVERIFY(trait.needsGradient() && !ZEVDrawingTrait(trait).needsGradient()); // kept
+        QVERIFY(trait.needsGradient());
+        QVERIFY(!ZEVDrawingTrait(trait).needsGradient()); // kept
     }
 
     void theBody()
@@ -163,8 +166,10 @@ private Q_SLOTS:
         for (bool upright : {true, false}) {
             const QImage image = drawn(square(16), trait, {.upright = upright});
             QVERIFY(isNear(image.pixel(8, 11), Qt::white)); // the body lies over it
-            QVERIFY(isNear(image.pixel(8, 12), Qt::red) && isNear(image.pixel(13, 8), Qt::red));
-            QVERIFY(isNear(image.pixel(8, 3), Qt::blue) && isNear(image.pixel(14, 8), Qt::blue));
+            QVERIFY(isNear(image.pixel(8, 12), Qt::red));
+            QVERIFY(isNear(image.pixel(13, 8), Qt::red));
+            QVERIFY(isNear(image.pixel(8, 3), Qt::blue));
+            QVERIFY(isNear(image.pixel(14, 8), Qt::blue));
         }
         QVERIFY(isNear(drawn(square(16), trait, {.ratio = 2}).pixel(16, 25), Qt::red));
         trait.dropShadowColor = QColor();
@@ -218,9 +223,10 @@ private Q_SLOTS:
         trait.innerGlowRadius = 0;
         for (bool upright : {true, false}) {
             const QImage image = drawn(square(16), trait, {.upright = upright});
-            QVERIFY(isNear(image.pixel(8, 4), QColor(127, 127, 127))
-                    && isNear(image.pixel(8, 5), QColor(127, 127, 127)));
-            QVERIFY(isNear(image.pixel(8, 6), Qt::white) && isNear(image.pixel(8, 3), Qt::blue));
+            QVERIFY(isNear(image.pixel(8, 4), QColor(127, 127, 127)));
+            QVERIFY(isNear(image.pixel(8, 5), QColor(127, 127, 127)));
+            QVERIFY(isNear(image.pixel(8, 6), Qt::white));
+            QVERIFY(isNear(image.pixel(8, 3), Qt::blue));
         }
         trait.innerShadowOffset = {0, -1e12};
         QVERIFY(isNear(drawn(square(16), trait).pixel(8, 4), Qt::white));
