@@ -84,8 +84,7 @@ qsizetype countOfMatcher(const Search &search, const Pieces &pieces)
     qsizetype offset = 0;
     for (const QString &piece : pieces) {
         matcher.setText(piece);
-        while (const auto match = matcher.findNext())
-            found.append({offset + match->location, match->length});
+        matcher.findAll(found, offset);
         offset += piece.size();
     }
     return matcher.limitReached() ? -1 : found.size();

@@ -51,8 +51,7 @@ struct ZEVTextSearch::Background {
     void match(Piece &piece)
     {
         matcher.setText(piece.text);
-        while (const auto match = matcher.findNext())
-            piece.matches.append(*match);
+        matcher.findAll(piece.matches);
     }
 
     void match(Pieces pieces, QPromise<Pieces> &promise)

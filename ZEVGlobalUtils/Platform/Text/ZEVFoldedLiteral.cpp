@@ -68,6 +68,7 @@ std::optional<ZEVFoldedLiteral> ZEVFoldedLiteral::make(const QString &literal, b
     if (!caseInsensitive) {
         for (const char16_t unit : made.m_text)
             made.m_units.emplace_back().add(unit);
+        made.makeWords();
         return made;
     }
     if (!made.addUnits(literal))
@@ -77,6 +78,7 @@ std::optional<ZEVFoldedLiteral> ZEVFoldedLiteral::make(const QString &literal, b
         made.shorten();
     if (made.m_units.empty() || made.expansionsAtFirstOffset() > 4)
         return std::nullopt;
+    made.makeWords();
     return made;
 }
 
@@ -155,23 +157,41 @@ const ZEVFoldedLiteral::Expansion *ZEVFoldedLiteral::expansionAt(size_t offset, 
     return found == m_expansions.end() ? nullptr : &*found;
 }
 
-std::optional<qsizetype> ZEVFoldedLiteral::endOfMatch(QStringView text, qsizetype start) const
+qsizetype ZEVFoldedLiteral::endOfRareMatch(QStringView text, qsizetype start) const
 {
     const char16_t *const units = text.utf16();
     qsizetype at = start;
     for (size_t offset = 0; offset < m_units.size(); ++at) {
         if (at >= text.size())
-            return std::nullopt;
+            return -1;
         if (m_units[offset].contains(units[at])) {
             ++offset;
             continue;
         }
         const Expansion *expansion = expansionAt(offset, units[at]);
         if (!expansion)
-            return std::nullopt;
+            return -1;
         offset += expansion->length;
     }
     return at;
+}
+
+/// The last word lies over the one before it, so that nothing is read behind the literal.
+void ZEVFoldedLiteral::makeWords()
+{
+    constexpr size_t size = WordSize;
+    m_isAllWords = m_expansions.empty() && m_units.size() >= size;
+    for (const ZEVTextScan::Units &units : m_units)
+        m_isAllWords = m_isAllWords && units.isOneBut(units.bit());
+    for (size_t begin = 0; begin < m_units.size() && m_units.size() >= size; begin += size) {
+        Word &word = m_words.emplace_back();
+        word.offset = qsizetype(std::min(begin, m_units.size() - size));
+        for (size_t i = 0; i < size; ++i) {
+            const ZEVTextScan::Units &units = m_units[size_t(word.offset) + i];
+            word.bits.at(i) = units.bit();
+            word.units.at(i) = char16_t(units.units[0] | units.bit());
+        }
+    }
 }
 
 ZEVTextScan::Anchors ZEVFoldedLiteral::anchors() const

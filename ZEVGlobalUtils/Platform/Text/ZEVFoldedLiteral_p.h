@@ -7,6 +7,7 @@
 
 #include <QString>
 
+#include <cstring>
 #include <optional>
 #include <string>
 #include <vector>
@@ -23,8 +24,14 @@ public:
     /// fold to several of its own or to some of what follows too.
     static std::optional<ZEVFoldedLiteral> make(const QString &literal, bool caseInsensitive, Extent extent);
 
-    /// Where the match ends that begins at \a start; nil where there is none.
-    std::optional<qsizetype> endOfMatch(QStringView text, qsizetype start) const;
+    /// Where the match ends that begins at \a start; -1 where there is none.
+    qsizetype endOfMatch(QStringView text, qsizetype start) const
+    {
+        const qsizetype end = start + length();
+        if (!m_words.empty() && end <= text.size() && areWordsAt(text.utf16() + start))
+            return end;
+        return m_isAllWords ? -1 : endOfRareMatch(text, start);
+    }
 
     /// One of these stands wherever a match begins: the two rarest units of those that stand at their offset
     /// unless a character folds to several, or the first that does.
@@ -33,6 +40,15 @@ public:
     qsizetype length() const { return qsizetype(m_units.size()); }
 
 private:
+    static constexpr size_t WordSize = 4;
+
+    /// Units that are compared at once, and the bit in which each may differ.
+    struct Word {
+        qsizetype offset = 0;
+        std::array<char16_t, WordSize> bits{};
+        std::array<char16_t, WordSize> units{};
+    };
+
     /// A character that stands for several units of the literal.
     struct Expansion {
         size_t offset;
@@ -44,10 +60,29 @@ private:
     bool addVariants(char32_t character);
     void addExpansions();
     void shorten();
+    void makeWords();
     size_t expansionsAtFirstOffset() const;
     const Expansion *expansionAt(size_t offset, char16_t unit) const;
+
+    qsizetype endOfRareMatch(QStringView text, qsizetype start) const;
+
+    bool areWordsAt(const char16_t *text) const
+    {
+        const auto number = [](const char16_t *units) {
+            quint64 read = 0;
+            std::memcpy(&read, units, sizeof(read));
+            return read;
+        };
+        for (const Word &word : m_words) {
+            if ((number(text + word.offset) | number(word.bits.data())) != number(word.units.data()))
+                return false;
+        }
+        return true;
+    }
 
     std::u16string m_text; ///< folded where case does not count
     std::vector<ZEVTextScan::Units> m_units; ///< for every unit of it
     std::vector<Expansion> m_expansions; ///< by their offsets
+    std::vector<Word> m_words; ///< none for a short literal
+    bool m_isAllWords = false; ///< nothing else matches
 };

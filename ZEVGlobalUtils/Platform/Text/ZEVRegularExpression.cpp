@@ -117,8 +117,7 @@ ZEVRegularExpression::Matches ZEVRegularExpression::matchesInString(QStringView 
     Matches matches;
     ZEVRegularExpressionMatcher matcher(*this);
     matcher.setText(text);
-    while (const auto range = matcher.findNext())
-        matches.ranges.append(*range);
+    matcher.findAll(matches.ranges);
     matches.limitReached = matcher.limitReached();
     return matches;
 }

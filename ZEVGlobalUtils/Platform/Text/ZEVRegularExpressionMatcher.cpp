@@ -100,10 +100,12 @@ public:
         return spent < limit;
     }
 
-    bool mayGoOnFrom(qint64 position)
+    bool mayGoOnFrom(qint64 position, unsigned attempts = 1)
     {
-        if (++m_attempts % AttemptsPerReading != 0)
+        m_attempts += attempts;
+        if (m_attempts < AttemptsPerReading)
             return true;
+        m_attempts = 0;
         if (position - m_stretchBegin < HonestStretch)
             return mayGoOn();
         beginStretch(position);
@@ -190,8 +192,12 @@ struct ZEVRegularExpressionMatcher::Private {
     void resetWithUText();
     void strike(UErrorCode code);
     bool find();
+    bool findByMatcher();
     bool findByPlan();
-    bool isMatchAt(qsizetype candidate);
+    bool askMatcher();
+    void takeSpan(const ZEVSearchWalk::Span &span);
+    void takeSpans(QList<ZEVRange> &ranges, qsizetype offset);
+    bool mayGoOn();
     bool isMatchOfMatcher(bool found, UErrorCode code);
     std::optional<ZEVRange> rangeOfMatchersGroup(int group) const;
 
@@ -200,7 +206,9 @@ struct ZEVRegularExpressionMatcher::Private {
     ZEVSearchWalk walk;
     QStringView view;
     qsizetype begin = 0; // of the last match
-    qsizetype end = 0; // and where the walk goes on
+    qsizetype end = 0;
+    ZEVSearchWalk::State walkState = ZEVSearchWalk::State::IsOver;
+    size_t nextSpan = 0; // of those that the walk has
     bool hasMatch = false;
     bool walkHasMatch = false; // else it is the matcher's
     bool matcherHasText = false;
@@ -232,6 +240,8 @@ void ZEVRegularExpressionMatcher::Private::setText(QStringView newText)
         resetMatcher();
     else
         walk.setText(newText);
+    walkState = ZEVSearchWalk::State::GoesOn;
+    nextSpan = 0;
     if (watch)
         watch->restart(newText.size());
     textStruck = charged >= WalkAllowance;
@@ -271,47 +281,75 @@ void ZEVRegularExpressionMatcher::Private::strike(UErrorCode code)
 
 bool ZEVRegularExpressionMatcher::Private::find()
 {
-    if (plan().kind != ZEVSearchPlan::Kind::General)
-        return findByPlan();
-    UErrorCode code = U_ZERO_ERROR;
-    const bool found = matcher->find(code);
-    return isMatchOfMatcher(found, code);
+    if (textStruck || wasInterrupted())
+        return false;
+    return plan().kind == ZEVSearchPlan::Kind::General ? findByMatcher() : findByPlan();
 }
 
-/// What a plan finds is never empty, so that the next match begins where the last one ended or later.
+bool ZEVRegularExpressionMatcher::Private::findByMatcher()
+{
+    UErrorCode code = U_ZERO_ERROR;
+    const bool found = matcher->find(code);
+    if (!isMatchOfMatcher(found, code))
+        return false;
+    if (watch && !watch->mayGoOnAfterMatch(end) && !wasInterrupted())
+        strike(U_REGEX_TIME_OUT);
+    return true;
+}
+
 bool ZEVRegularExpressionMatcher::Private::findByPlan()
 {
     for (;;) {
-        const qsizetype candidate = walk.nextCandidate(end);
-        if (candidate >= view.size())
-            break;
-        if (isMatchAt(candidate))
+        if (nextSpan < walk.spanCount()) {
+            takeSpan(walk.span(nextSpan++));
             return true;
-        end = candidate + 1;
-        if (watch && !watch->mayGoOnFrom(candidate) && !textStruck && !wasInterrupted())
-            strike(U_REGEX_TIME_OUT);
-        if (textStruck || wasInterrupted())
+        }
+        if (walkState == ZEVSearchWalk::State::IsOver)
             return false;
+        if (walkState == ZEVSearchWalk::State::AsksMatcher && askMatcher())
+            return true;
+        if (!mayGoOn())
+            return false;
+        walkState = walk.goOn();
+        nextSpan = 0;
     }
-    end = view.size();
-    return false;
 }
 
-bool ZEVRegularExpressionMatcher::Private::isMatchAt(qsizetype candidate)
+/// What a plan finds is never empty, so that the next match begins where the last one ended or later.
+bool ZEVRegularExpressionMatcher::Private::askMatcher()
 {
-    const ZEVSearchWalk::Answer answer = walk.tryCandidate(candidate);
-    walkHasMatch = answer == ZEVSearchWalk::Answer::Yes;
-    if (walkHasMatch) {
-        begin = walk.begin();
-        end = walk.end();
-    }
-    if (answer != ZEVSearchWalk::Answer::AskMatcher)
-        return walkHasMatch;
     if (!matcherHasText)
         resetMatcher();
     UErrorCode code = U_ZERO_ERROR;
-    const bool found = matcher->lookingAt(candidate, code);
-    return isMatchOfMatcher(found, code);
+    const bool found = isMatchOfMatcher(matcher->lookingAt(walk.position(), code), code);
+    walkHasMatch = false;
+    walkState = ZEVSearchWalk::State::GoesOn;
+    walk.goOnFrom(found ? end : walk.position() + 1);
+    return found;
+}
+
+void ZEVRegularExpressionMatcher::Private::takeSpan(const ZEVSearchWalk::Span &span)
+{
+    walkHasMatch = true;
+    begin = span.begin;
+    end = span.end;
+}
+
+void ZEVRegularExpressionMatcher::Private::takeSpans(QList<ZEVRange> &ranges, qsizetype offset)
+{
+    const qsizetype count = ranges.size();
+    ranges.resize(count + qsizetype(walk.spanCount() - nextSpan));
+    for (ZEVRange *range = ranges.data() + count; nextSpan < walk.spanCount(); ++range, ++nextSpan) {
+        const ZEVSearchWalk::Span span = walk.span(nextSpan);
+        *range = {offset + span.begin, span.end - span.begin};
+    }
+}
+
+bool ZEVRegularExpressionMatcher::Private::mayGoOn()
+{
+    if (watch && !watch->mayGoOnFrom(walk.reached(), walk.attempts()) && !textStruck && !wasInterrupted())
+        strike(U_REGEX_TIME_OUT);
+    return !textStruck && !wasInterrupted();
 }
 
 bool ZEVRegularExpressionMatcher::Private::isMatchOfMatcher(bool found, UErrorCode code)
@@ -355,15 +393,19 @@ void ZEVRegularExpressionMatcher::setText(QStringView text) { d->setText(text); 
 
 std::optional<ZEVRange> ZEVRegularExpressionMatcher::findNext()
 {
-    d->hasMatch = false;
-    if (d->textStruck || wasInterrupted())
-        return std::nullopt;
     d->hasMatch = d->find();
     if (!d->hasMatch)
         return std::nullopt;
-    if (d->watch && !d->watch->mayGoOnAfterMatch(d->end) && !wasInterrupted())
-        d->strike(U_REGEX_TIME_OUT);
     return ZEVRange{d->begin, d->end - d->begin};
+}
+
+void ZEVRegularExpressionMatcher::findAll(QList<ZEVRange> &ranges, qsizetype offset)
+{
+    while (d->find()) {
+        ranges.append({offset + d->begin, d->end - d->begin});
+        d->takeSpans(ranges, offset);
+    }
+    d->hasMatch = false;
 }
 
 std::optional<ZEVRange> ZEVRegularExpressionMatcher::rangeOfGroup(int group) const
@@ -374,7 +416,7 @@ std::optional<ZEVRange> ZEVRegularExpressionMatcher::rangeOfGroup(int group) con
         return d->rangeOfMatchersGroup(group);
     if (group == 0)
         return ZEVRange{d->begin, d->end - d->begin};
-    return group == 1 ? d->walk.group() : std::nullopt;
+    return group == 1 ? d->walk.group({d->begin, d->end}) : std::nullopt;
 }
 
 int ZEVRegularExpressionMatcher::numberOfCaptureGroups() const { return d->matcher->groupCount(); }

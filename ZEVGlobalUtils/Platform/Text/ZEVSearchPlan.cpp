@@ -8,10 +8,13 @@
 
 namespace {
 
-constexpr qsizetype BlockSize = 64;
+using ZEVTextScan::BlockSize;
 
 /// A shorter one has so many candidates that asking for each is slower than the matcher's own search.
 constexpr qsizetype ShortestBeginning = 3;
+
+/// Whoever walks may have to end between stretches, and a long literal takes long to try.
+constexpr unsigned MostAttempts = 256;
 
 bool isAsciiPunctuation(QChar character)
 {
@@ -108,62 +111,96 @@ ZEVSearchPlan ZEVSearchPlan::forPattern(QStringView pattern, bool caseInsensitiv
 void ZEVSearchWalk::setText(QStringView text)
 {
     m_text = text;
-    m_block = {-BlockSize, 0};
-    m_runs.setText(text);
+    m_position = m_scanned = 0;
+    m_edgeCount = m_blockCount = m_block = 0;
 }
 
-qsizetype ZEVSearchWalk::nextCandidate(qsizetype from)
+ZEVSearchWalk::State ZEVSearchWalk::goOn()
 {
-    return m_plan.kind == ZEVSearchPlan::Kind::Runs ? m_runs.next(*m_plan.run, from) : nextLiteral(from);
+    const bool isInRun = m_edgeCount % 2;
+    if (isInRun)
+        m_edges[0] = m_edges[m_edgeCount - 1];
+    m_edgeCount = isInRun;
+    m_attempts = 1;
+    return m_plan.kind == ZEVSearchPlan::Kind::Runs ? goOnWithRuns() : goOnWithLiteral();
 }
 
-qsizetype ZEVSearchWalk::nextLiteral(qsizetype from)
+/// A run begins or ends where a bit differs from the one before it.
+ZEVSearchWalk::State ZEVSearchWalk::goOnWithRuns()
 {
-    if (from < m_block.begin + BlockSize) {
-        const quint64 bits = m_block.bits >> (from - m_block.begin);
-        if (bits)
-            return from + std::countr_zero(bits);
-        from = m_block.begin + BlockSize;
+    const qsizetype stop = std::min(m_text.size(), m_scanned + ZEVTextScan::LongestStretch);
+    for (; m_scanned < stop && hasRoomFor(BlockSize); m_scanned += BlockSize) {
+        const quint64 bits = m_plan.run->bitsAt(m_text, m_scanned);
+        qsizetype *edge = m_edges.data() + m_edgeCount;
+        for (quint64 edges = bits ^ (bits << 1 | (m_edgeCount & 1)); edges; edges &= edges - 1)
+            *edge++ = m_scanned + std::countr_zero(edges);
+        m_edgeCount = size_t(edge - m_edges.data());
     }
-    if (from >= m_text.size())
-        return m_text.size();
-    m_block = ZEVTextScan::nextBlock(m_plan.anchors, m_text, from);
-    return m_block.bits ? m_block.begin + std::countr_zero(m_block.bits) : m_text.size();
+    if (m_scanned < m_text.size())
+        return State::GoesOn;
+    if (m_edgeCount % 2)
+        m_edges[m_edgeCount++] = m_text.size();
+    return State::IsOver;
 }
 
-ZEVSearchWalk::Answer ZEVSearchWalk::tryCandidate(qsizetype start)
+ZEVSearchWalk::State ZEVSearchWalk::goOnWithLiteral()
 {
-    m_begin = start;
-    if (m_plan.kind != ZEVSearchPlan::Kind::Runs)
-        return tryLiteral(start);
-    m_runBegin = start;
-    m_end = m_runs.end();
-    return Answer::Yes;
+    if (m_block == m_blockCount) {
+        const auto [position, count] = ZEVTextScan::findBlocks(m_plan.anchors, m_text, m_scanned, m_blocks);
+        m_scanned = position;
+        m_blockCount = count;
+        m_block = 0;
+    }
+    while (hasRoomFor(2) && ++m_attempts < MostAttempts) {
+        const qsizetype candidate = nextCandidate();
+        if (candidate < 0)
+            return m_scanned < m_text.size() ? State::GoesOn : State::IsOver;
+        if (tryLiteral(candidate) == Answer::AskMatcher)
+            return State::AsksMatcher;
+    }
+    return State::GoesOn;
 }
 
-std::optional<ZEVRange> ZEVSearchWalk::group() const
+/// The next place in the blocks at which the anchors fit; -1 where those are used up.
+qsizetype ZEVSearchWalk::nextCandidate()
+{
+    for (; m_block < m_blockCount; ++m_block) {
+        ZEVTextScan::Block &block = m_blocks[m_block];
+        while (block.bits) {
+            const qsizetype candidate = block.begin + std::countr_zero(block.bits);
+            block.bits &= block.bits - 1;
+            if (candidate >= m_position)
+                return candidate;
+        }
+    }
+    return -1;
+}
+
+std::optional<ZEVRange> ZEVSearchWalk::group(const Span &span) const
 {
     if (!m_plan.runIsGroup)
         return std::nullopt;
-    return ZEVRange{m_runBegin, m_end - m_runBegin};
+    const qsizetype begin = m_plan.literal ? m_plan.literal->endOfMatch(m_text, span.begin) : span.begin;
+    return ZEVRange{begin, span.end - begin};
 }
 
 ZEVSearchWalk::Answer ZEVSearchWalk::tryLiteral(qsizetype start)
 {
-    const auto literalEnd = m_plan.literal->endOfMatch(m_text, start);
-    if (!literalEnd)
+    const qsizetype literalEnd = m_plan.literal->endOfMatch(m_text, start);
+    if (literalEnd < 0)
         return Answer::No;
-    if (m_plan.kind == ZEVSearchPlan::Kind::Candidates)
-        return Answer::AskMatcher;
     const Answer begins = m_plan.beginsAtBoundary ? boundaryAt(start) : Answer::Yes;
-    const Answer ends = m_plan.endsAtBoundary ? boundaryAt(*literalEnd) : Answer::Yes;
-    const qsizetype end = m_plan.run ? endOfRun(*literalEnd) : *literalEnd;
-    if (begins == Answer::No || ends == Answer::No || (m_plan.run && end == *literalEnd))
+    const Answer ends = m_plan.endsAtBoundary ? boundaryAt(literalEnd) : Answer::Yes;
+    const qsizetype end = m_plan.run ? endOfRun(literalEnd) : literalEnd;
+    if (begins == Answer::No || ends == Answer::No || (m_plan.run && end == literalEnd))
         return Answer::No;
-    if (begins == Answer::AskMatcher || ends == Answer::AskMatcher)
+    m_position = start;
+    if (m_plan.kind == ZEVSearchPlan::Kind::Candidates || begins == Answer::AskMatcher
+        || ends == Answer::AskMatcher)
         return Answer::AskMatcher;
-    m_runBegin = *literalEnd;
-    m_end = end;
+    m_edges[m_edgeCount++] = start;
+    m_edges[m_edgeCount++] = end;
+    m_position = end;
     return Answer::Yes;
 }
 

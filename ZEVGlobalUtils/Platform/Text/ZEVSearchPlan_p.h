@@ -28,10 +28,17 @@ struct ZEVSearchPlan {
     bool endsAtBoundary = false;
 };
 
-/// Goes through one text by a plan.
+/// Goes through one text by a plan, from stretch to stretch: many matches at a time cost far less than each by
+/// itself.
 class ZEVSearchWalk {
 public:
-    enum class Answer { No, Yes, AskMatcher };
+    enum class State { GoesOn, AsksMatcher, IsOver };
+
+    /// Where a match begins and ends. None is empty, and they do not overlap.
+    struct Span {
+        qsizetype begin;
+        qsizetype end;
+    };
 
     explicit ZEVSearchWalk(const ZEVSearchPlan &plan)
         : m_plan(plan)
@@ -40,28 +47,40 @@ public:
 
     void setText(QStringView text);
 
-    /// The first place at or after \a from where a match may begin, in growing order; the end of the text for
-    /// none.
-    qsizetype nextCandidate(qsizetype from);
+    /// Looks at the next stretch, and then has the matches in it. With AsksMatcher only the matcher knows
+    /// whether another one begins at the position(), and goOnFrom() must follow.
+    State goOn();
+    size_t spanCount() const { return m_edgeCount / 2; }
+    Span span(size_t number) const { return {m_edges[2 * number], m_edges[2 * number + 1]}; }
+    qsizetype position() const { return m_position; }
+    void goOnFrom(qsizetype position) { m_position = position; }
 
-    /// Whether a match begins at the candidate, and then where the match and its group lie.
-    Answer tryCandidate(qsizetype start);
-    qsizetype begin() const { return m_begin; }
-    qsizetype end() const { return m_end; }
-    std::optional<ZEVRange> group() const;
+    /// How far the text has been looked at, and the places that were tried in this stretch.
+    qsizetype reached() const { return m_scanned; }
+    unsigned attempts() const { return m_attempts; }
+
+    /// The group of a match.
+    std::optional<ZEVRange> group(const Span &span) const;
 
 private:
-    qsizetype nextLiteral(qsizetype from);
+    enum class Answer { No, Yes, AskMatcher };
+
+    State goOnWithRuns();
+    State goOnWithLiteral();
+    bool hasRoomFor(qsizetype edges) const { return m_edgeCount + size_t(edges) < m_edges.size(); }
+    qsizetype nextCandidate();
     Answer tryLiteral(qsizetype start);
     Answer boundaryAt(qsizetype position) const;
     qsizetype endOfRun(qsizetype start) const;
 
     const ZEVSearchPlan &m_plan;
     QStringView m_text;
-    ZEVTextScan::Block m_block;
-    ZEVClassRuns m_runs;
-    // Single numbers: a range that is copied right after it was written makes the processor wait.
-    qsizetype m_begin = 0;
-    qsizetype m_end = 0;
-    qsizetype m_runBegin = 0;
+    qsizetype m_position = 0; ///< where the next match may begin
+    qsizetype m_scanned = 0; ///< where the next block begins
+    unsigned m_attempts = 0;
+    size_t m_edgeCount = 0;
+    size_t m_blockCount = 0;
+    size_t m_block = 0; ///< the one whose bits are being taken
+    std::array<ZEVTextScan::Block, 32> m_blocks;
+    std::array<qsizetype, 256> m_edges; ///< where matches begin and end; the last one may not have ended yet
 };

@@ -4,6 +4,7 @@
 #include <ZEVGlobalUtils/Platform/Text/ZEVTextScan_p.h>
 
 #include <algorithm>
+#include <bit>
 
 #ifdef Q_PROCESSOR_X86_64
 #include <immintrin.h>
@@ -13,37 +14,50 @@ namespace ZEVTextScan {
 
 namespace {
 
-constexpr qsizetype BlockSize = 64;
+/// As many blocks behind one with a hit are looked at without asking first whether they have any: where hits are
+/// common the processor guesses wrong too often.
+constexpr int DenseBlocks = 8;
 
-/// The blocks that begin from \a from to before \a end can be read without looking at where the text ends.
-struct Stretch {
+/// One call's way through the text.
+struct Search {
     const char16_t *text;
-    qsizetype from;
-    qsizetype end;
+    qsizetype at;
+    qsizetype end; ///< where whole blocks can no longer be read
+    std::span<Block> blocks;
+    size_t count = 0;
+
+    bool goesOn() const { return at < end && count < blocks.size(); }
+    void add(quint64 bits)
+    {
+        blocks[count] = {at, bits};
+        count += bits != 0;
+    }
 };
 
-Block plainBlock(const Anchors &anchors, const Stretch &stretch)
+quint64 lowestBits(qsizetype count) { return count >= BlockSize ? ~quint64(0) : (quint64(1) << count) - 1; }
+
+bool fitsAt(const Anchors &anchors, QStringView text, qsizetype at)
 {
-    Block block{stretch.from, 0};
-    for (; block.begin < stretch.end; block.begin += BlockSize) {
-        for (qsizetype i = 0; i < BlockSize; ++i) {
-            const char16_t *at = stretch.text + block.begin + i;
-            const bool fits = anchors.units[0].contains(at[anchors.offsets[0]])
-                && anchors.units[1].contains(at[anchors.offsets[1]]);
-            const bool fitsInstead =
-                anchors.instead.count > 0 && anchors.instead.contains(at[anchors.insteadOffset]);
-            block.bits |= quint64(fits || fitsInstead) << i;
-        }
-        if (block.bits)
-            break;
-    }
-    return block;
+    const auto isAt = [text](const Units &units, qsizetype place) {
+        return units.count > 0 && place < text.size() && units.contains(text[place].unicode());
+    };
+    return (isAt(anchors.units[0], at + anchors.offsets[0])
+            && isAt(anchors.units[1], at + anchors.offsets[1]))
+        || isAt(anchors.instead, at + anchors.insteadOffset);
 }
 
-Classes plainClasses(const AsciiRanges &ranges, const char16_t *text)
+quint64 plainBits(const Anchors &anchors, QStringView text, qsizetype from, qsizetype count)
+{
+    quint64 bits = 0;
+    for (qsizetype i = 0; i < count; ++i)
+        bits |= quint64(fitsAt(anchors, text, from + i)) << i;
+    return bits;
+}
+
+Classes plainClasses(const AsciiRanges &ranges, const char16_t *text, qsizetype count)
 {
     Classes classes;
-    for (qsizetype i = 0; i < BlockSize; ++i) {
+    for (qsizetype i = 0; i < count; ++i) {
         bool isIn = false;
         for (size_t range = 0; range < ranges.first.size(); ++range)
             isIn |= text[i] >= ranges.first.at(range) && text[i] <= ranges.last.at(range);
@@ -55,25 +69,45 @@ Classes plainClasses(const AsciiRanges &ranges, const char16_t *text)
 
 #ifdef Q_PROCESSOR_X86_64
 
+/// How the anchors are compared: with one unit, with two that differ in one bit, or with any.
+enum class Form { One, Bit, Any };
+
+Form formOf(const Anchors &anchors)
+{
+    const auto areAll = [&](auto fits) {
+        return fits(anchors.units[0]) && fits(anchors.units[1]) && fits(anchors.instead);
+    };
+    if (areAll([](const Units &units) { return units.count <= 1; }))
+        return Form::One;
+    return areAll([](const Units &units) { return units.isOneBut(units.bit()); }) ? Form::Bit : Form::Any;
+}
+
 // NOLINTBEGIN(portability-simd-intrinsics): chosen when the process starts, with plain code beside it
+
+constexpr qsizetype Step = 8; // units in a small vector
 
 __m128i load128(const char16_t *text) { return _mm_loadu_si128(reinterpret_cast<const __m128i *>(text)); }
 
-template <int Count>
+template <Form form>
 struct Any128 {
     explicit Any128(const Units &units)
+        : bit(_mm_set1_epi16(short(units.bit())))
     {
-        for (size_t i = 0; i < Count; ++i)
-            wanted[i] = _mm_set1_epi16(short(units.units.at(i)));
+        for (size_t i = 0; i < std::size(wanted); ++i)
+            wanted[i] = _mm_set1_epi16(short(units.units.at(i) | (form == Form::Bit ? units.bit() : 0)));
     }
-    __m128i operator()(__m128i units) const
+    __m128i operator()(const char16_t *text) const
     {
+        const __m128i units = load128(text);
+        if constexpr (form == Form::Bit)
+            return _mm_cmpeq_epi16(_mm_or_si128(units, bit), wanted[0]);
         __m128i equal = _mm_cmpeq_epi16(units, wanted[0]);
-        for (size_t i = 1; i < Count; ++i)
+        for (size_t i = 1; i < std::size(wanted); ++i)
             equal = _mm_or_si128(equal, _mm_cmpeq_epi16(units, wanted[i]));
         return equal;
     }
-    __m128i wanted[Count];
+    __m128i bit;
+    __m128i wanted[form == Form::Any ? 4 : 1];
 };
 
 /// A bit for each of 64 units, eight of which \a answer gives at a time as all bits or none.
@@ -86,46 +120,90 @@ quint64 bits128(Answer answer)
     return bits;
 }
 
-template <int Count>
-Block sse2Block(const Anchors &anchors, const Stretch &stretch)
+/// The same for the first units alone, where the text ends: the last step goes back over what was answered.
+/// As many as a step must stand before the end of them.
+template <typename Answer>
+quint64 endBits128(qsizetype count, Answer answer)
 {
-    const Any128<Count> first(anchors.units[0]);
-    const Any128<Count> second(anchors.units[1]);
-    const Any128<Count> instead(anchors.instead);
-    Block block{stretch.from, 0};
-    for (; block.begin < stretch.end; block.begin += BlockSize) {
-        const char16_t *a = stretch.text + block.begin + anchors.offsets[0];
-        const char16_t *b = stretch.text + block.begin + anchors.offsets[1];
-        const char16_t *c = stretch.text + block.begin + anchors.insteadOffset;
-        block.bits = bits128([&](int i) {
-            const __m128i fits = _mm_and_si128(first(load128(a + i)), second(load128(b + i)));
-            return anchors.instead.count ? _mm_or_si128(fits, instead(load128(c + i))) : fits;
-        });
-        if (block.bits)
-            break;
+    quint64 bits = 0;
+    for (qsizetype i = 0; i < count; i += Step) {
+        const qsizetype at = std::min(i, count - Step);
+        const quint64 eight = unsigned(_mm_movemask_epi8(_mm_packs_epi16(answer(at), _mm_setzero_si128())));
+        bits |= at < 0 ? eight >> -at : eight << at;
     }
-    return block;
+    return bits;
+}
+
+template <Form form>
+struct Fit128 {
+    explicit Fit128(const Anchors &usedAnchors)
+        : anchors(usedAnchors)
+    {
+    }
+    __m128i operator()(const char16_t *text) const
+    {
+        const __m128i fits =
+            _mm_and_si128(first(text + anchors.offsets[0]), second(text + anchors.offsets[1]));
+        return anchors.instead.count ? _mm_or_si128(fits, instead(text + anchors.insteadOffset)) : fits;
+    }
+    const Anchors &anchors;
+    Any128<form> first{anchors.units[0]};
+    Any128<form> second{anchors.units[1]};
+    Any128<form> instead{anchors.instead};
+};
+
+template <Form form>
+Search sse2Search(const Anchors &anchors, Search search)
+{
+    const Fit128<form> fit(anchors);
+    for (; search.goesOn(); search.at += BlockSize)
+        search.add(bits128([&](int i) { return fit(search.text + search.at + i); }));
+    return search;
+}
+
+template <Form form>
+quint64 sse2EndBits(const Anchors &anchors, const char16_t *text, qsizetype count)
+{
+    const Fit128<form> fit(anchors);
+    return endBits128(count, [&](qsizetype i) { return fit(text + i); });
+}
+
+template <int Count>
+struct InRanges128 {
+    __m128i operator()(const char16_t *text) const
+    {
+        const __m128i units = load128(text);
+        __m128i any = _mm_setzero_si128();
+        for (size_t range = 0; range < Count; ++range) {
+            const char16_t first = ranges.first.at(range);
+            const __m128i above = _mm_sub_epi16(units, _mm_set1_epi16(short(first)));
+            const __m128i span = _mm_set1_epi16(short(ranges.last.at(range) - first));
+            any = _mm_or_si128(any, _mm_cmpeq_epi16(_mm_subs_epu16(above, span), _mm_setzero_si128()));
+        }
+        return any;
+    }
+    const AsciiRanges &ranges;
+};
+
+__m128i isAscii128(const char16_t *text)
+{
+    return _mm_cmpeq_epi16(_mm_subs_epu16(load128(text), _mm_set1_epi16(0x7F)), _mm_setzero_si128());
 }
 
 template <int Count>
 Classes sse2Classes(const AsciiRanges &ranges, const char16_t *text)
 {
-    const __m128i zero = _mm_setzero_si128();
-    const auto isIn = [&](int i) {
-        const __m128i units = load128(text + i);
-        __m128i any = zero;
-        for (size_t range = 0; range < Count; ++range) {
-            const char16_t first = ranges.first.at(range);
-            const __m128i above = _mm_sub_epi16(units, _mm_set1_epi16(short(first)));
-            const __m128i span = _mm_set1_epi16(short(ranges.last.at(range) - first));
-            any = _mm_or_si128(any, _mm_cmpeq_epi16(_mm_subs_epu16(above, span), zero));
-        }
-        return any;
-    };
-    const auto isAscii = [&](int i) {
-        return _mm_cmpeq_epi16(_mm_subs_epu16(load128(text + i), _mm_set1_epi16(0x7F)), zero);
-    };
-    return {bits128(isIn), ~bits128(isAscii)};
+    const InRanges128<Count> isIn{ranges};
+    return {bits128([&](int i) { return isIn(text + i); }),
+            ~bits128([&](int i) { return isAscii128(text + i); })};
+}
+
+template <int Count>
+Classes sse2EndClasses(const AsciiRanges &ranges, const char16_t *text, qsizetype count)
+{
+    const InRanges128<Count> isIn{ranges};
+    const quint64 ascii = endBits128(count, [&](qsizetype i) { return isAscii128(text + i); });
+    return {endBits128(count, [&](qsizetype i) { return isIn(text + i); }), ~ascii & lowestBits(count)};
 }
 
 #define ZEV_AVX2 __attribute__((target("avx2")))
@@ -135,21 +213,26 @@ ZEV_AVX2 inline __m256i load256(const char16_t *text)
     return _mm256_loadu_si256(reinterpret_cast<const __m256i *>(text));
 }
 
-template <int Count>
+template <Form form>
 struct Any256 {
     ZEV_AVX2 explicit Any256(const Units &units)
+        : bit(_mm256_set1_epi16(short(units.bit())))
     {
-        for (size_t i = 0; i < Count; ++i)
-            wanted[i] = _mm256_set1_epi16(short(units.units.at(i)));
+        for (size_t i = 0; i < std::size(wanted); ++i)
+            wanted[i] = _mm256_set1_epi16(short(units.units.at(i) | (form == Form::Bit ? units.bit() : 0)));
     }
-    ZEV_AVX2 __m256i operator()(__m256i units) const
+    ZEV_AVX2 __m256i operator()(const char16_t *text) const
     {
+        const __m256i units = load256(text);
+        if constexpr (form == Form::Bit)
+            return _mm256_cmpeq_epi16(_mm256_or_si256(units, bit), wanted[0]);
         __m256i equal = _mm256_cmpeq_epi16(units, wanted[0]);
-        for (size_t i = 1; i < Count; ++i)
+        for (size_t i = 1; i < std::size(wanted); ++i)
             equal = _mm256_or_si256(equal, _mm256_cmpeq_epi16(units, wanted[i]));
         return equal;
     }
-    __m256i wanted[Count];
+    __m256i bit;
+    __m256i wanted[form == Form::Any ? 4 : 1];
 };
 
 /// Packing works within halves of a vector, so its quarters come out of order.
@@ -159,31 +242,30 @@ ZEV_AVX2 inline quint64 bits256(__m256i low, __m256i high)
     return unsigned(_mm256_movemask_epi8(bytes));
 }
 
-template <int Count>
-ZEV_AVX2 Block avx2Block(const Anchors &anchors, const Stretch &stretch)
+template <Form form>
+ZEV_AVX2 Search avx2Search(const Anchors &anchors, Search search)
 {
-    const Any256<Count> first(anchors.units[0]);
-    const Any256<Count> second(anchors.units[1]);
-    const Any256<Count> instead(anchors.instead);
-    Block block{stretch.from, 0};
-    for (; block.begin < stretch.end; block.begin += BlockSize) {
-        const char16_t *a = stretch.text + block.begin + anchors.offsets[0];
-        const char16_t *b = stretch.text + block.begin + anchors.offsets[1];
-        const char16_t *c = stretch.text + block.begin + anchors.insteadOffset;
+    const Any256<form> first(anchors.units[0]);
+    const Any256<form> second(anchors.units[1]);
+    const Any256<form> instead(anchors.instead);
+    for (int dense = 0; search.goesOn(); search.at += BlockSize) {
+        const char16_t *const text = search.text + search.at;
         __m256i fits[4];
         for (qsizetype i = 0; i < 4; ++i) {
-            fits[i] = _mm256_and_si256(first(load256(a + 16 * i)), second(load256(b + 16 * i)));
+            fits[i] = _mm256_and_si256(first(text + anchors.offsets[0] + 16 * i),
+                                       second(text + anchors.offsets[1] + 16 * i));
             if (anchors.instead.count)
-                fits[i] = _mm256_or_si256(fits[i], instead(load256(c + 16 * i)));
+                fits[i] = _mm256_or_si256(fits[i], instead(text + anchors.insteadOffset + 16 * i));
         }
         const __m256i any =
             _mm256_or_si256(_mm256_or_si256(fits[0], fits[1]), _mm256_or_si256(fits[2], fits[3]));
-        if (!_mm256_testz_si256(any, any)) {
-            block.bits = bits256(fits[0], fits[1]) | bits256(fits[2], fits[3]) << 32;
-            break;
-        }
+        if (dense == 0 && _mm256_testz_si256(any, any))
+            continue;
+        const quint64 bits = bits256(fits[0], fits[1]) | bits256(fits[2], fits[3]) << 32;
+        search.add(bits);
+        dense = bits ? DenseBlocks : dense - 1;
     }
-    return block;
+    return search;
 }
 
 template <int Count>
@@ -209,49 +291,62 @@ ZEV_AVX2 Classes avx2Classes(const AsciiRanges &ranges, const char16_t *text)
 
 // NOLINTEND(portability-simd-intrinsics)
 
-Block blockOf(const Anchors &anchors, const Stretch &stretch, Code code)
+template <Form form>
+Search searchIn(const Anchors &anchors, const Search &search, Code code)
 {
-    const int count = std::max({anchors.units[0].count, anchors.units[1].count, anchors.instead.count});
-    if (code == Code::Avx2)
-        return (count == 1 ? avx2Block<1> : count == 2 ? avx2Block<2> : avx2Block<4>)(anchors, stretch);
-    if (code == Code::Sse2)
-        return (count == 1 ? sse2Block<1> : count == 2 ? sse2Block<2> : sse2Block<4>)(anchors, stretch);
-    return plainBlock(anchors, stretch);
+    return (code == Code::Avx2 ? avx2Search<form> : sse2Search<form>)(anchors, search);
 }
 
-Classes classesOf(const AsciiRanges &ranges, const char16_t *text, Code code)
+Search searchWhole(const Anchors &anchors, const Search &search, Code code)
+{
+    const Form form = formOf(anchors);
+    return (form == Form::One       ? searchIn<Form::One>
+                : form == Form::Bit ? searchIn<Form::Bit>
+                                    : searchIn<Form::Any>)(anchors, search, code);
+}
+
+quint64 vectorEndBits(const Anchors &anchors, const char16_t *text, qsizetype count)
+{
+    const Form form = formOf(anchors);
+    return (form == Form::One       ? sse2EndBits<Form::One>
+                : form == Form::Bit ? sse2EndBits<Form::Bit>
+                                    : sse2EndBits<Form::Any>)(anchors, text, count);
+}
+
+Classes wholeClasses(const AsciiRanges &ranges, const char16_t *text, Code code)
 {
     const int count = ranges.count;
     if (code == Code::Avx2)
         return (count == 1 ? avx2Classes<1> : count == 2 ? avx2Classes<2> : avx2Classes<4>)(ranges, text);
-    if (code == Code::Sse2)
-        return (count == 1 ? sse2Classes<1> : count == 2 ? sse2Classes<2> : sse2Classes<4>)(ranges, text);
-    return plainClasses(ranges, text);
+    return (count == 1 ? sse2Classes<1> : count == 2 ? sse2Classes<2> : sse2Classes<4>)(ranges, text);
+}
+
+Classes vectorEndClasses(const AsciiRanges &ranges, const char16_t *text, qsizetype count)
+{
+    return (ranges.count == 1       ? sse2EndClasses<1>
+                : ranges.count == 2 ? sse2EndClasses<2>
+                                    : sse2EndClasses<4>)(ranges, text, count);
 }
 
 #else
 
-Block blockOf(const Anchors &anchors, const Stretch &stretch, Code) { return plainBlock(anchors, stretch); }
+constexpr qsizetype Step = std::numeric_limits<qsizetype>::max(); // no text has as many units
 
-Classes classesOf(const AsciiRanges &ranges, const char16_t *text, Code)
-{
-    return plainClasses(ranges, text);
-}
+Search searchWhole(const Anchors &, const Search &search, Code) { return search; }
+quint64 vectorEndBits(const Anchors &, const char16_t *, qsizetype) { return 0; }
+Classes wholeClasses(const AsciiRanges &, const char16_t *, Code) { return {}; }
+Classes vectorEndClasses(const AsciiRanges &, const char16_t *, qsizetype) { return {}; }
 
 #endif
 
-quint64 lowestBits(qsizetype count) { return count >= BlockSize ? ~quint64(0) : (quint64(1) << count) - 1; }
-
-/// The last units of a text, with zeros behind them for a block and both anchors. Clearing all of it first takes
-/// longer than searching a title.
-struct Tail {
-    Tail(QStringView text, qsizetype from) // NOLINT(cppcoreguidelines-pro-type-member-init)
-    {
-        const auto end = std::copy(text.utf16() + from, text.utf16() + text.size(), units.begin());
-        std::fill(end, units.end(), u'\0');
-    }
-    std::array<char16_t, 3 * BlockSize> units;
-};
+/// Of up to 64 positions, those first \a inText of which have both anchors before the text's end.
+quint64 endBits(const Anchors &anchors, QStringView text, qsizetype from, qsizetype count, qsizetype inText)
+{
+    if (inText <= 0 || from + inText < Step)
+        return plainBits(anchors, text, from, count);
+    const quint64 bits = vectorEndBits(anchors, text.utf16() + from, inText);
+    return count > inText ? bits | plainBits(anchors, text, from + inText, count - inText) << inText : bits;
+}
 
 } // namespace
 
@@ -279,32 +374,34 @@ void AsciiRanges::add(char16_t rangeFirst, char16_t rangeLast)
     ++count;
 }
 
-Block nextBlock(const Anchors &anchors, QStringView text, qsizetype from, Code code)
+Progress findBlocks(const Anchors &anchors, QStringView text, qsizetype from, std::span<Block> blocks,
+                    Code code)
 {
     const qsizetype reach = std::max({anchors.offsets[0], anchors.offsets[1], anchors.insteadOffset});
-    const qsizetype positions = text.size() - (anchors.instead.count ? anchors.insteadOffset : reach);
+    const qsizetype end = text.size() - (anchors.instead.count ? anchors.insteadOffset : reach);
     const qsizetype endOfWhole = text.size() - reach - BlockSize + 1;
-    Block block{from, 0};
-    if (from < endOfWhole)
-        block = blockOf(anchors, {text.utf16(), from, endOfWhole}, code);
-    if (block.bits)
-        return block;
-    if (block.begin >= positions)
-        return {text.size(), 0};
-    const Tail tail(text, block.begin);
-    const qsizetype rest = positions - block.begin;
-    const Block last = blockOf(anchors, {tail.units.data(), 0, rest}, code);
-    const quint64 bits = last.begin < rest ? last.bits & lowestBits(rest - last.begin) : 0;
-    return {bits ? block.begin + last.begin : text.size(), bits};
+    Search search{text.utf16(), from, std::min(endOfWhole, from + LongestStretch), blocks};
+    if (code != Code::Plain && search.goesOn())
+        search = searchWhole(anchors, search, code);
+    const qsizetype stop = std::min(end, from + LongestStretch);
+    for (;
+         search.at < stop && search.count < blocks.size() && (code == Code::Plain || search.at >= endOfWhole);
+         search.at += BlockSize) {
+        const qsizetype count = std::min(BlockSize, end - search.at);
+        const qsizetype inText = std::min(BlockSize, text.size() - reach - search.at);
+        search.add(code == Code::Plain ? plainBits(anchors, text, search.at, count)
+                                       : endBits(anchors, text, search.at, count, inText));
+    }
+    return {search.at < end ? search.at : text.size(), search.count};
 }
 
 Classes classesAt(const AsciiRanges &ranges, QStringView text, qsizetype from, Code code)
 {
-    if (text.size() - from >= BlockSize)
-        return classesOf(ranges, text.utf16() + from, code);
-    const Classes classes = classesOf(ranges, Tail(text, from).units.data(), code);
-    const quint64 valid = lowestBits(text.size() - from);
-    return {classes.inRanges & valid, classes.foreign & valid};
+    const char16_t *const units = text.utf16() + from;
+    const qsizetype count = std::min(BlockSize, text.size() - from);
+    if (code == Code::Plain || text.size() < Step)
+        return plainClasses(ranges, units, count);
+    return count == BlockSize ? wholeClasses(ranges, units, code) : vectorEndClasses(ranges, units, count);
 }
 
 } // namespace ZEVTextScan

@@ -6,6 +6,7 @@
 #include <QStringView>
 
 #include <array>
+#include <bit>
 #include <span>
 
 /// Looks at 64 UTF-16 units at once. Each instruction set has its own code, chosen when the process starts;
@@ -13,6 +14,11 @@
 namespace ZEVTextScan {
 
 enum class Code { Plain, Sse2, Avx2 };
+
+constexpr qsizetype BlockSize = 64;
+
+/// What one call looks at: whoever makes it may have to end between two.
+constexpr qsizetype LongestStretch = 1 << 16;
 
 /// What this processor knows, the best last.
 std::span<const Code> supportedCodes();
@@ -27,6 +33,16 @@ struct Units {
     {
         return unit == units[0] || unit == units[1] || unit == units[2] || unit == units[3];
     }
+
+    /// The one bit in which the first two differ; 0 where it is not one.
+    char16_t bit() const
+    {
+        const unsigned difference = units[0] ^ units[1];
+        return std::has_single_bit(difference) ? char16_t(difference) : char16_t(0);
+    }
+
+    /// Whether all of them are the first one, apart from a bit.
+    bool isOneBut(char16_t bit) const { return count <= (bit ? 2 : 1); }
 };
 
 /// Two units of a literal, by their offsets from where it begins: below 64, and possibly the same one. Or,
@@ -53,12 +69,18 @@ struct Block {
     quint64 bits = 0; ///< the lowest for the position \a begin
 };
 
-/// The first block at or after \a from with a position at which the anchors fit; one without bits at
-/// the end of the text where there is none.
-Block nextBlock(const Anchors &anchors, QStringView text, qsizetype from,
-                Code code = supportedCodes().back());
+/// Where to go on, and how many blocks were found.
+struct Progress {
+    qsizetype position = 0;
+    size_t count = 0;
+};
 
-/// Which of 64 units lie in the ranges, and which are no ASCII.
+/// The blocks with a position at which the anchors fit, in their order, from \a from on. There may be more than
+/// \a blocks takes; there are none behind the text's end, which is the position of a search that is over.
+Progress findBlocks(const Anchors &anchors, QStringView text, qsizetype from, std::span<Block> blocks,
+                    Code code = supportedCodes().back());
+
+/// Which of 64 units lie in the ranges, and which are no ASCII; none of those behind the text's end.
 struct Classes {
     quint64 inRanges = 0;
     quint64 foreign = 0;

@@ -6,12 +6,6 @@
 #include <algorithm>
 #include <bit>
 
-namespace {
-
-constexpr qsizetype BlockSize = 64;
-
-} // namespace
-
 ZEVUnitClass::ZEVUnitClass(const char16_t *pattern)
 {
     UErrorCode code = U_ZERO_ERROR;
@@ -64,32 +58,4 @@ quint64 ZEVUnitClass::bitsAt(QStringView text, qsizetype from) const
         bits |= quint64(containsUnitAt(text, from + i)) << i;
     }
     return bits;
-}
-
-void ZEVClassRuns::setText(QStringView text)
-{
-    m_text = text;
-    m_isRead = false;
-}
-
-qsizetype ZEVClassRuns::firstFrom(const ZEVUnitClass &unitClass, qsizetype from, bool isIn)
-{
-    while (from < m_text.size()) {
-        if (!m_isRead || from >= m_block.begin + BlockSize) {
-            m_block = {from, unitClass.bitsAt(m_text, from)};
-            m_isRead = true;
-        }
-        const quint64 wanted = (isIn ? m_block.bits : ~m_block.bits) >> (from - m_block.begin);
-        if (wanted)
-            return std::min(from + std::countr_zero(wanted), m_text.size());
-        from = m_block.begin + BlockSize;
-    }
-    return m_text.size();
-}
-
-qsizetype ZEVClassRuns::next(const ZEVUnitClass &unitClass, qsizetype from)
-{
-    const qsizetype begin = firstFrom(unitClass, from, true);
-    m_end = firstFrom(unitClass, begin, false);
-    return begin;
 }

@@ -19,7 +19,7 @@ public:
     /// Whether the unit belongs to a character of the class; a lone surrogate never does.
     bool containsUnitAt(QStringView text, qsizetype position) const;
 
-    /// A bit for each of the 64 units from \a from on.
+    /// A bit for each of the 64 units from \a from on; none for those behind the text's end.
     quint64 bitsAt(QStringView text, qsizetype from) const;
 
 private:
@@ -28,23 +28,4 @@ private:
     icu::UnicodeSet m_characters;
     std::bitset<0x10000> m_units;
     ZEVTextScan::AsciiRanges m_ascii;
-};
-
-/// Goes from run to run of a class, keeping the bits of where it is.
-class ZEVClassRuns {
-public:
-    void setText(QStringView text);
-
-    /// Where the first longest run begins, and ends, of those that begin at or after \a from; the end of the
-    /// text for none. Positions only grow.
-    qsizetype next(const ZEVUnitClass &unitClass, qsizetype from);
-    qsizetype end() const { return m_end; }
-
-private:
-    qsizetype firstFrom(const ZEVUnitClass &unitClass, qsizetype from, bool isIn);
-
-    QStringView m_text;
-    ZEVTextScan::Block m_block;
-    qsizetype m_end = 0;
-    bool m_isRead = false;
 };
