@@ -261,6 +261,7 @@ private Q_SLOTS:
                 anchors.instead.add(units[random() % std::size(units)]);
                 anchors.insteadOffset = qsizetype(random() % 64);
             }
+            anchors.prepare();
             QString text;
             for (int i = 0; i < 400; ++i)
                 text +=

@@ -212,5 +212,6 @@ ZEVTextScan::Anchors ZEVFoldedLiteral::anchors() const
         for (size_t i = 0; i < atFirst; ++i)
             anchors.instead.add(m_expansions[i].unit);
     }
+    anchors.prepare();
     return anchors;
 }

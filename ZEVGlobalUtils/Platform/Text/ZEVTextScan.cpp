@@ -69,18 +69,7 @@ Classes plainClasses(const AsciiRanges &ranges, const char16_t *text, qsizetype 
 
 #ifdef Q_PROCESSOR_X86_64
 
-/// How the anchors are compared: with one unit, with two that differ in one bit, or with any.
-enum class Form { One, Bit, Any };
-
-Form formOf(const Anchors &anchors)
-{
-    const auto areAll = [&](auto fits) {
-        return fits(anchors.units[0]) && fits(anchors.units[1]) && fits(anchors.instead);
-    };
-    if (areAll([](const Units &units) { return units.count <= 1; }))
-        return Form::One;
-    return areAll([](const Units &units) { return units.isOneBut(units.bit()); }) ? Form::Bit : Form::Any;
-}
+using Form = Anchors::Form;
 
 // NOLINTBEGIN(portability-simd-intrinsics): chosen when the process starts, with plain code beside it
 
@@ -299,7 +288,7 @@ Search searchIn(const Anchors &anchors, const Search &search, Code code)
 
 Search searchWhole(const Anchors &anchors, const Search &search, Code code)
 {
-    const Form form = formOf(anchors);
+    const Form form = anchors.form;
     return (form == Form::One       ? searchIn<Form::One>
                 : form == Form::Bit ? searchIn<Form::Bit>
                                     : searchIn<Form::Any>)(anchors, search, code);
@@ -307,7 +296,7 @@ Search searchWhole(const Anchors &anchors, const Search &search, Code code)
 
 quint64 vectorEndBits(const Anchors &anchors, const char16_t *text, qsizetype count)
 {
-    const Form form = formOf(anchors);
+    const Form form = anchors.form;
     return (form == Form::One       ? sse2EndBits<Form::One>
                 : form == Form::Bit ? sse2EndBits<Form::Bit>
                                     : sse2EndBits<Form::Any>)(anchors, text, count);
@@ -374,12 +363,22 @@ void AsciiRanges::add(char16_t rangeFirst, char16_t rangeLast)
     ++count;
 }
 
+void Anchors::prepare()
+{
+    const auto areAll = [this](auto fits) { return fits(units[0]) && fits(units[1]) && fits(instead); };
+    if (areAll([](const Units &some) { return some.isOneBut(0); }))
+        form = Form::One;
+    else if (areAll([](const Units &some) { return some.isOneBut(some.bit()); }))
+        form = Form::Bit;
+    reach = std::max({offsets[0], offsets[1], insteadOffset});
+    leastReach = instead.count ? insteadOffset : reach;
+}
+
 Progress findBlocks(const Anchors &anchors, QStringView text, qsizetype from, std::span<Block> blocks,
                     Code code)
 {
-    const qsizetype reach = std::max({anchors.offsets[0], anchors.offsets[1], anchors.insteadOffset});
-    const qsizetype end = text.size() - (anchors.instead.count ? anchors.insteadOffset : reach);
-    const qsizetype endOfWhole = text.size() - reach - BlockSize + 1;
+    const qsizetype end = text.size() - anchors.leastReach;
+    const qsizetype endOfWhole = text.size() - anchors.reach - BlockSize + 1;
     Search search{text.utf16(), from, std::min(endOfWhole, from + LongestStretch), blocks};
     if (code != Code::Plain && search.goesOn())
         search = searchWhole(anchors, search, code);
@@ -388,7 +387,7 @@ Progress findBlocks(const Anchors &anchors, QStringView text, qsizetype from, st
          search.at < stop && search.count < blocks.size() && (code == Code::Plain || search.at >= endOfWhole);
          search.at += BlockSize) {
         const qsizetype count = std::min(BlockSize, end - search.at);
-        const qsizetype inText = std::min(BlockSize, text.size() - reach - search.at);
+        const qsizetype inText = std::min(BlockSize, text.size() - anchors.reach - search.at);
         search.add(code == Code::Plain ? plainBits(anchors, text, search.at, count)
                                        : endBits(anchors, text, search.at, count, inText));
     }

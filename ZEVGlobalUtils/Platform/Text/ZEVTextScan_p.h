@@ -52,6 +52,15 @@ struct Anchors {
     std::array<qsizetype, 2> offsets{};
     Units instead{};
     qsizetype insteadOffset = 0;
+
+    /// How they are compared: with one unit, with two that differ in one bit, or with any.
+    enum class Form { One, Bit, Any };
+    Form form = Form::Any;
+    qsizetype reach = 0; ///< the last offset
+    qsizetype leastReach = 0; ///< the last one of what may stand alone
+
+    /// Sets the form and what follows from the others, once they are final.
+    void prepare();
 };
 
 /// Ranges of ASCII, both ends included; those beyond the count repeat the last.
