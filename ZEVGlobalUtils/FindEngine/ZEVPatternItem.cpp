@@ -3,6 +3,7 @@
 
 #include <ZEVGlobalUtils/FindEngine/ZEVPatternItem.h>
 
+#include <ZEVGlobalUtils/Platform/Text/ZEVAddressScan_p.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVGlobalHelper.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVKeyedArchiver.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVKeyedUnarchiver.h>
@@ -12,17 +13,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr QStringView EmailExpression = u"(^[A-Z0-9a-z._%+-]+@[A-Za-z0-9.-]+\\.[A-Za-z]{2,4}$)";
-
-/// Kept: the last group is repeated zero or more times, not one or more.
-constexpr QStringView WebAddressExpression =
-    u"((?i)\\b((?:[a-z][\\w-]+:(?:/{1,3}|[a-z0-9%])|www\\d{0,3}[.]|[a-z0-9.\\-]+[.][a-z]{2,4}/?)"
-    u"(?:[^\\s()<>]+|\\(([^\\s()<>]+|(\\([^\\s()<>]+\\)))*\\))*"
-    u"(?:\\(([^\\s()<>]+|(\\([^\\s()<>]+\\)))*\\)|[^\\s`!()\\[\\]{};:'\".,<>?«»“”‘’])*))";
-
-static_assert(EmailExpression.size() == 51);
-static_assert(WebAddressExpression.size() == 208);
 
 QString localized(QStringView key) { return ZEVGlobalHelper::localizedStringForKey(key); }
 
@@ -82,12 +72,14 @@ ZEVPatternItem ZEVPatternItem::tab() { return withTemplate(wildcard(u"Tab", u"�
 
 ZEVPatternItem ZEVPatternItem::email()
 {
-    return itemWithTitle(localized(u"Email Address"), u"Email"_s, u"(\\@)"_s, EmailExpression.toString());
+    return itemWithTitle(localized(u"Email Address"), u"Email"_s, u"(\\@)"_s,
+                         ZEVEmailScan::Expression.toString());
 }
 
 ZEVPatternItem ZEVPatternItem::webAddress()
 {
-    return itemWithTitle(localized(u"Web Address"), u"URL"_s, u"(\\URL)"_s, WebAddressExpression.toString());
+    return itemWithTitle(localized(u"Web Address"), u"URL"_s, u"(\\URL)"_s,
+                         ZEVWebAddressScan::Expression.toString());
 }
 
 ZEVPatternItem ZEVPatternItem::lineBreak()

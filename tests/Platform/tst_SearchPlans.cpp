@@ -85,6 +85,8 @@ public:
     {
         for (int i = 2 + upTo(5); i > 0; --i)
             m_palette << QString::fromUtf16(oneOf(Fragments));
+        if (upTo(4) == 0)
+            m_palette << u"("_s << u")"_s << u"a.bc"_s << u"x:/"_s << u" "_s;
         if (upTo(3) == 0)
             m_palette << QString(char16_t(0xD83C)) << QString(char16_t(0xDFB5));
     }
@@ -103,10 +105,12 @@ public:
     QString pattern()
     {
         static constexpr const char16_t *runs[]{u"\\d+", u"\\w+", u"\\s+", u"(\\d+)", u"(\\w+)", u"(\\s+)"};
-        switch (upTo(8)) {
+        switch (upTo(9)) {
         case 0:
         case 1:
             return literal();
+        case 8:
+            return (upTo(3) ? ZEVWebAddressScan::Expression : ZEVEmailScan::Expression).toString();
         case 2:
             return u"\\b"_s + literal() + (upTo(2) ? u"\\b"_s : QString());
         case 3:
@@ -121,31 +125,115 @@ public:
     }
 
 private:
-    static constexpr const char16_t *Fragments[]{
-        u"k",       u"i",      u"s",      u"ss",
-        u"S",       u"ſ",      u"K",      u"\u212A",
-        u"kiss",    u"KISS",   u"ß",      u"ẞ",
-        u"İ",       u"ı",      u"\u0307", u"f",
-        u"ff",      u"ﬁ",      u"ﬀ",      u"ﬃ",
-        u"st",      u"ﬆ",      u"ǰ",      u"j",
-        u"\u030C",  u"σ",      u"ς",      u"Σ",
-        u"ΐ",       u"ι",      u"\u0345", u"ᾳ",
-        u"ᾼ",       u"α",      u"é",      u"e\u0301",
-        u"\u0301",  u"1",      u"42",     u"٣",
-        u"_",       u"\u200D", u"\u00AD", u" ",
-        u"\n",      u"\r\n",   u"\r",     u"\v",
-        u"\f",      u"\x85",   u"\u2028", u"\u2029",
-        u"\u180E",  u"\u00A0", u"東",     u"京の",
-        u"𝟙",       u"𐐀",      u"𐐨",      u"🎵",
-        u"ŉ",       u"ʼ",      u"n",      u"և",
-        u"եւ",      u"Å",      u"\u212B", u"å",
-        u".",       u"-",      u"/",      u"|",
-        u"love",    u"Love",   u"Track ", u"track",
-        u"h\u0331", u"ẖ",      u"µ",      u"μ",
-        u"Ꭰ",       u"ꭰ",    u"\uFFFF", u"aʾ",
-        u"ẚ",       u"в",      u"ᲀ",    u"В",
-        u"ꙋ",       u"Dž",     u"dž",     u"ω",
-        u"Ω",       u"(",      u"\\",     u"abcdefghijklmnopqrstuvwxyz0123456789 abcdefghijkl"};
+    static constexpr const char16_t *Fragments[]{u"k",
+                                                 u"i",
+                                                 u"s",
+                                                 u"ss",
+                                                 u"S",
+                                                 u"ſ",
+                                                 u"K",
+                                                 u"\u212A",
+                                                 u"kiss",
+                                                 u"KISS",
+                                                 u"ß",
+                                                 u"ẞ",
+                                                 u"İ",
+                                                 u"ı",
+                                                 u"\u0307",
+                                                 u"f",
+                                                 u"ff",
+                                                 u"ﬁ",
+                                                 u"ﬀ",
+                                                 u"ﬃ",
+                                                 u"st",
+                                                 u"ﬆ",
+                                                 u"ǰ",
+                                                 u"j",
+                                                 u"\u030C",
+                                                 u"σ",
+                                                 u"ς",
+                                                 u"Σ",
+                                                 u"ΐ",
+                                                 u"ι",
+                                                 u"\u0345",
+                                                 u"ᾳ",
+                                                 u"ᾼ",
+                                                 u"α",
+                                                 u"é",
+                                                 u"e\u0301",
+                                                 u"\u0301",
+                                                 u"1",
+                                                 u"42",
+                                                 u"٣",
+                                                 u"_",
+                                                 u"\u200D",
+                                                 u"\u00AD",
+                                                 u" ",
+                                                 u"\n",
+                                                 u"\r\n",
+                                                 u"\r",
+                                                 u"\v",
+                                                 u"\f",
+                                                 u"\x85",
+                                                 u"\u2028",
+                                                 u"\u2029",
+                                                 u"\u180E",
+                                                 u"\u00A0",
+                                                 u"東",
+                                                 u"京の",
+                                                 u"𝟙",
+                                                 u"𐐀",
+                                                 u"𐐨",
+                                                 u"🎵",
+                                                 u"ŉ",
+                                                 u"ʼ",
+                                                 u"n",
+                                                 u"և",
+                                                 u"եւ",
+                                                 u"Å",
+                                                 u"\u212B",
+                                                 u"å",
+                                                 u".",
+                                                 u"-",
+                                                 u"/",
+                                                 u"|",
+                                                 u"love",
+                                                 u"Love",
+                                                 u"Track ",
+                                                 u"track",
+                                                 u"h\u0331",
+                                                 u"ẖ",
+                                                 u"µ",
+                                                 u"μ",
+                                                 u"Ꭰ",
+                                                 u"ꭰ",
+                                                 u"\uFFFF",
+                                                 u"aʾ",
+                                                 u"ẚ",
+                                                 u"в",
+                                                 u"ᲀ",
+                                                 u"В",
+                                                 u"ꙋ",
+                                                 u"Dž",
+                                                 u"dž",
+                                                 u"ω",
+                                                 u"Ω",
+                                                 u"(",
+                                                 u"\\",
+                                                 u")",
+                                                 u"@",
+                                                 u"www",
+                                                 u"www.",
+                                                 u"http:",
+                                                 u"a.bc",
+                                                 u":",
+                                                 u"%",
+                                                 u"<",
+                                                 u"ſK.co",
+                                                 u"joe@x-y.org",
+                                                 u"(a.bc)",
+                                                 u"//",
+                                                 u"abcdefghijklmnopqrstuvwxyz0123456789 abcdefghijkl"};
 
     template <typename T, size_t Size>
     T oneOf(const T (&list)[Size])
@@ -236,6 +324,8 @@ private Q_SLOTS:
             {u"\\blove?"_s, true, Candidates},
             {u"𐐨"_s, true, General},
             {u"^love"_s, true, General},
+            {ZEVEmailScan::Expression.toString(), true, Email},
+            {ZEVWebAddressScan::Expression.toString(), false, WebAddress},
             {u"(love)"_s, true, General},
             {{}, true, General},
         };
@@ -269,6 +359,24 @@ private Q_SLOTS:
             for (qsizetype end = 0; end <= text.size(); end += 1 + end / 16)
                 for (qsizetype from = 0; from <= end; ++from)
                     expectTheSame(anchors, ranges, QStringView(text).left(end), from);
+        }
+    }
+
+    /// The general matcher gives up on some of these, or takes minutes.
+    void hostileAddressesEnd()
+    {
+        constexpr qsizetype length = 100'000;
+        const std::pair<QString, QList<ZEVRange>> rows[] = {
+            {u"x.com/("_s + QString(length, u'a'), {{0, 6}}},
+            {u"x.com/"_s + u"(a)"_s.repeated(length) + u"(b"_s, {{0, 6 + 3 * length}}},
+            {QString(length, u'-') + u".x"_s, {}},
+            {u"a-"_s.repeated(length), {}},
+            {u"a."_s.repeated(length) + u"bc"_s, {{0, 2 * length + 2}}},
+        };
+        const auto expression = ZEVRegularExpression::compile(ZEVWebAddressScan::Expression.toString());
+        for (const auto &[text, ranges] : rows) {
+            const ZEVRegularExpression::Matches matches = expression->matchesInString(text);
+            QVERIFY2(matches.ranges == ranges && !matches.limitReached, qPrintable(text.left(20)));
         }
     }
 

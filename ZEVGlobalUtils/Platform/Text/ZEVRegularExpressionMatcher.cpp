@@ -416,7 +416,7 @@ std::optional<ZEVRange> ZEVRegularExpressionMatcher::rangeOfGroup(int group) con
         return d->rangeOfMatchersGroup(group);
     if (group == 0)
         return ZEVRange{d->begin, d->end - d->begin};
-    return group == 1 ? d->walk.group({d->begin, d->end}) : std::nullopt;
+    return d->walk.group(group, {d->begin, d->end});
 }
 
 int ZEVRegularExpressionMatcher::numberOfCaptureGroups() const { return d->matcher->groupCount(); }

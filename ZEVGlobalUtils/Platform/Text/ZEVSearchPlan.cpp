@@ -78,6 +78,17 @@ bool readEnd(ZEVSearchPlan &plan, QStringView rest)
     return rest.isEmpty() || plan.endsAtBoundary || readRun(plan, rest);
 }
 
+bool readAddress(ZEVSearchPlan &plan, QStringView pattern)
+{
+    if (pattern == ZEVEmailScan::Expression) {
+        plan.kind = ZEVSearchPlan::Kind::Email;
+    } else if (pattern == ZEVWebAddressScan::Expression) {
+        plan.kind = ZEVSearchPlan::Kind::WebAddress;
+        plan.anchors = ZEVWebAddressScan::anchors();
+    }
+    return plan.kind != ZEVSearchPlan::Kind::General;
+}
+
 /// An alternative may do without the literal, and only a search of the matcher's own knows where its last
 /// match ended.
 bool mayBeginAnywhere(QStringView rest) { return rest.contains(u'|') || rest.contains(u"\\G"); }
@@ -87,6 +98,9 @@ bool mayBeginAnywhere(QStringView rest) { return rest.contains(u'|') || rest.con
 ZEVSearchPlan ZEVSearchPlan::forPattern(QStringView pattern, bool caseInsensitive)
 {
     ZEVSearchPlan plan;
+    plan.caseInsensitive = caseInsensitive;
+    if (readAddress(plan, pattern))
+        return plan;
     QStringView rest = pattern;
     plan.beginsAtBoundary = take(rest, u"\\b");
     const QString literal = takeLiteral(rest);
@@ -113,6 +127,7 @@ void ZEVSearchWalk::setText(QStringView text)
     m_text = text;
     m_position = m_scanned = 0;
     m_edgeCount = m_blockCount = m_block = 0;
+    m_addresses.setText(text);
 }
 
 ZEVSearchWalk::State ZEVSearchWalk::goOn()
@@ -122,7 +137,14 @@ ZEVSearchWalk::State ZEVSearchWalk::goOn()
         m_edges[0] = m_edges[m_edgeCount - 1];
     m_edgeCount = isInRun;
     m_attempts = 1;
-    return m_plan.kind == ZEVSearchPlan::Kind::Runs ? goOnWithRuns() : goOnWithLiteral();
+    switch (m_plan.kind) {
+    case ZEVSearchPlan::Kind::Runs:
+        return goOnWithRuns();
+    case ZEVSearchPlan::Kind::Email:
+        return goOnWithEmail();
+    default:
+        return goOnWithCandidates();
+    }
 }
 
 /// A run begins or ends where a bit differs from the one before it.
@@ -143,7 +165,15 @@ ZEVSearchWalk::State ZEVSearchWalk::goOnWithRuns()
     return State::IsOver;
 }
 
-ZEVSearchWalk::State ZEVSearchWalk::goOnWithLiteral()
+ZEVSearchWalk::State ZEVSearchWalk::goOnWithEmail()
+{
+    m_scanned = m_text.size();
+    if (const qsizetype end = ZEVEmailScan::endOfMatch(m_text, m_plan.caseInsensitive); end > 0)
+        add({0, end});
+    return State::IsOver;
+}
+
+ZEVSearchWalk::State ZEVSearchWalk::goOnWithCandidates()
 {
     if (m_block == m_blockCount) {
         const auto [position, count] = ZEVTextScan::findBlocks(m_plan.anchors, m_text, m_scanned, m_blocks);
@@ -155,7 +185,7 @@ ZEVSearchWalk::State ZEVSearchWalk::goOnWithLiteral()
         const qsizetype candidate = nextCandidate();
         if (candidate < 0)
             return m_scanned < m_text.size() ? State::GoesOn : State::IsOver;
-        if (tryLiteral(candidate) == Answer::AskMatcher)
+        if (tryCandidate(candidate) == Answer::AskMatcher)
             return State::AsksMatcher;
     }
     return State::GoesOn;
@@ -176,46 +206,45 @@ qsizetype ZEVSearchWalk::nextCandidate()
     return -1;
 }
 
-std::optional<ZEVRange> ZEVSearchWalk::group(const Span &span) const
+std::optional<ZEVRange> ZEVSearchWalk::group(int number, const Span &span) const
 {
-    if (!m_plan.runIsGroup)
+    if (m_plan.kind == ZEVSearchPlan::Kind::WebAddress)
+        return m_addresses.group(number, span.begin);
+    if (number != 1 || (m_plan.kind != ZEVSearchPlan::Kind::Email && !m_plan.runIsGroup))
         return std::nullopt;
     const qsizetype begin = m_plan.literal ? m_plan.literal->endOfMatch(m_text, span.begin) : span.begin;
     return ZEVRange{begin, span.end - begin};
 }
 
+ZEVSearchWalk::Answer ZEVSearchWalk::tryCandidate(qsizetype candidate)
+{
+    return m_plan.kind == ZEVSearchPlan::Kind::WebAddress ? tryWebAddress(candidate) : tryLiteral(candidate);
+}
+
 ZEVSearchWalk::Answer ZEVSearchWalk::tryLiteral(qsizetype start)
 {
     const qsizetype literalEnd = m_plan.literal->endOfMatch(m_text, start);
-    if (literalEnd < 0)
+    if (literalEnd < 0 || (m_plan.beginsAtBoundary && !ZEVUnitClass::isWordBoundary(m_text, start))
+        || (m_plan.endsAtBoundary && !ZEVUnitClass::isWordBoundary(m_text, literalEnd)))
         return Answer::No;
-    const Answer begins = m_plan.beginsAtBoundary ? boundaryAt(start) : Answer::Yes;
-    const Answer ends = m_plan.endsAtBoundary ? boundaryAt(literalEnd) : Answer::Yes;
     const qsizetype end = m_plan.run ? endOfRun(literalEnd) : literalEnd;
-    if (begins == Answer::No || ends == Answer::No || (m_plan.run && end == literalEnd))
+    if (m_plan.run && end == literalEnd)
         return Answer::No;
     m_position = start;
-    if (m_plan.kind == ZEVSearchPlan::Kind::Candidates || begins == Answer::AskMatcher
-        || ends == Answer::AskMatcher)
+    if (m_plan.kind == ZEVSearchPlan::Kind::Candidates)
         return Answer::AskMatcher;
-    m_edges[m_edgeCount++] = start;
-    m_edges[m_edgeCount++] = end;
-    m_position = end;
+    add({start, end});
     return Answer::Yes;
 }
 
-/// Between ASCII characters a boundary is where a word begins or ends; among others, marks and format
-/// characters belong to what they follow, and that is the matcher's to know.
-ZEVSearchWalk::Answer ZEVSearchWalk::boundaryAt(qsizetype position) const
+ZEVSearchWalk::Answer ZEVSearchWalk::tryWebAddress(qsizetype mark)
 {
-    const auto isForeign = [this](qsizetype i) { return m_text[i] > QChar(0x7F); };
-    const auto isOfWord = [this](qsizetype i) { return m_text[i].isLetterOrNumber() || m_text[i] == u'_'; };
-    const bool hasBefore = position > 0;
-    const bool hasAfter = position < m_text.size();
-    if ((hasBefore && isForeign(position - 1)) || (hasAfter && isForeign(position)))
-        return Answer::AskMatcher;
-    const bool isBetween = (hasBefore && isOfWord(position - 1)) != (hasAfter && isOfWord(position));
-    return isBetween ? Answer::Yes : Answer::No;
+    const qsizetype begin = m_addresses.beginOfMatch(m_position, mark);
+    m_position = mark + 1;
+    if (begin < 0)
+        return Answer::No;
+    add({begin, m_addresses.endOfMatch(begin)});
+    return Answer::Yes;
 }
 
 qsizetype ZEVSearchWalk::endOfRun(qsizetype start) const
@@ -224,4 +253,10 @@ qsizetype ZEVSearchWalk::endOfRun(qsizetype start) const
     while (end < m_text.size() && m_plan.run->containsUnitAt(m_text, end))
         ++end;
     return end;
+}
+
+void ZEVSearchWalk::add(const Span &span)
+{
+    m_edges[m_edgeCount++] = span.begin;
+    m_edges[m_edgeCount++] = m_position = span.end;
 }

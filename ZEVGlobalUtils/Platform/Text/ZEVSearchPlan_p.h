@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <ZEVGlobalUtils/Platform/Text/ZEVAddressScan_p.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVFoldedLiteral_p.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVUnitClass_p.h>
 #include <ZEVGlobalUtils/Platform/Values/ZEVRange.h>
@@ -14,14 +15,17 @@ struct ZEVSearchPlan {
         General, ///< the matcher alone
         Runs, ///< \d+, \w+ or \s+ alone, as a group or not
         Literal, ///< a literal, perhaps between \b, perhaps with such a run behind it
+        Email, ///< the address that is the whole text
+        WebAddress,
         Candidates, ///< more than that: the matcher is asked wherever the literal at its beginning stands
     };
 
     static ZEVSearchPlan forPattern(QStringView pattern, bool caseInsensitive);
 
     Kind kind = Kind::General;
+    bool caseInsensitive = false;
     std::optional<ZEVFoldedLiteral> literal;
-    ZEVTextScan::Anchors anchors; ///< of the literal
+    ZEVTextScan::Anchors anchors; ///< of the literal, or of the address
     const ZEVUnitClass *run = nullptr; ///< of which one character or more must follow
     bool runIsGroup = false;
     bool beginsAtBoundary = false;
@@ -59,24 +63,28 @@ public:
     qsizetype reached() const { return m_scanned; }
     unsigned attempts() const { return m_attempts; }
 
-    /// The group of a match.
-    std::optional<ZEVRange> group(const Span &span) const;
+    /// A group of a match, from 1 on; nil for one that takes no part.
+    std::optional<ZEVRange> group(int number, const Span &span) const;
 
 private:
     enum class Answer { No, Yes, AskMatcher };
 
     State goOnWithRuns();
-    State goOnWithLiteral();
+    State goOnWithEmail();
+    State goOnWithCandidates();
     bool hasRoomFor(qsizetype edges) const { return m_edgeCount + size_t(edges) < m_edges.size(); }
     qsizetype nextCandidate();
+    Answer tryCandidate(qsizetype candidate);
     Answer tryLiteral(qsizetype start);
-    Answer boundaryAt(qsizetype position) const;
+    Answer tryWebAddress(qsizetype mark);
     qsizetype endOfRun(qsizetype start) const;
+    void add(const Span &span);
 
     const ZEVSearchPlan &m_plan;
     QStringView m_text;
     qsizetype m_position = 0; ///< where the next match may begin
     qsizetype m_scanned = 0; ///< where the next block begins
+    ZEVWebAddressScan m_addresses;
     unsigned m_attempts = 0;
     size_t m_edgeCount = 0;
     size_t m_blockCount = 0;

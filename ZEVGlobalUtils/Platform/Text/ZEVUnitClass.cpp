@@ -3,19 +3,24 @@
 
 #include <ZEVGlobalUtils/Platform/Text/ZEVUnitClass_p.h>
 
+#include <unicode/uchar.h>
+
 #include <algorithm>
 #include <bit>
 
-ZEVUnitClass::ZEVUnitClass(const char16_t *pattern)
+ZEVUnitClass::ZEVUnitClass(const char16_t *pattern, bool foldsCase)
 {
     UErrorCode code = U_ZERO_ERROR;
-    m_characters.applyPattern(icu::UnicodeString(pattern), code).freeze();
+    m_characters.applyPattern(icu::UnicodeString(pattern), code);
+    if (foldsCase)
+        m_characters.closeOver(USET_CASE_INSENSITIVE);
+    m_characters.freeze();
     for (int32_t range = 0; range < m_characters.getRangeCount(); ++range) {
         const UChar32 first = m_characters.getRangeStart(range);
         const UChar32 last = std::min<UChar32>(m_characters.getRangeEnd(range), 0xFFFF);
         for (UChar32 unit = first; unit <= last; ++unit)
             m_units.set(size_t(unit));
-        if (first < 0x80)
+        if (first < 0x80 && m_ascii.count < int(m_ascii.first.size()))
             m_ascii.add(char16_t(first), char16_t(std::min<UChar32>(last, 0x7F)));
     }
 }
@@ -37,16 +42,44 @@ const ZEVUnitClass *ZEVUnitClass::forLetter(char16_t letter)
     }
 }
 
-bool ZEVUnitClass::containsUnitAt(QStringView text, qsizetype position) const
+namespace {
+
+/// The character of the unit at \a position, the first or the second of two.
+char32_t characterAt(QStringView text, qsizetype position)
 {
-    const QChar unit = text[position];
-    if (!unit.isSurrogate())
-        return m_units[unit.unicode()];
-    const qsizetype high = unit.isHighSurrogate() ? position : position - 1;
-    if (high < 0 || high + 1 >= text.size() || !text[high].isHighSurrogate()
-        || !text[high + 1].isLowSurrogate())
+    const bool isSecond =
+        text[position].isLowSurrogate() && position > 0 && text[position - 1].isHighSurrogate();
+    const qsizetype high = position - isSecond;
+    if (text[high].isHighSurrogate() && high + 1 < text.size() && text[high + 1].isLowSurrogate())
+        return QChar::surrogateToUcs4(text[high], text[high + 1]);
+    return text[position].unicode();
+}
+
+bool belongsToCharacterBefore(char32_t character)
+{
+    return u_hasBinaryProperty(UChar32(character), UCHAR_GRAPHEME_EXTEND)
+        || u_charType(UChar32(character)) == U_FORMAT_CHAR;
+}
+
+} // namespace
+
+bool ZEVUnitClass::isWordBoundary(QStringView text, qsizetype position)
+{
+    const auto isOfWord = [&](qsizetype i) { return forLetter(u'w')->containsUnitAt(text, i); };
+    const auto isAttached = [&](qsizetype i) {
+        return text[i] > QChar(0x7F) && belongsToCharacterBefore(characterAt(text, i));
+    };
+    if (position < text.size() && isAttached(position))
         return false;
-    return m_characters.contains(UChar32(QChar::surrogateToUcs4(text[high], text[high + 1])));
+    qsizetype before = position - 1;
+    while (before >= 0 && isAttached(before))
+        --before;
+    return (before >= 0 && isOfWord(before)) != (position < text.size() && isOfWord(position));
+}
+
+bool ZEVUnitClass::containsSurrogateAt(QStringView text, qsizetype position) const
+{
+    return m_characters.contains(UChar32(characterAt(text, position)));
 }
 
 quint64 ZEVUnitClass::bitsAt(QStringView text, qsizetype from) const
