@@ -92,7 +92,7 @@ qsizetype countOfMatcher(const Search &search, const Pieces &pieces)
     qsizetype offset = 0;
     for (const QString &piece : pieces) {
         matcher.setText(piece);
-        matcher.findAll(found, offset);
+        while (matcher.findSome(found, offset)) { }
         offset += piece.size();
     }
     return matcher.limitReached() ? -1 : found.size();

@@ -11,6 +11,7 @@
 #include <QMetaMethod>
 
 #include <algorithm>
+#include <iterator>
 
 using namespace std::chrono_literals;
 
@@ -204,16 +205,23 @@ void ZEVTextFinder::beginSearch(const ZEVFindRequest &request, std::chrono::mill
 
 /// Every announced match runs code of the host, after which the finder may be gone, busy with a newer search,
 /// or without its client.
-bool ZEVTextFinder::addMatch(const ZEVTextSearch *search, const ZEVRange &match)
+bool ZEVTextFinder::addMatches(const ZEVTextSearch *search, std::span<const ZEVRange> matches)
 {
-    m_foundMatches.append(match);
-    m_numberOfMatches = m_foundMatches.size();
-    if (!m_isObserved)
+    if (!m_isObserved) {
+        std::copy(matches.begin(), matches.end(), std::back_inserter(m_foundMatches));
+        m_numberOfMatches = m_foundMatches.size();
         return true;
+    }
     const QPointer guard(this);
     const ZEVTextFinderClient *client = m_client;
-    announceNumberOfMatches();
-    return guard && m_search.get() == search && m_client == client;
+    for (const ZEVRange &match : matches) {
+        m_foundMatches.append(match);
+        m_numberOfMatches = m_foundMatches.size();
+        announceNumberOfMatches();
+        if (!guard || m_search.get() != search || m_client != client)
+            return false;
+    }
+    return true;
 }
 
 /// Whoever calls this holds the search, which an observer may end.
@@ -221,7 +229,7 @@ void ZEVTextFinder::goOn(const std::shared_ptr<ZEVTextSearch> &search, std::chro
 {
     const QPointer guard(this);
     const auto state =
-        search->run(duration, [&](const ZEVRange &match) { return addMatch(search.get(), match); });
+        search->run(duration, [&](const auto &matches) { return addMatches(search.get(), matches); });
     if (!guard || m_search != search)
         return;
     if (state != ZEVTextSearch::State::Unfinished)
@@ -247,7 +255,7 @@ void ZEVTextFinder::takeBackgroundMatches(const std::shared_ptr<ZEVTextSearch> &
         return searchAgain();
     const QPointer guard(this);
     const auto state =
-        search->takeBackgroundMatches([&](const ZEVRange &match) { return addMatch(search.get(), match); });
+        search->takeBackgroundMatches([&](const auto &matches) { return addMatches(search.get(), matches); });
     if (!guard || m_search != search)
         return;
     if (state == ZEVTextSearch::State::Unfinished)

@@ -14,6 +14,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 
 class ZEVTextSearch;
 class ZEVFindBarContainer;
@@ -140,7 +141,7 @@ private:
     void announceNumberOfMatches();
     void beginSearch(const ZEVFindRequest &request, std::chrono::milliseconds duration);
     void prepareSearch();
-    bool addMatch(const ZEVTextSearch *search, const ZEVRange &match);
+    bool addMatches(const ZEVTextSearch *search, std::span<const ZEVRange> matches);
     void goOn(const std::shared_ptr<ZEVTextSearch> &search, std::chrono::milliseconds duration);
     void goOnInBackground(const std::shared_ptr<ZEVTextSearch> &search);
     void takeBackgroundMatches(const std::shared_ptr<ZEVTextSearch> &search);

@@ -10,6 +10,8 @@
 #include <QPromise>
 #include <QThreadPool>
 
+#include <algorithm>
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -51,7 +53,7 @@ struct ZEVTextSearch::Background {
     void match(Piece &piece)
     {
         matcher.setText(piece.text);
-        matcher.findAll(piece.matches);
+        while (matcher.findSome(piece.matches)) { }
     }
 
     void match(Pieces pieces, QPromise<Pieces> &promise)
@@ -150,8 +152,9 @@ void ZEVTextSearch::giveUpBackground()
 ZEVTextSearch::State ZEVTextSearch::collect(const Piece &piece, const Sink &sink)
 {
     m_matcher->setText(piece.text);
-    for (qsizetype number = 0; const auto match = m_matcher->findNext(); ++number)
-        if (deliver({piece.location + match->location, match->length}, number, sink) == State::Left)
+    QList<ZEVRange> some; // of its own, since whoever takes them may begin to search anew
+    for (qsizetype number = 0; m_matcher->findSome(some, piece.location); number += some.size(), some.clear())
+        if (deliver(some, number, sink) == State::Left)
             return State::Left;
     if (m_matcher->wasInterrupted())
         return State::Unfinished;
@@ -159,13 +162,16 @@ ZEVTextSearch::State ZEVTextSearch::collect(const Piece &piece, const Sink &sink
     return State::Over;
 }
 
-/// A piece that was interrupted is matched anew, and gives what it gave before.
-ZEVTextSearch::State ZEVTextSearch::deliver(const ZEVRange &match, qsizetype number, const Sink &sink)
+/// A piece that was interrupted is matched anew, and gives what it gave before: these are the matches from the one
+/// of that number on.
+ZEVTextSearch::State ZEVTextSearch::deliver(std::span<const ZEVRange> matches, qsizetype number,
+                                            const Sink &sink)
 {
-    if (number < m_deliveredInPiece)
-        return State::Over;
-    ++m_deliveredInPiece;
-    return sink(match) ? State::Over : State::Left;
+    const qsizetype known = std::min(m_deliveredInPiece - number, qsizetype(matches.size()));
+    if (known > 0)
+        matches = matches.subspan(size_t(known));
+    m_deliveredInPiece += qsizetype(matches.size());
+    return matches.empty() || sink(matches) ? State::Over : State::Left;
 }
 
 ZEVTextSearch::Pieces ZEVTextSearch::nextPieces(std::chrono::milliseconds duration)
@@ -204,14 +210,12 @@ void ZEVTextSearch::matchInBackground(std::chrono::milliseconds duration, QObjec
 ZEVTextSearch::State ZEVTextSearch::takeBackgroundMatches(const Sink &sink)
 {
     m_isInBackground = false;
-    const Pieces pieces = m_watcher.result();
-    for (const Piece &piece : pieces) {
-        for (qsizetype number = 0; number < piece.matches.size(); ++number) {
-            const ZEVRange &match = piece.matches.at(number);
-            const ZEVRange place{piece.location + match.location, match.length};
-            if (deliver(place, number, sink) == State::Left)
-                return State::Left;
-        }
+    Pieces pieces = m_watcher.result();
+    for (Piece &piece : pieces) {
+        for (ZEVRange &match : piece.matches)
+            match.location += piece.location;
+        if (deliver(piece.matches, 0, sink) == State::Left)
+            return State::Left;
         m_deliveredInPiece = 0;
     }
     return m_index >= m_total || pieces.isEmpty() || isExhausted() ? State::Over : State::Unfinished;

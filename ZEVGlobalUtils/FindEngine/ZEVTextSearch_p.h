@@ -10,6 +10,7 @@
 #include <QFutureWatcher>
 
 #include <chrono>
+#include <span>
 
 class ZEVTextFinderClient;
 
@@ -18,8 +19,8 @@ class ZEVTextFinderClient;
 /// holds up the user.
 class ZEVTextSearch {
 public:
-    /// Takes a match; false ends the walk at once, which may have lost whoever began it.
-    using Sink = std::function<bool(const ZEVRange &)>;
+    /// Takes the next matches; false ends the walk at once, which may have lost whoever began it.
+    using Sink = std::function<bool(std::span<const ZEVRange>)>;
 
     enum class State { Over, Unfinished, Left };
 
@@ -61,7 +62,7 @@ private:
     std::optional<Piece> nextPiece();
     Pieces nextPieces(std::chrono::milliseconds duration);
     State collect(const Piece &piece, const Sink &sink);
-    State deliver(const ZEVRange &match, qsizetype number, const Sink &sink);
+    State deliver(std::span<const ZEVRange> matches, qsizetype number, const Sink &sink);
     bool isExhausted() const;
 
     const ZEVTextFinderClient *m_client;

@@ -33,6 +33,13 @@ public:
         return m_isAllWords ? -1 : endOfRareMatch(text, start);
     }
 
+    /// Whether all matches are of its length() and begin where isWholeAt() says so.
+    bool isFixed() const { return m_isAllWords; }
+
+    /// For one that is fixed, in a text that goes on for its length: without a branch, which where matches are
+    /// common would often be guessed wrong.
+    bool isWholeAt(const char16_t *text) const { return areWordsAt(text); }
+
     /// One of these stands wherever a match begins: the two rarest units of those that stand at their offset
     /// unless a character folds to several, or the first that does.
     ZEVTextScan::Anchors anchors() const;
@@ -73,11 +80,10 @@ private:
             std::memcpy(&read, units, sizeof(read));
             return read;
         };
-        for (const Word &word : m_words) {
-            if ((number(text + word.offset) | number(word.bits.data())) != number(word.units.data()))
-                return false;
-        }
-        return true;
+        quint64 difference = 0;
+        for (const Word &word : m_words)
+            difference |= (number(text + word.offset) | number(word.bits.data())) ^ number(word.units.data());
+        return difference == 0;
     }
 
     std::u16string m_text; ///< folded where case does not count

@@ -117,7 +117,7 @@ ZEVRegularExpression::Matches ZEVRegularExpression::matchesInString(QStringView 
     Matches matches;
     ZEVRegularExpressionMatcher matcher(*this);
     matcher.setText(text);
-    matcher.findAll(matches.ranges);
+    while (matcher.findSome(matches.ranges)) { }
     matches.limitReached = matcher.limitReached();
     return matches;
 }

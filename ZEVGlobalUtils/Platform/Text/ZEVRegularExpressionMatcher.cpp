@@ -399,13 +399,14 @@ std::optional<ZEVRange> ZEVRegularExpressionMatcher::findNext()
     return ZEVRange{d->begin, d->end - d->begin};
 }
 
-void ZEVRegularExpressionMatcher::findAll(QList<ZEVRange> &ranges, qsizetype offset)
+bool ZEVRegularExpressionMatcher::findSome(QList<ZEVRange> &ranges, qsizetype offset)
 {
-    while (d->find()) {
-        ranges.append({offset + d->begin, d->end - d->begin});
-        d->takeSpans(ranges, offset);
-    }
     d->hasMatch = false;
+    if (!d->find())
+        return false;
+    ranges.append({offset + d->begin, d->end - d->begin});
+    d->takeSpans(ranges, offset);
+    return true;
 }
 
 std::optional<ZEVRange> ZEVRegularExpressionMatcher::rangeOfGroup(int group) const

@@ -36,9 +36,9 @@ public:
     /// Nil when the text has no further match, or when a limit has struck.
     std::optional<ZEVRange> findNext();
 
-    /// Appends all further matches to \a ranges, moved by \a offset, which is faster than one by one. Their groups
-    /// are not to be had.
-    void findAll(QList<ZEVRange> &ranges, qsizetype offset = 0);
+    /// Appends the next matches, as many as are found at a time, to \a ranges, moved by \a offset: faster than one
+    /// by one, but without their groups. False when there are none.
+    bool findSome(QList<ZEVRange> &ranges, qsizetype offset = 0);
 
     /// Where a group of the last match lies; nil for one that took no part in it.
     std::optional<ZEVRange> rangeOfGroup(int group) const;

@@ -119,6 +119,7 @@ ZEVSearchPlan ZEVSearchPlan::forPattern(QStringView pattern, bool caseInsensitiv
         return plan;
     plan.anchors = plan.literal->anchors();
     plan.kind = isAll ? Kind::Literal : Kind::Candidates;
+    plan.isFixedText = rest.isEmpty() && !plan.beginsAtBoundary && plan.literal->isFixed();
     return plan;
 }
 
@@ -175,12 +176,10 @@ ZEVSearchWalk::State ZEVSearchWalk::goOnWithEmail()
 
 ZEVSearchWalk::State ZEVSearchWalk::goOnWithCandidates()
 {
-    if (m_block == m_blockCount) {
-        const auto [position, count] = ZEVTextScan::findBlocks(m_plan.anchors, m_text, m_scanned, m_blocks);
-        m_scanned = position;
-        m_blockCount = count;
-        m_block = 0;
-    }
+    if (m_block == m_blockCount)
+        findNextBlocks();
+    if (m_plan.isFixedText && !takeFixedText())
+        return State::GoesOn;
     while (hasRoomFor(2) && ++m_attempts < MostAttempts) {
         const qsizetype candidate = nextCandidate();
         if (candidate < 0)
@@ -189,6 +188,38 @@ ZEVSearchWalk::State ZEVSearchWalk::goOnWithCandidates()
             return State::AsksMatcher;
     }
     return State::GoesOn;
+}
+
+void ZEVSearchWalk::findNextBlocks()
+{
+    const auto [position, count] = ZEVTextScan::findBlocks(m_plan.anchors, m_text, m_scanned, m_blocks);
+    m_scanned = position;
+    m_blockCount = count;
+    m_block = 0;
+}
+
+/// What goOnWithCandidates() does with each candidate, for those of the simplest kind that do not stand near the
+/// text's end. False where there was no room for all of them.
+bool ZEVSearchWalk::takeFixedText()
+{
+    const ZEVFoldedLiteral &literal = *m_plan.literal;
+    const qsizetype length = literal.length();
+    for (; m_block < m_blockCount; ++m_block) {
+        const ZEVTextScan::Block block = m_blocks[m_block];
+        if (block.begin + BlockSize + length > m_text.size())
+            return true;
+        if (!hasRoomFor(2 * BlockSize))
+            return false;
+        for (quint64 bits = block.bits; bits; bits &= bits - 1) {
+            const qsizetype begin = block.begin + std::countr_zero(bits);
+            const bool isMatch = (begin >= m_position) & literal.isWholeAt(m_text.utf16() + begin);
+            m_edges[m_edgeCount] = begin;
+            m_edges[m_edgeCount + 1] = begin + length;
+            m_edgeCount += isMatch ? 2 : 0;
+            m_position = isMatch ? begin + length : m_position;
+        }
+    }
+    return true;
 }
 
 /// The next place in the blocks at which the anchors fit; -1 where those are used up.

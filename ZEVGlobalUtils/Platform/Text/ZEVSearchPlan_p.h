@@ -30,6 +30,7 @@ struct ZEVSearchPlan {
     bool runIsGroup = false;
     bool beginsAtBoundary = false;
     bool endsAtBoundary = false;
+    bool isFixedText = false; ///< nothing but a literal that is fixed
 };
 
 /// Goes through one text by a plan, from stretch to stretch: many matches at a time cost far less than each by
@@ -72,6 +73,8 @@ private:
     State goOnWithRuns();
     State goOnWithEmail();
     State goOnWithCandidates();
+    void findNextBlocks();
+    bool takeFixedText();
     bool hasRoomFor(qsizetype edges) const { return m_edgeCount + size_t(edges) < m_edges.size(); }
     qsizetype nextCandidate();
     Answer tryCandidate(qsizetype candidate);
