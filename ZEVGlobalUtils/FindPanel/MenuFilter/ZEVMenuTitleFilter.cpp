@@ -5,10 +5,13 @@
 
 #include <ZEVGlobalUtils/Menus/Items/ZEVMenuItem.h>
 #include <ZEVGlobalUtils/Platform/Text/ZEVCaseMapping_p.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpression.h>
+#include <ZEVGlobalUtils/Platform/Text/ZEVRegularExpressionMatcher.h>
 
 #include <QMenu>
 
 #include <algorithm>
+#include <numeric>
 
 namespace {
 
@@ -92,18 +95,23 @@ QList<QAction *> ZEVMenuTitleFilter::itemsWithWords(const QList<QAction *> &item
     };
     if (words.isEmpty())
         return items;
-    m_titles.resize(std::size_t(items.size()));
-    const auto passes = [&](const Title &title) {
-        return title.isOneLine ? lineHasWords(title.folded, words) : hasWords(title.folded, words);
-    };
+    read(items);
+    const std::vector<std::size_t> found = indexesWithWords(words);
     Collector passing;
-    for (qsizetype i = 0; i < items.size(); ++i) {
-        QAction *item = items.at(i);
+    auto next = found.begin();
+    const auto appendUpTo = [&](std::size_t end) {
+        for (; next != found.end() && *next < end; ++next)
+            passing.append(items.at(qsizetype(*next)));
+    };
+    for (const std::size_t other : m_others) {
+        QAction *item = items.at(qsizetype(other));
+        appendUpTo(other);
         if (item->isSeparator())
             passing.separate(item);
-        else if (passes(folded(i, item)) || isInMenu(item, test, 0))
+        else if ((next == found.end() || *next != other) && isInMenu(item, test, 0))
             passing.append(item);
     }
+    appendUpTo(std::size_t(items.size()));
     return passing.items;
 }
 
@@ -119,11 +127,73 @@ QList<QAction *> ZEVMenuTitleFilter::itemsPassing(const QList<QAction *> &items,
     return passing.items;
 }
 
-const ZEVMenuTitleFilter::Title &ZEVMenuTitleFilter::folded(qsizetype index, const QAction *item)
+void ZEVMenuTitleFilter::read(const QList<QAction *> &items)
 {
-    Title &known = m_titles[std::size_t(index)];
-    const QString title = ZEVMenuItem::title(item);
-    if (known.title != title)
-        known = {title, ZEVCaseMapping::caseFolded(title), isOneLine(title)};
-    return known;
+    if (items.constData() != m_items.constData() || items.size() != m_items.size()) {
+        m_items = items;
+        watch();
+    }
+    if (m_changed.empty())
+        return;
+    for (const std::size_t index : m_changed) {
+        const QAction *item = items.at(qsizetype(index));
+        m_folded[index] =
+            item->isSeparator() ? QString() : ZEVCaseMapping::caseFolded(ZEVMenuItem::title(item));
+    }
+    m_changed.clear();
+    joinTitles();
+}
+
+void ZEVMenuTitleFilter::watch()
+{
+    m_watcher = std::make_unique<QObject>();
+    m_folded.assign(std::size_t(m_items.size()), {});
+    m_changed.resize(m_folded.size());
+    std::iota(m_changed.begin(), m_changed.end(), std::size_t(0));
+    for (std::size_t index = 0; index < m_folded.size(); ++index)
+        QObject::connect(m_items.at(qsizetype(index)), &QAction::changed, m_watcher.get(),
+                         [this, index] { m_changed.push_back(index); });
+}
+
+/// One long text is searched far faster than many short ones.
+void ZEVMenuTitleFilter::joinTitles()
+{
+    m_text.clear();
+    m_begins.assign(1, 0);
+    m_others.clear();
+    for (std::size_t index = 0; index < m_folded.size(); ++index) {
+        m_text.append(m_folded[index]).append(u'\n');
+        m_begins.push_back(m_text.size());
+        const QAction *item = m_items.at(qsizetype(index));
+        if (item->isSeparator() || item->menu<QMenu *>())
+            m_others.push_back(index);
+    }
+}
+
+QStringView ZEVMenuTitleFilter::title(std::size_t index) const
+{
+    return QStringView(m_text).sliced(m_begins[index], m_begins[index + 1] - m_begins[index] - 1);
+}
+
+/// The longest word leads to the titles that may have all of them.
+std::vector<std::size_t> ZEVMenuTitleFilter::indexesWithWords(const QStringList &words) const
+{
+    const QString longest = *std::ranges::max_element(words, {}, &QString::size);
+    ZEVRegularExpressionMatcher matcher(
+        *ZEVRegularExpression::compile(ZEVRegularExpression::escapedPatternForString(longest)));
+    matcher.setText(m_text);
+    std::vector<std::size_t> indexes;
+    std::size_t index = 0; // all before it are tested
+    for (QList<ZEVRange> places; matcher.findSome(places); places.clear()) {
+        for (const ZEVRange &place : std::as_const(places)) {
+            if (place.location < m_begins[index])
+                continue;
+            while (m_begins[index + 1] <= place.location)
+                ++index;
+            if (words.size() == 1 || hasWords(title(index), words))
+                indexes.push_back(index);
+            ++index;
+        }
+    }
+    return indexes;
 }

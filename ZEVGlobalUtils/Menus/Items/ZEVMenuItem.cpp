@@ -63,6 +63,8 @@ void setTitles(QAction *item, Titles titles)
     const QString shown = titles.attributedTitle ? titles.attributedTitle->string() : titles.title;
     titles.text = indentation(titles) + onOneLine(shown).replace(u'&', u"&&"_s);
     item->setProperty(TitlesKey, QVariant::fromValue(titles));
+    if (item->text() == titles.text)
+        Q_EMIT item->changed(); // the title may be another one all the same
     item->setText(titles.text);
     for (QObject *object : item->associatedObjects()) {
         auto *menu = qobject_cast<QMenu *>(object);
