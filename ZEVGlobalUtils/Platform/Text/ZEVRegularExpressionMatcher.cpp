@@ -308,7 +308,7 @@ bool ZEVRegularExpressionMatcher::Private::findByPlan()
             return false;
         if (walkState == ZEVSearchWalk::State::AsksMatcher && askMatcher())
             return true;
-        if (!mayGoOn())
+        if (walk.reached() > 0 && !mayGoOn()) // which a short text never comes to
             return false;
         walkState = walk.goOn();
         nextSpan = 0;

@@ -65,7 +65,12 @@ bool belongsToCharacterBefore(char32_t character)
 
 bool ZEVUnitClass::isWordBoundary(QStringView text, qsizetype position)
 {
-    const auto isOfWord = [&](qsizetype i) { return forLetter(u'w')->containsUnitAt(text, i); };
+    static const ZEVUnitClass &words = *forLetter(u'w');
+    const char16_t unitBefore = position > 0 ? text.utf16()[position - 1] : u' ';
+    const char16_t unitAfter = position < text.size() ? text.utf16()[position] : u' ';
+    if (unitBefore < 0x80 && unitAfter < 0x80)
+        return words.m_units[unitBefore] != words.m_units[unitAfter];
+    const auto isOfWord = [&](qsizetype i) { return words.containsUnitAt(text, i); };
     const auto isAttached = [&](qsizetype i) {
         return text[i] > QChar(0x7F) && belongsToCharacterBefore(characterAt(text, i));
     };
