@@ -141,8 +141,8 @@ int main(int argc, char **argv)
 {
     Table table(200'000);
     registerKeyPress("literal", {u"Strange"_s}, false, table);
-    registerKeyPress("literal, any case", {u"strange"_s}, true, table);
-    registerKeyPress("one letter, any case", {u"s"_s}, true, table);
+    registerKeyPress("literal (any case)", {u"strange"_s}, true, table);
+    registerKeyPress("one letter (any case)", {u"s"_s}, true, table);
     QList<ZEVPatternItem> items = ZEVPatternItem::escapeItems();
     items += {ZEVPatternItem::tab(), ZEVPatternItem::lineBreak(), ZEVPatternItem::email()};
     for (const ZEVPatternItem &item : std::as_const(items))
