@@ -4,7 +4,7 @@
 #include <ZEVGlobalUtils/Platform/Text/ZEVTextScan_p.h>
 
 #include <algorithm>
-#include <bit>
+#include <limits>
 
 #ifdef Q_PROCESSOR_X86_64
 #include <immintrin.h>
@@ -99,20 +99,10 @@ struct Any128 {
     __m128i wanted[form == Form::Any ? 4 : 1];
 };
 
-/// A bit for each of 64 units, eight of which \a answer gives at a time as all bits or none.
+/// A bit for each of the first units, eight of which \a answer gives at a time as all bits or none. The last step
+/// goes back over what was answered, so that nothing is read behind them: as many as a step must stand before.
 template <typename Answer>
-quint64 bits128(Answer answer)
-{
-    quint64 bits = 0;
-    for (int i = 0; i < BlockSize; i += 16)
-        bits |= quint64(unsigned(_mm_movemask_epi8(_mm_packs_epi16(answer(i), answer(i + 8))))) << i;
-    return bits;
-}
-
-/// The same for the first units alone, where the text ends: the last step goes back over what was answered.
-/// As many as a step must stand before the end of them.
-template <typename Answer>
-quint64 endBits128(qsizetype count, Answer answer)
+quint64 bits128(qsizetype count, Answer answer)
 {
     quint64 bits = 0;
     for (qsizetype i = 0; i < count; i += Step) {
@@ -142,19 +132,10 @@ struct Fit128 {
 };
 
 template <Form form>
-Search sse2Search(const Anchors &anchors, Search search)
+quint64 sse2Bits(const Anchors &anchors, const char16_t *text, qsizetype count)
 {
     const Fit128<form> fit(anchors);
-    for (; search.goesOn(); search.at += BlockSize)
-        search.add(bits128([&](int i) { return fit(search.text + search.at + i); }));
-    return search;
-}
-
-template <Form form>
-quint64 sse2EndBits(const Anchors &anchors, const char16_t *text, qsizetype count)
-{
-    const Fit128<form> fit(anchors);
-    return endBits128(count, [&](qsizetype i) { return fit(text + i); });
+    return bits128(count, [&](qsizetype i) { return fit(text + i); });
 }
 
 template <int Count>
@@ -180,19 +161,11 @@ __m128i isAscii128(const char16_t *text)
 }
 
 template <int Count>
-Classes sse2Classes(const AsciiRanges &ranges, const char16_t *text)
+Classes sse2Classes(const AsciiRanges &ranges, const char16_t *text, qsizetype count)
 {
     const InRanges128<Count> isIn{ranges};
-    return {bits128([&](int i) { return isIn(text + i); }),
-            ~bits128([&](int i) { return isAscii128(text + i); })};
-}
-
-template <int Count>
-Classes sse2EndClasses(const AsciiRanges &ranges, const char16_t *text, qsizetype count)
-{
-    const InRanges128<Count> isIn{ranges};
-    const quint64 ascii = endBits128(count, [&](qsizetype i) { return isAscii128(text + i); });
-    return {endBits128(count, [&](qsizetype i) { return isIn(text + i); }), ~ascii & lowestBits(count)};
+    const quint64 ascii = bits128(count, [&](qsizetype i) { return isAscii128(text + i); });
+    return {bits128(count, [&](qsizetype i) { return isIn(text + i); }), ~ascii & lowestBits(count)};
 }
 
 #define ZEV_AVX2 __attribute__((target("avx2")))
@@ -280,51 +253,43 @@ ZEV_AVX2 Classes avx2Classes(const AsciiRanges &ranges, const char16_t *text)
 
 // NOLINTEND(portability-simd-intrinsics)
 
-template <Form form>
-Search searchIn(const Anchors &anchors, const Search &search, Code code)
-{
-    return (code == Code::Avx2 ? avx2Search<form> : sse2Search<form>)(anchors, search);
-}
-
-Search searchWhole(const Anchors &anchors, const Search &search, Code code)
+quint64 smallBits(const Anchors &anchors, const char16_t *text, qsizetype count)
 {
     const Form form = anchors.form;
-    return (form == Form::One       ? searchIn<Form::One>
-                : form == Form::Bit ? searchIn<Form::Bit>
-                                    : searchIn<Form::Any>)(anchors, search, code);
+    return (form == Form::One       ? sse2Bits<Form::One>
+                : form == Form::Bit ? sse2Bits<Form::Bit>
+                                    : sse2Bits<Form::Any>)(anchors, text, count);
 }
 
-quint64 vectorEndBits(const Anchors &anchors, const char16_t *text, qsizetype count)
+Search searchWhole(const Anchors &anchors, Search search, Code code)
 {
     const Form form = anchors.form;
-    return (form == Form::One       ? sse2EndBits<Form::One>
-                : form == Form::Bit ? sse2EndBits<Form::Bit>
-                                    : sse2EndBits<Form::Any>)(anchors, text, count);
-}
-
-Classes wholeClasses(const AsciiRanges &ranges, const char16_t *text, Code code)
-{
-    const int count = ranges.count;
     if (code == Code::Avx2)
-        return (count == 1 ? avx2Classes<1> : count == 2 ? avx2Classes<2> : avx2Classes<4>)(ranges, text);
-    return (count == 1 ? sse2Classes<1> : count == 2 ? sse2Classes<2> : sse2Classes<4>)(ranges, text);
+        return (form == Form::One       ? avx2Search<Form::One>
+                    : form == Form::Bit ? avx2Search<Form::Bit>
+                                        : avx2Search<Form::Any>)(anchors, search);
+    for (; search.goesOn(); search.at += BlockSize)
+        search.add(smallBits(anchors, search.text + search.at, BlockSize));
+    return search;
 }
 
-Classes vectorEndClasses(const AsciiRanges &ranges, const char16_t *text, qsizetype count)
+Classes vectorClasses(const AsciiRanges &ranges, const char16_t *text, qsizetype count, Code code)
 {
-    return (ranges.count == 1       ? sse2EndClasses<1>
-                : ranges.count == 2 ? sse2EndClasses<2>
-                                    : sse2EndClasses<4>)(ranges, text, count);
+    const int number = ranges.count;
+    if (code == Code::Avx2 && count == BlockSize)
+        return (number == 1 ? avx2Classes<1> : number == 2 ? avx2Classes<2> : avx2Classes<4>)(ranges, text);
+    return (number == 1       ? sse2Classes<1>
+                : number == 2 ? sse2Classes<2>
+                              : sse2Classes<4>)(ranges, text, count);
 }
 
 #else
 
 constexpr qsizetype Step = std::numeric_limits<qsizetype>::max(); // no text has as many units
 
+quint64 smallBits(const Anchors &, const char16_t *, qsizetype) { return 0; }
 Search searchWhole(const Anchors &, const Search &search, Code) { return search; }
-quint64 vectorEndBits(const Anchors &, const char16_t *, qsizetype) { return 0; }
-Classes wholeClasses(const AsciiRanges &, const char16_t *, Code) { return {}; }
-Classes vectorEndClasses(const AsciiRanges &, const char16_t *, qsizetype) { return {}; }
+Classes vectorClasses(const AsciiRanges &, const char16_t *, qsizetype, Code) { return {}; }
 
 #endif
 
@@ -333,7 +298,7 @@ quint64 endBits(const Anchors &anchors, QStringView text, qsizetype from, qsizet
 {
     if (inText <= 0 || from + inText < Step)
         return plainBits(anchors, text, from, count);
-    const quint64 bits = vectorEndBits(anchors, text.utf16() + from, inText);
+    const quint64 bits = smallBits(anchors, text.utf16() + from, inText);
     return count > inText ? bits | plainBits(anchors, text, from + inText, count - inText) << inText : bits;
 }
 
@@ -400,7 +365,7 @@ Classes classesAt(const AsciiRanges &ranges, QStringView text, qsizetype from, C
     const qsizetype count = std::min(BlockSize, text.size() - from);
     if (code == Code::Plain || text.size() < Step)
         return plainClasses(ranges, units, count);
-    return count == BlockSize ? wholeClasses(ranges, units, code) : vectorEndClasses(ranges, units, count);
+    return vectorClasses(ranges, units, count, code);
 }
 
 } // namespace ZEVTextScan
