@@ -49,6 +49,21 @@ Found foundByUs(ZEVRegularExpressionMatcher &matcher, const QString &text)
     return found;
 }
 
+/// Where the matches lie, taken many at a time.
+bool hasPlaces(ZEVRegularExpressionMatcher &matcher, const QString &text, const Found &found)
+{
+    QList<ZEVRange> places;
+    matcher.setText(text);
+    while (matcher.findSome(places, 1)) { }
+    Found expected;
+    for (qsizetype i = 0; i < found.size(); i += 2 * (matcher.numberOfCaptureGroups() + 1))
+        expected << found[i] + 1 << found[i + 1] - found[i];
+    Found given;
+    for (const ZEVRange &place : std::as_const(places))
+        given << place.location << place.length;
+    return given == expected;
+}
+
 /// Nothing where the pattern does not compile or runs away; else whether both found the same in each text.
 std::optional<bool> isAgreed(const QString &pattern, bool caseInsensitive, const QStringList &texts,
                              int timeLimit = 0)
@@ -67,7 +82,7 @@ std::optional<bool> isAgreed(const QString &pattern, bool caseInsensitive, const
         if (expected == Found{-2})
             return std::nullopt;
         const Found found = foundByUs(matcher, text);
-        if (found != expected) {
+        if (found != expected || !hasPlaces(matcher, text, expected)) {
             qWarning() << pattern << caseInsensitive << text.left(400) << found << expected;
             return false;
         }
