@@ -73,6 +73,7 @@ private Q_SLOTS:
         for (const QString &hidden : {u".Trash-1000/files"_s, u".zev-1-2.tmp"_s})
             QVERIFY(QDir(folder.path()).mkpath(hidden)
                     && Samples::copy(good, folder.filePath(hidden + u"/gone.m4a"_s)));
+        QVERIFY(Samples::copy(good, folder.filePath(u"._beside.m4a"_s)));
         QVERIFY(Samples::copy(good, folder.filePath(u"notes.txt"_s)));
         QVERIFY(Samples::copy(good, folder.filePath(u"two\nlines.m4a"_s)));
         QVERIFY(Samples::copy(good, folder.filePath(u"empty.ogg"_s), 0));

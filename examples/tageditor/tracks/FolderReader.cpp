@@ -30,8 +30,9 @@ std::vector<fs::path> sortedByName(const std::vector<fs::path> &paths)
     return sorted;
 }
 
-/// The trash of a volume, and where files are made or wait to be removed: nothing of the user's music.
-bool isHidden(const fs::path &folder) { return folder.filename().native().starts_with('.'); }
+/// The trash of a volume, where files are made or wait to be removed, and what other systems note beside each
+/// file: nothing of the user's music.
+bool isHidden(const fs::path &path) { return path.filename().native().starts_with('.'); }
 
 QString message(const std::error_code &error) { return QString::fromStdString(error.message()); }
 
@@ -98,10 +99,11 @@ private:
              entry.increment(error)) {
             if (m_stop.stop_requested())
                 break;
+            if (isHidden(entry->path()))
+                continue;
             std::error_code ignored; // what has no type is left to the reader of tags, which says why
             if (fs::is_directory(entry->symlink_status(ignored))) {
-                if (!isHidden(entry->path()))
-                    folders.push_back(entry->path());
+                folders.push_back(entry->path());
             } else if (TagReader::isAudioFileName(entry->path()) && !entry->is_directory(ignored)) {
                 m_files.push_back(entry->path());
             }

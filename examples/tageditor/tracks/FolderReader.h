@@ -10,7 +10,8 @@
 #include <thread>
 
 /// Reads the tags of all audio files in a folder and below it on a thread of its own. Symbolic links to
-/// folders are not followed, and hidden folders within, such as a volume's trash, are left out. All signals come on the main thread, and none of a reading that was cancelled.
+/// folders are not followed, and what is hidden within, such as a volume's trash, is left out. All signals come
+/// on the main thread, and none of a reading that was cancelled.
 class FolderReader : public QObject {
     Q_OBJECT
 
