@@ -3,6 +3,7 @@
 
 #include <tageditor/tracks/TagFields.h>
 
+#include <tageditor/tracks/CommentFrames.h>
 #include <tageditor/tracks/TagValues.h>
 
 #include <apetag.h>
@@ -16,6 +17,7 @@
 #include <xiphcomment.h>
 
 using namespace Qt::StringLiterals;
+using namespace std::string_view_literals;
 
 namespace {
 
@@ -114,7 +116,8 @@ QString readField(const TagLib::File &file, const TagLib::PropertyMap &propertie
     const char *used = keyInUse(file, properties, field);
     if (!properties.contains(used))
         return plainText(*file.tag(), field);
-    const QString found = text(properties[used]);
+    const bool mayRepeat = field == TrackField::Comment;
+    const QString found = text(mayRepeat ? CommentFrames::distinct(properties[used]) : properties[used]);
     return field == TrackField::Number && found == u"0"_s ? QString() : found;
 }
 
@@ -132,7 +135,10 @@ void replace(Tags &tags, const char *key, const TagLib::StringList &values)
 
 void replaceInMpeg(TagLib::MPEG::File &file, const char *key, const TagLib::StringList &values)
 {
-    replace(*file.ID3v2Tag(true), key, values);
+    if (key == "COMMENT"sv)
+        CommentFrames::replace(*file.ID3v2Tag(true), values);
+    else
+        replace(*file.ID3v2Tag(true), key, values);
     if (file.hasAPETag())
         replace(*file.APETag(), key, values);
     if (file.hasID3v1Tag())
