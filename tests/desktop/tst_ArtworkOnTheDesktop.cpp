@@ -62,8 +62,10 @@ private:
     {
         QDir().mkpath(QFileInfo(track(editor)).path());
         QVERIFY(Samples::copy(u"Nordwind/06 Gruesse.flac"_s, track(editor)));
-        QCOMPARE(TagWriter::write(native(track(editor)), {{TrackField::Album, u"Winter/Wind"_s}},
-                                  editor == 0 ? png(Large) : QByteArray()),
+        QCOMPARE(TagWriter::write(
+                     native(track(editor)),
+                     {{{TrackField::Album, u"Winter/Wind"_s}}, editor == 0 ? png(Large) : QByteArray()})
+                     .problem,
                  QString());
         m_desktop->start(QStringLiteral(TAGEDITOR_PROGRAM), {QFileInfo(track(editor)).path()});
         m_editors.append(m_desktop->placedWindow(u"tracks%1"_s.arg(editor), place(0, editor)));

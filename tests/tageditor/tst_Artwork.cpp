@@ -87,8 +87,8 @@ struct Editor : Shown {
             const QStringList samples = Kinds.filter(QFileInfo(name).suffix());
             ready = ready && Samples::copy(samples.first(), folder.filePath(name));
         }
-        TagWriter::write(native(path(0)), {}, png(20));
-        TagWriter::write(native(path(1)), {}, png(20));
+        TagWriter::write(native(path(0)), {{}, png(20)});
+        TagWriter::write(native(path(1)), {{}, png(20)});
         ready = ready && open(folder.path());
     }
     QString path(int row) const
@@ -125,7 +125,7 @@ private Q_SLOTS:
             addBackCover(path);
             const Track before = TagReader::read(native(path));
             for (const QByteArray &artwork : {jpeg(5), png(6), QByteArray("\0?", 2), QByteArray()}) {
-                COMPARE_ROW(kind, TagWriter::write(native(path), {}, artwork), QString());
+                COMPARE_ROW(kind, TagWriter::write(native(path), {{}, artwork}).problem, QString());
                 COMPARE_ROW(kind, ArtworkTag::read(native(path)), artwork);
                 COMPARE_ROW(kind, TagReader::read(native(path)).fields, before.fields);
             }

@@ -324,7 +324,8 @@ private Q_SLOTS:
         const Folder folder;
         const QString values = TagValues::text({u"Rock"_s, u"Pop"_s, u"Pop Rock"_s});
         QCOMPARE(
-            TagWriter::write(folder.path.filePath(u"a.mp3"_s).toStdString(), {{TrackField::Genre, values}}),
+            TagWriter::write(folder.path.filePath(u"a.mp3"_s).toStdString(), {{{TrackField::Genre, values}}})
+                .problem,
             QString());
         Shown shown;
         QVERIFY(shown.visible && shown.open(folder.path.path()));

@@ -27,7 +27,7 @@ struct Shared {
     QString path() const { return folder.filePath(u"a.m4a"_s); }
     bool writeElsewhere(TrackField field, const QString &text) const
     {
-        return TagWriter::write(path().toStdString(), {{field, text}}).isEmpty();
+        return TagWriter::write(path().toStdString(), {{{field, text}}}).problem.isEmpty();
     }
     QString written(TrackField field) const { return TagReader::read(path().toStdString()).text(field); }
     QString title() const { return shown.text(0, TrackField::Title); }

@@ -192,8 +192,8 @@ void FileActions::finish(const FileBatch::Result &result)
 void FileActions::followFiles(const FileBatch::Result &result)
 {
     QHash<QByteArray, int> ids;
-    for (int row = 0; row < m_model->rowCount(); ++row)
-        ids.insert(QByteArray::fromStdString(m_model->track(row).path.native()), m_model->track(row).id);
+    for (const Track &track : m_model->tracks())
+        ids.insert(QByteArray::fromStdString(track.path.native()), track.id);
     for (const FileChange &change : result.done) {
         const int id = ids.value(ZEVFileURL::path(change.source), -1);
         if (change.isCopy || id < 0)

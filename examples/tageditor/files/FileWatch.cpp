@@ -65,8 +65,8 @@ void FileWatch::lookNow()
     if (m_isLooking || m_isPaused)
         return m_timer.start();
     QList<Known> files;
-    for (int row = 0; row < m_model->rowCount(); ++row)
-        files.append({m_model->track(row).id, m_model->track(row).path, m_model->track(row).stamp});
+    for (const Track &track : m_model->tracks())
+        files.append({track.id, track.path, track.stamp});
     if (files.isEmpty())
         return;
     m_isLooking = true;
@@ -101,11 +101,12 @@ void FileWatch::show(const QList<Found> &found)
     int changed = 0;
     int gone = 0;
     for (const auto &[known, track] : found) {
-        const int row = m_model->rowOfTrack(known.trackId);
-        if (row < 0 || m_model->track(row).path != known.path || m_model->track(row).stamp != known.stamp
-            || m_model->hasChanges(known.trackId))
+        if (!m_model->hasTrack(known.trackId) || m_model->hasChanges(known.trackId))
             continue;
-        m_model->replaceTrack(row, track);
+        const Track &shown = m_model->trackWithId(known.trackId);
+        if (shown.path != known.path || shown.stamp != known.stamp)
+            continue;
+        m_model->replaceTrack(known.trackId, track);
         ++(track.stamp ? changed : gone);
     }
     if (changed > 0 || gone > 0)

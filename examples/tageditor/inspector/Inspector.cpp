@@ -125,7 +125,7 @@ std::optional<QString> Inspector::commonText(TrackField field) const
 {
     std::optional<QString> common;
     for (const int id : m_trackIds) {
-        const QString &text = m_model->track(m_model->rowOfTrack(id)).text(field);
+        const QString &text = m_model->trackWithId(id).text(field);
         if (common && *common != text)
             return std::nullopt;
         common = text;
@@ -165,7 +165,7 @@ void Inspector::showFiles()
     QVariantList sizes;
     qint64 modified = 0;
     for (const int id : std::as_const(m_trackIds)) {
-        const Track &track = m_model->track(m_model->rowOfTrack(id));
+        const Track &track = m_model->trackWithId(id);
         sizes.append(track.fileSize);
         modified = std::max(modified, track.stamp.value_or(FileStamp()).modified);
     }
@@ -206,10 +206,8 @@ void Inspector::change(TrackField field, const QVariantList &pattern)
 {
     QList<TextChange> changes;
     for (const int id : std::as_const(m_trackIds)) {
-        const int row = m_model->rowOfTrack(id);
-        if (row < 0)
-            continue;
-        changes.append({id, field, TagTokens::filledIn(pattern, m_model->track(row))});
+        if (m_model->hasTrack(id))
+            changes.append({id, field, TagTokens::filledIn(pattern, m_model->trackWithId(id))});
     }
     m_editing->change(tr("Edit %1").arg(TrackTableModel::titleForField(field)), changes);
     m_timer.start(0); // also where nothing was changed: the field shows what the tracks hold

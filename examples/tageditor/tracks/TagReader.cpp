@@ -36,13 +36,18 @@ bool TagReader::isAudioFileName(const std::filesystem::path &path)
 Track TagReader::read(const std::filesystem::path &path)
 {
     Track track;
-    track.path = path;
-    track.text(TrackField::FileName) = displayedPath(path.filename());
-    track.stamp = FileStamp::of(path); // first, so that a change while it is read is noticed later
+    setPath(track, path); // first, so that a change while it is read is noticed later
     track.error = lookAtFile(track);
     if (track.isReadable())
         track.error = readTags(track);
     return track;
+}
+
+void TagReader::setPath(Track &track, const std::filesystem::path &path)
+{
+    track.path = path;
+    track.text(TrackField::FileName) = displayedPath(path.filename());
+    track.stamp = FileStamp::of(path);
 }
 
 /// Takes the size down and tells what stands in the way of reading at all. Opening a pipe would wait for a

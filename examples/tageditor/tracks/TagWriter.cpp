@@ -107,82 +107,81 @@ std::filesystem::path pathOf(const QUrl &url) { return ZEVFileURL::path(url).toS
 
 } // namespace
 
-QString TagWriter::write(const std::filesystem::path &path, const Texts &texts, const Artwork &artwork)
+TagWriter::Result TagWriter::write(const std::filesystem::path &path, const TagChanges &changes)
 {
     std::error_code failure;
     const std::filesystem::path target = std::filesystem::canonical(path, failure);
     if (failure)
-        return QString::fromStdString(failure.message());
+        return {QString::fromStdString(failure.message()), {}};
     const QUrl original = ZEVFileURL::withPath(QByteArray::fromStdString(target.string()));
     const bool mayReplace = ::access(target.parent_path().c_str(), W_OK | X_OK) == 0;
-    return mayReplace ? replace(original, texts, artwork) : overwrite(original, texts, artwork);
+    Result result = mayReplace ? replace(original, changes) : overwrite(original, changes);
+    TagReader::setPath(result.track, path);
+    return result;
 }
 
-QString TagWriter::replace(const QUrl &original, const Texts &texts, const Artwork &artwork)
+TagWriter::Result TagWriter::replace(const QUrl &original, const TagChanges &changes)
 {
     ZEVPlainFileManager &files = *ZEVPlainFileManager::defaultManager();
     ZEVError error;
     const WorkFolder folder(original, &error);
     if (!folder.url())
-        return error.localizedDescription();
+        return {error.localizedDescription(), {}};
     const QUrl copy =
         ZEVFileURL::byAppendingPathComponent(*folder.url(), ZEVFileURL::lastPathComponent(original));
     if (!files.copyItemAtURL(original, copy, &error))
-        return error.localizedDescription();
-    if (QString problem = writeInto(pathOf(copy), texts, artwork); !problem.isEmpty())
-        return problem;
-    if (!files.replaceItemAtURL(original, copy, nullptr, &error))
-        return error.localizedDescription();
-    return {};
+        return {error.localizedDescription(), {}};
+    Result result = writeInto(pathOf(copy), changes);
+    if (result.problem.isEmpty() && !files.replaceItemAtURL(original, copy, nullptr, &error))
+        result.problem = error.localizedDescription();
+    return result;
 }
 
 /// Where no other file may be put beside it, the file itself takes the bytes of one that is whole.
-QString TagWriter::overwrite(const QUrl &original, const Texts &texts, const Artwork &artwork)
+TagWriter::Result TagWriter::overwrite(const QUrl &original, const TagChanges &changes)
 {
     QTemporaryDir folder;
     if (!folder.isValid())
-        return folder.errorString();
+        return {folder.errorString(), {}};
     const QUrl copy = ZEVFileURL::byAppendingPathComponent(
         ZEVFileURL::withPath(QFile::encodeName(folder.path())), ZEVFileURL::lastPathComponent(original));
     ZEVError error;
     if (!ZEVPlainFileManager::defaultManager()->copyItemAtURL(original, copy, &error))
-        return error.localizedDescription();
-    QString problem = writeInto(pathOf(copy), texts, artwork);
-    if (problem.isEmpty())
-        problem = copyBytes(pathOf(copy), pathOf(original));
-    if (!problem.isEmpty())
-        return problem;
-    return readBack(pathOf(original), texts, artwork);
+        return {error.localizedDescription(), {}};
+    Result result = writeInto(pathOf(copy), changes);
+    if (result.problem.isEmpty())
+        result.problem = copyBytes(pathOf(copy), pathOf(original));
+    return result.problem.isEmpty() ? readBack(pathOf(original), changes) : result;
 }
 
-QString TagWriter::writeInto(const std::filesystem::path &path, const Texts &texts, const Artwork &artwork)
+TagWriter::Result TagWriter::writeInto(const std::filesystem::path &path, const TagChanges &changes)
 {
     {
         const TagLib::FileRef reference(path.c_str(), true, TagLib::AudioProperties::Fast);
         TagLib::File *file = reference.file();
         if (!file || !file->isValid() || !file->tag())
-            return tr("No audio found: damaged or cut off");
-        for (auto text = texts.cbegin(); text != texts.cend(); ++text)
+            return {tr("No audio found: damaged or cut off"), {}};
+        for (auto text = changes.texts.cbegin(); text != changes.texts.cend(); ++text)
             TagFields::write(*file, text.key(), TagValues::of(text.value()));
-        if (artwork && !ArtworkTag::setArtwork(*file, *artwork))
-            return tr("The tags of this file cannot hold artwork");
+        if (changes.artwork && !ArtworkTag::setArtwork(*file, *changes.artwork))
+            return {tr("The tags of this file cannot hold artwork"), {}};
         if (!save(*file))
-            return tr("The tags could not be written");
+            return {tr("The tags could not be written"), {}};
     }
-    return readBack(path, texts, artwork);
+    return readBack(path, changes);
 }
 
 /// A full disk, or a kind of tag that cannot hold a text, shows here at the latest.
-QString TagWriter::readBack(const std::filesystem::path &path, const Texts &texts, const Artwork &artwork)
+TagWriter::Result TagWriter::readBack(const std::filesystem::path &path, const TagChanges &changes)
 {
-    const Track written = TagReader::read(path);
+    Track written = TagReader::read(path);
     if (!written.isReadable())
-        return written.error;
-    for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
+        return {written.error, {}};
+    for (auto text = changes.texts.cbegin(); text != changes.texts.cend(); ++text) {
         if (!isHeld(text.key(), text.value(), written.text(text.key())))
-            return tr("The tags of this file cannot hold “%1”").arg(TagValues::joined(text.value()));
+            return {tr("The tags of this file cannot hold “%1”").arg(TagValues::joined(text.value())), {}};
     }
-    if (artwork && ArtworkTag::read(path) != *artwork)
-        return tr("The tags of this file cannot hold the artwork");
-    return {};
+    if (changes.artwork && ArtworkTag::read(path) != *changes.artwork)
+        return {tr("The tags of this file cannot hold the artwork"), {}};
+    return {{}, written};
 }

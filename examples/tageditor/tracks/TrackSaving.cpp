@@ -3,13 +3,16 @@
 
 #include <tageditor/tracks/TrackSaving.h>
 
+#include <tageditor/tracks/FileWriting.h>
 #include <tageditor/tracks/TagReader.h>
-#include <tageditor/tracks/TagWriter.h>
 #include <tageditor/tracks/TrackTableModel.h>
 
+#include <QEventLoop>
 #include <QMessageBox>
+#include <QProgressBar>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -17,6 +20,9 @@ namespace {
 
 /// As many problems as a message box can show; the rest is a number.
 constexpr qsizetype ShownLines = 10;
+
+/// After so many milliseconds the progress is shown.
+constexpr int Patience = 400;
 
 } // namespace
 
@@ -44,7 +50,7 @@ QList<int> TrackSaving::settleForeignChanges(TrackTableModel *model, QWidget *wi
     QList<int> foreign;
     QStringList names;
     for (const int id : std::as_const(own)) {
-        const Track &track = model->track(model->rowOfTrack(id));
+        const Track &track = model->trackWithId(id);
         const std::optional<FileStamp> stamp = FileStamp::of(track.path);
         if (!stamp || stamp == track.stamp)
             continue;
@@ -57,7 +63,7 @@ QList<int> TrackSaving::settleForeignChanges(TrackTableModel *model, QWidget *wi
     own.removeIf([&foreign](int id) { return foreign.contains(id); });
     for (const int id : std::as_const(foreign)) {
         if (answer == Foreign::Reload)
-            model->setReverted(id, TagReader::read(model->track(model->rowOfTrack(id)).path));
+            model->setReverted(id, TagReader::read(model->trackWithId(id).path));
     }
     return own;
 }
@@ -82,22 +88,46 @@ TrackSaving::Foreign TrackSaving::askAbout(const QStringList &names, QWidget *wi
 
 QStringList TrackSaving::saveTracks(TrackTableModel *model, const QList<int> &trackIds, QWidget *window)
 {
-    QProgressDialog progress(tr("Saving…"), tr("Cancel"), 0, int(trackIds.size()), window);
+    if (trackIds.isEmpty())
+        return {};
+    QList<FileWriting::Job> jobs;
+    for (const int id : trackIds)
+        jobs.append({id, model->trackWithId(id).path, model->changes(id)});
+    QMap<qsizetype, QString> problems; // in the order of the rows
+    FileWriting writing(jobs);
+    QObject::connect(
+        &writing, &FileWriting::written, window, [&](qsizetype n, const TagWriter::Result &result) {
+            if (result.problem.isEmpty())
+                model->setSaved(jobs.at(n).trackId, result.track);
+            else
+                problems.insert(n, displayedPath(jobs.at(n).path.filename()) + u": "_s + result.problem);
+        });
+    run(writing, window);
+    return problems.values();
+}
+
+/// What takes but a moment shows no dialog; meanwhile the keys wait.
+void TrackSaving::run(FileWriting &writing, QWidget *window)
+{
+    QEventLoop loop;
+    QProgressDialog progress(tr("Saving…"), tr("Cancel"), 0, 0, window);
+    progress.setWindowTitle(tr("Save"));
     progress.setWindowModality(Qt::WindowModal);
-    QStringList problems;
-    for (const int id : trackIds) {
-        if (progress.wasCanceled())
-            break;
-        const Track &track = model->track(model->rowOfTrack(id));
-        const QString problem =
-            TagWriter::write(track.path, model->changedTexts(id), model->changedArtwork(id));
-        if (problem.isEmpty())
-            model->setSaved(id, TagReader::read(track.path));
-        else
-            problems.append(displayedPath(track.path.filename()) + u": "_s + problem);
-        progress.setValue(progress.value() + 1);
-    }
-    return problems;
+    progress.setMinimumDuration(std::numeric_limits<int>::max()); // it is shown below
+    auto *bar = new QProgressBar; // the dialog's own would let events in at every step
+    bar->setRange(0, int(writing.numberOfJobs()));
+    progress.setBar(bar);
+    QObject::connect(&progress, &QProgressDialog::canceled, &writing, &FileWriting::cancel);
+    QObject::connect(&writing, &FileWriting::written, bar, [bar] { bar->setValue(bar->value() + 1); });
+    QObject::connect(&writing, &FileWriting::finished, &loop, &QEventLoop::quit);
+    QTimer::singleShot(Patience, &loop, &QEventLoop::quit);
+    writing.start();
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    if (!writing.isRunning())
+        return;
+    progress.show();
+    while (writing.isRunning())
+        loop.exec();
 }
 
 void TrackSaving::showProblems(const QStringList &problems, QWidget *window)

@@ -52,51 +52,78 @@ QFont boldFont()
 
 void TrackTableModel::append(const QList<Track> &tracks)
 {
-    if (tracks.isEmpty())
-        return;
-    const int first = rowCount();
-    beginInsertRows({}, first, first + int(tracks.size()) - 1);
-    m_tracks += tracks;
-    for (int row = first; row < rowCount(); ++row) {
-        m_tracks[row].id = m_firstId + row; // nothing but the order of adding; the rows may be sorted
-        m_rows.push_back(row);
+    std::vector<int> places;
+    for (const Track &track : tracks) {
+        const int place = int(m_tracks.size());
+        m_tracks.append(track);
+        m_tracks.last().id = m_firstId + place; // nothing but the order of adding; the rows may be sorted
+        m_sorted.push_back(place);
+        m_accepted.push_back(!m_filter || m_filter(track));
+        m_rows.push_back(-1);
+        if (m_accepted.back())
+            places.push_back(place);
     }
     m_numberOfUnreadable += int(std::ranges::count(tracks, false, &Track::isReadable));
+    if (places.empty())
+        return;
+    beginInsertRows({}, rowCount(), rowCount() + int(places.size()) - 1);
+    for (const int place : places) {
+        m_rows[size_t(place)] = rowCount();
+        m_shown.push_back(place);
+    }
     endInsertRows();
 }
 
 void TrackTableModel::clear()
 {
     beginResetModel();
-    m_firstId += rowCount();
-    m_rows.clear();
+    m_firstId += int(m_tracks.size());
     m_savedTexts.clear();
     m_artwork.clear();
     m_tracks.clear();
+    m_sorted.clear();
+    m_accepted.clear();
+    arrange();
     m_numberOfUnreadable = 0;
     endResetModel();
+    Q_EMIT changesChanged();
+}
+
+int TrackTableModel::placeOf(int trackId) const
+{
+    const int place = trackId - m_firstId;
+    return place >= 0 && place < m_tracks.size() ? place : -1;
 }
 
 int TrackTableModel::rowOfTrack(int trackId) const
 {
-    const int place = trackId - m_firstId;
-    return place >= 0 && place < rowCount() ? m_rows[size_t(place)] : -1;
+    const int place = placeOf(trackId);
+    return place < 0 ? -1 : m_rows[size_t(place)];
 }
 
-bool TrackTableModel::isEditable(int row, TrackField field) const
+void TrackTableModel::setFilter(std::function<bool(const Track &)> filter)
 {
-    return field != TrackField::FileName && track(row).isReadable();
+    m_filter = std::move(filter);
+    beginResetModel();
+    for (size_t place = 0; place < m_accepted.size(); ++place)
+        m_accepted[place] = !m_filter || m_filter(m_tracks.at(qsizetype(place)));
+    arrange();
+    endResetModel();
+}
+
+bool TrackTableModel::isEditable(const Track &track, TrackField field)
+{
+    return field != TrackField::FileName && track.isReadable();
 }
 
 QList<TextChange> TrackTableModel::possibleChanges(const QList<TextChange> &changes) const
 {
     QList<TextChange> possible;
     for (const auto &[id, field, wanted] : changes) {
-        const int row = rowOfTrack(id);
-        if (row < 0 || !isEditable(row, field))
+        if (!hasTrack(id) || !isEditable(trackWithId(id), field))
             continue;
         const QString text = asTaken(field, wanted);
-        if (text != track(row).text(field))
+        if (text != trackWithId(id).text(field))
             possible.append({id, field, text});
     }
     return possible;
@@ -108,46 +135,54 @@ QList<TextChange> TrackTableModel::setTexts(const QList<TextChange> &changes)
     int first = rowCount();
     int last = -1;
     for (const auto &[id, field, text] : changes) {
-        const int row = rowOfTrack(id);
-        if (row < 0)
+        if (!hasTrack(id))
             continue;
-        reverse.prepend({id, field, setText(m_tracks[row], field, text)});
-        first = std::min(first, row);
+        reverse.prepend({id, field, setText(m_tracks[placeOf(id)], field, text)});
+        const int row = rowOfTrack(id);
+        first = row < 0 ? first : std::min(first, row);
         last = std::max(last, row);
     }
     if (last >= 0)
-        Q_EMIT dataChanged(index(first, 0), index(last, TrackFieldCount - 1));
+        Q_EMIT dataChanged(index(first, 0), index(last, columnCount() - 1));
+    Q_EMIT changesChanged();
     return reverse;
+}
+
+void TrackTableModel::showRow(int trackId, const QList<int> &roles)
+{
+    if (const int row = rowOfTrack(trackId); row >= 0)
+        Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1), roles);
 }
 
 void TrackTableModel::setPath(int trackId, const std::filesystem::path &path)
 {
-    const int row = rowOfTrack(trackId);
-    if (row < 0)
+    if (!hasTrack(trackId))
         return;
-    m_tracks[row].path = path;
-    const std::optional<FileStamp> before = m_tracks.at(row).stamp;
+    Track &track = m_tracks[placeOf(trackId)];
+    track.path = path;
     const std::optional<FileStamp> now = FileStamp::of(path);
-    if (before && now && before->size == now->size && before->modified == now->modified)
-        m_tracks[row].stamp = now; // another volume has another inode
-    m_tracks[row].text(TrackField::FileName) = displayedPath(path.filename());
-    Q_EMIT dataChanged(index(row, int(TrackField::FileName)), index(row, int(TrackField::FileName)));
+    if (track.stamp && now && track.stamp->size == now->size && track.stamp->modified == now->modified)
+        track.stamp = now; // another volume has another inode
+    track.text(TrackField::FileName) = displayedPath(path.filename());
+    showRow(trackId);
 }
 
-void TrackTableModel::replaceTrack(int row, const Track &track)
+void TrackTableModel::replaceTrack(int trackId, const Track &track)
 {
-    m_numberOfUnreadable += int(!track.isReadable()) - int(!m_tracks.at(row).isReadable());
-    const int id = std::exchange(m_tracks[row], track).id;
-    m_tracks[row].id = id;
-    Q_EMIT dataChanged(index(row, 0), index(row, TrackFieldCount - 1));
+    Track &old = m_tracks[placeOf(trackId)];
+    m_numberOfUnreadable += int(!track.isReadable()) - int(!old.isReadable());
+    old = track;
+    old.id = trackId;
+    showRow(trackId);
     Q_EMIT artworkChanged();
 }
 
 void TrackTableModel::setReverted(int trackId, const Track &track)
 {
     forgetChanges(trackId);
-    if (const int row = rowOfTrack(trackId); row >= 0)
-        replaceTrack(row, track);
+    if (hasTrack(trackId))
+        replaceTrack(trackId, track);
+    Q_EMIT changesChanged();
 }
 
 /// The text that stood there before.
@@ -189,38 +224,38 @@ QList<int> TrackTableModel::changedTracks() const
     for (auto cell = m_savedTexts.keyBegin(); cell != m_savedTexts.keyEnd(); ++cell)
         ids.append(cell->first);
     ids += m_artwork.keys();
-    std::ranges::sort(ids, {}, [this](int id) { return rowOfTrack(id); });
+    std::ranges::sort(ids, {}, [this](int id) { return std::pair(rowOfTrack(id), id); });
     ids.erase(std::unique(ids.begin(), ids.end()), ids.end());
     return ids;
 }
 
-QHash<TrackField, QString> TrackTableModel::changedTexts(int trackId) const
+TagChanges TrackTableModel::changes(int trackId) const
 {
-    QHash<TrackField, QString> texts;
+    TagChanges changes{{}, changedArtwork(trackId)};
     for (int field = 0; field < TrackFieldCount; ++field) {
         if (m_savedTexts.contains({trackId, field}))
-            texts.insert(TrackField(field), track(rowOfTrack(trackId)).text(TrackField(field)));
+            changes.texts.insert(TrackField(field), trackWithId(trackId).text(TrackField(field)));
     }
-    return texts;
+    return changes;
 }
 
 void TrackTableModel::setSaved(int trackId, const Track &track)
 {
-    const int row = rowOfTrack(trackId);
     forgetChanges(trackId);
-    if (row < 0)
-        return;
-    const bool hasNews = track.fields != m_tracks.at(row).fields;
-    m_tracks[row] = track;
-    m_tracks[row].id = trackId;
-    const QList<int> roles = hasNews ? QList<int>() : QList<int>{Qt::FontRole};
-    Q_EMIT dataChanged(index(row, 0), index(row, TrackFieldCount - 1), roles);
+    if (hasTrack(trackId)) {
+        Track &old = m_tracks[placeOf(trackId)];
+        const bool hasNews = track.fields != old.fields;
+        old = track;
+        old.id = trackId;
+        showRow(trackId, hasNews ? QList<int>() : QList<int>{Qt::FontRole});
+    }
+    Q_EMIT changesChanged();
 }
 
 void TrackTableModel::setArtwork(const QList<ArtworkChange> &changes)
 {
     for (const ArtworkChange &change : changes) {
-        if (rowOfTrack(change.trackId) < 0)
+        if (!hasTrack(change.trackId))
             continue;
         const QByteArray inFile = m_artwork.value(change.trackId, change).before;
         if (inFile == change.after)
@@ -231,6 +266,7 @@ void TrackTableModel::setArtwork(const QList<ArtworkChange> &changes)
     if (rowCount() > 0)
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, 0), {Qt::FontRole});
     Q_EMIT artworkChanged();
+    Q_EMIT changesChanged();
 }
 
 std::optional<QByteArray> TrackTableModel::changedArtwork(int trackId) const
@@ -264,7 +300,7 @@ QString TrackTableModel::titleForField(TrackField field)
 
 int TrackTableModel::rowCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : int(m_tracks.size());
+    return parent.isValid() ? 0 : int(m_shown.size());
 }
 
 int TrackTableModel::columnCount(const QModelIndex &parent) const
@@ -276,7 +312,7 @@ QVariant TrackTableModel::data(const QModelIndex &index, int role) const
 {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    const Track &track = m_tracks.at(index.row());
+    const Track &track = this->track(index.row());
     const TrackField field{index.column()};
     switch (role) {
     case Qt::DisplayRole:
@@ -308,7 +344,8 @@ QVariant TrackTableModel::headerData(int section, Qt::Orientation orientation, i
 Qt::ItemFlags TrackTableModel::flags(const QModelIndex &index) const
 {
     const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
-    const bool isEditable = index.isValid() && this->isEditable(index.row(), TrackField(index.column()));
+    const bool isEditable =
+        index.isValid() && this->isEditable(track(index.row()), TrackField(index.column()));
     return isEditable ? flags | Qt::ItemIsEditable : flags;
 }
 
@@ -326,25 +363,33 @@ void TrackTableModel::sort(int column, Qt::SortOrder order)
     QStringList texts;
     for (const Track &track : std::as_const(m_tracks))
         texts.append(byPath ? displayedPath(track.path) : track.text(TrackField(column)));
-    Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
-    rearrange(naturalOrder(texts, byPath ? Qt::AscendingOrder : order));
-    Q_EMIT layoutChanged({}, VerticalSortHint);
+    m_sorted = naturalOrder(texts, byPath ? Qt::AscendingOrder : order);
+    rearrange();
 }
 
-void TrackTableModel::rearrange(const std::vector<int> &oldRows)
+/// What has a row, and where, by the order and the filter.
+void TrackTableModel::arrange()
 {
-    QList<Track> tracks;
-    tracks.reserve(m_tracks.size());
-    std::vector<int> newRows(oldRows.size());
-    for (const int oldRow : oldRows) {
-        newRows[size_t(oldRow)] = int(tracks.size());
-        m_rows[size_t(m_tracks[oldRow].id - m_firstId)] = int(tracks.size());
-        tracks.append(std::move(m_tracks[oldRow]));
+    m_shown.clear();
+    m_rows.assign(size_t(m_tracks.size()), -1);
+    for (const int place : m_sorted) {
+        if (!m_accepted[size_t(place)])
+            continue;
+        m_rows[size_t(place)] = rowCount();
+        m_shown.push_back(place);
     }
-    m_tracks = std::move(tracks);
-    const QModelIndexList before = persistentIndexList();
-    QModelIndexList after;
-    for (const QModelIndex &old : before)
-        after.append(index(newRows[size_t(old.row())], old.column()));
-    changePersistentIndexList(before, after);
+}
+
+/// The same tracks in another order.
+void TrackTableModel::rearrange()
+{
+    Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
+    const std::vector<int> before = std::exchange(m_shown, {});
+    arrange();
+    const QModelIndexList indexes = persistentIndexList();
+    QModelIndexList moved;
+    for (const QModelIndex &old : indexes)
+        moved.append(index(m_rows[size_t(before[size_t(old.row())])], old.column()));
+    changePersistentIndexList(indexes, moved);
+    Q_EMIT layoutChanged({}, VerticalSortHint);
 }

@@ -3,11 +3,12 @@
 
 #pragma once
 
-#include <tageditor/tracks/Track.h>
+#include <tageditor/tracks/TagChanges.h>
 
 #include <QAbstractTableModel>
 #include <QHash>
 
+#include <functional>
 #include <vector>
 
 /// A text for one cell of a track, which is named by its id because rows may be sorted meanwhile.
@@ -36,14 +37,24 @@ public:
 
     using QAbstractTableModel::QAbstractTableModel;
 
-    const Track &track(int row) const { return m_tracks.at(row); }
+    const Track &track(int row) const { return m_tracks.at(m_shown[size_t(row)]); }
     int numberOfUnreadable() const { return m_numberOfUnreadable; }
 
-    /// -1 for a track that is not there any more.
+    /// All of them, those too that the filter hides, as they were added.
+    const QList<Track> &tracks() const { return m_tracks; }
+    bool hasTrack(int trackId) const { return placeOf(trackId) >= 0; }
+    const Track &trackWithId(int trackId) const { return m_tracks.at(placeOf(trackId)); }
+
+    /// -1 for a track that is hidden, or not there any more.
     int rowOfTrack(int trackId) const;
 
+    /// Shows only tracks that \a filter accepts; all of them with none. Which those are is settled now, and for
+    /// others as they are added: a row does not go while its texts are changed.
+    void setFilter(std::function<bool(const Track &)> filter);
+
     /// Texts that may be changed are those of the tags, in files that could be read.
-    bool isEditable(int row, TrackField field) const;
+    bool isEditable(int row, TrackField field) const { return isEditable(track(row), field); }
+    static bool isEditable(const Track &track, TrackField field);
 
     /// Those of \a changes that make a difference, each with its text as the field takes it: years and track
     /// numbers without spaces around them. What a file's tags cannot hold shows when it is saved.
@@ -57,7 +68,7 @@ public:
     void setPath(int trackId, const std::filesystem::path &path);
 
     /// Shows what was read again from the track's file.
-    void replaceTrack(int row, const Track &track);
+    void replaceTrack(int trackId, const Track &track);
 
     /// Changes all of them at once.
     void setArtwork(const QList<ArtworkChange> &changes);
@@ -69,9 +80,9 @@ public:
     bool hasChanges(int trackId) const;
     bool isChanged(int row, TrackField field) const;
 
-    /// The ids of the tracks with changed texts or artwork, in the order of the rows; and those texts.
+    /// The ids of the changed tracks, in the order of the rows; and what is to be written into their files.
     QList<int> changedTracks() const;
-    QHash<TrackField, QString> changedTexts(int trackId) const;
+    TagChanges changes(int trackId) const;
 
     /// The file holds the texts and the artwork of the track now. \a track was read from it: other texts may be
     /// in it, too, that were not known here.
@@ -102,15 +113,25 @@ Q_SIGNALS:
     void textEntered(const TextChange &change);
     void artworkChanged();
 
+    /// Of some track, shown or not, it may be another answer whether it is changed.
+    void changesChanged();
+
 private:
     using Cell = std::pair<int, int>; ///< a track's id and a column
 
+    int placeOf(int trackId) const;
     QString setText(Track &track, TrackField field, const QString &text);
     void forgetChanges(int trackId);
-    void rearrange(const std::vector<int> &oldRows);
+    void showRow(int trackId, const QList<int> &roles = {});
+    void arrange();
+    void rearrange();
 
-    QList<Track> m_tracks;
-    std::vector<int> m_rows; ///< of each track, by its id less m_firstId
+    QList<Track> m_tracks; ///< a track's place is its id less m_firstId
+    std::vector<int> m_sorted; ///< the places in the order that was asked for
+    std::vector<bool> m_accepted; ///< by the filter; of each place
+    std::vector<int> m_shown; ///< the places that have a row
+    std::vector<int> m_rows; ///< of each place; -1 for none
+    std::function<bool(const Track &)> m_filter;
     int m_firstId = 0; ///< ids are not used again for other tracks
     QHash<Cell, QString> m_savedTexts; ///< of the cells that differ from them
     QHash<int, ArtworkChange> m_artwork; ///< of the tracks whose files hold another one, by their ids

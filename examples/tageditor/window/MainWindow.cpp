@@ -136,8 +136,7 @@ void MainWindow::watchReader()
 void MainWindow::watchTexts()
 {
     const auto showModified = [this] { setWindowModified(m_model.hasChanges()); };
-    connect(&m_model, &TrackTableModel::dataChanged, this, showModified);
-    connect(&m_model, &TrackTableModel::modelReset, this, showModified);
+    connect(&m_model, &TrackTableModel::changesChanged, this, showModified);
     connect(m_editing, &TextEditing::nothingDone, this,
             [this](const QString &message) { statusBar()->showMessage(message, MessageDuration); });
     connect(m_files, &FileActions::reported, m_problem, &MessageLabel::showMessage);
