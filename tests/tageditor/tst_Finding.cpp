@@ -263,6 +263,34 @@ private Q_SLOTS:
         QCOMPARE(shown.text(1, TrackField::Title), before);
     }
 
+    void typedTextsAreTakenBackAndMixedOnesEmptied()
+    {
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(Samples::folder() + u"/Harbour"_s));
+        TagField *title = shown.window.findChildren<TagField *>().at(0);
+        auto *comment = shown.window.findChild<QPlainTextEdit *>();
+        shown.select(0, TrackField::Title);
+        QTRY_COMPARE(title->stringValue(), u"Track 12"_s);
+        const QString note = comment->toPlainText();
+        for (QWidget *field : QWidgetList{title, comment}) {
+            field->setFocus();
+            QTest::keyClicks(field, u"x"_s);
+            QTest::keyClick(field, Qt::Key_Escape);
+            shown.window.table().setFocus();
+        }
+        QCOMPARE(title->stringValue() + comment->toPlainText(), u"Track 12"_s + note);
+        QVERIFY(!shown.window.isWindowModified());
+        QTest::keyClick(title, Qt::Key_Delete); // they do not differ, so the key has its usual meaning
+        QCOMPARE(shown.text(0, TrackField::Title), u"Track 12"_s);
+        QTest::keyClick(title, Qt::Key_Escape);
+        shown.window.table().selectAll();
+        QTRY_COMPARE(title->placeholderText(), u"Mixed"_s);
+        QTest::keyClick(title, Qt::Key_Delete);
+        QTest::keyClick(comment, Qt::Key_Backspace);
+        for (const int row : {0, 1, 2})
+            QCOMPARE(shown.text(row, TrackField::Title) + shown.text(row, TrackField::Comment), QString());
+    }
+
     /// Where undo and redo of a field end, those of the window begin.
     void anUntouchedFieldLeavesUndoToTheWindow()
     {

@@ -20,6 +20,7 @@
 #include <QApplication>
 #include <QFormLayout>
 #include <QItemSelectionModel>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
@@ -87,8 +88,18 @@ void Inspector::layOut()
 
 bool Inspector::eventFilter(QObject *watched, QEvent *event)
 {
-    return (watched == m_comment && FieldUndo::passesOn(event, *m_comment->document()))
-        || QWidget::eventFilter(watched, event);
+    const bool isComments = watched == m_comment;
+    if (isComments && FieldUndo::passesOn(event, *m_comment->document()))
+        return true;
+    if (isComments && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Escape && putCommentBack())
+            return true;
+        const bool isUntouched = m_comment->document()->isEmpty() && m_shownComment.isEmpty();
+        if ((key == Qt::Key_Delete || key == Qt::Key_Backspace) && isUntouched)
+            emptyMixed(TrackField::Comment);
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void Inspector::addFields(QFormLayout *form)
@@ -99,8 +110,10 @@ void Inspector::addFields(QFormLayout *form)
         editor->setAccessibleName(title);
         form->addRow(tr("%1:", "a tag's name").arg(title), editor);
         m_fields.push_back({field, editor, {}});
-        connect(editor, &TagField::editingFinished, this,
-                [this, row = m_fields.size() - 1] { commitField(m_fields.at(row)); });
+        const size_t row = m_fields.size() - 1;
+        connect(editor, &TagField::editingFinished, this, [this, row] { commitField(m_fields.at(row)); });
+        connect(editor, &TagField::cancelled, this, [this, row] { putBack(m_fields.at(row)); });
+        connect(editor, &TagField::emptied, this, [this, field] { emptyMixed(field); });
     }
 }
 
@@ -133,12 +146,37 @@ std::optional<QString> Inspector::commonText(TrackField field) const
     return common.value_or(QString());
 }
 
+void Inspector::putBack(Row &row)
+{
+    row.editor->setObjectValue(row.shown);
+    row.editor->textStorage()->clearUndoRedoStacks();
+    row.editor->selectAll();
+}
+
+/// False where nothing was typed.
+bool Inspector::putCommentBack()
+{
+    if (m_comment->toPlainText() == m_shownComment)
+        return false;
+    m_comment->setPlainText(m_shownComment);
+    return true;
+}
+
+/// What the tracks differ in is emptied for all of them.
+void Inspector::emptyMixed(TrackField field)
+{
+    if (!commonText(field))
+        change(field, {});
+}
+
 /// What is being typed stays.
 void Inspector::showField(Row &row)
 {
     const std::optional<QString> text = commonText(row.field);
     const QVariantList shown = TagTokens::pattern(text.value_or(QString()));
     row.editor->setPlaceholderText(text ? QString() : tr("Mixed"));
+    row.editor->setToolTip(text ? QString()
+                                : tr("The tracks differ. The Delete key empties this tag of all."));
     const bool isBeingTyped = row.editor->hasFocus() && row.editor->objectValue() != row.shown;
     if (!isBeingTyped) {
         row.editor->setObjectValue(shown);
@@ -151,6 +189,8 @@ void Inspector::showComment()
 {
     const std::optional<QString> text = commonText(TrackField::Comment);
     m_comment->setPlaceholderText(text ? QString() : tr("Mixed"));
+    m_comment->setToolTip(text ? QString()
+                               : tr("The tracks differ. The Delete key empties this tag of all."));
     const bool isBeingTyped = m_commentFind->hasFocusWithin() && m_comment->toPlainText() != m_shownComment;
     const QString shown = text.value_or(QString()).replace(TagValues::Separator, ValueRule);
     if (!isBeingTyped && m_comment->toPlainText() != shown) // else the cursor stays

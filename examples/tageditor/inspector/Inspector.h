@@ -51,7 +51,10 @@ private:
     void showTracks();
     std::optional<QString> commonText(TrackField field) const;
     void showField(Row &row);
+    void putBack(Row &row);
     void showComment();
+    bool putCommentBack();
+    void emptyMixed(TrackField field);
     void showFiles();
     void commitField(Row &row);
     void commitComment();

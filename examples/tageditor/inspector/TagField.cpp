@@ -9,6 +9,7 @@
 #include <ZEVGlobalUtils/FindPanel/TokenFields/OEXTokenTextStorage.h>
 
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QMenu>
 
 TagField::TagField(ZEVPatternTokens *tokens, QWidget *parent)
@@ -27,6 +28,23 @@ TagField::TagField(ZEVPatternTokens *tokens, QWidget *parent)
 bool TagField::event(QEvent *event)
 {
     return FieldUndo::passesOn(event, *textStorage()) || ZEVTokenField::event(event);
+}
+
+/// Where nothing was typed the key goes on, to what else it closes.
+bool TagField::performCommand(ZEVTextCommand command)
+{
+    if (command != ZEVTextCommand::CancelOperation || !textStorage()->isUndoAvailable())
+        return ZEVTokenField::performCommand(command);
+    Q_EMIT cancelled();
+    return true;
+}
+
+void TagField::keyPressEvent(QKeyEvent *event)
+{
+    const bool empties = event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace;
+    if (empties && objectValue().isEmpty() && !textStorage()->isUndoAvailable())
+        Q_EMIT emptied();
+    ZEVTokenField::keyPressEvent(event);
 }
 
 /// A menu only borrows the focus.

@@ -19,7 +19,15 @@ Q_SIGNALS:
     /// Return was pressed, or the focus went elsewhere.
     void editingFinished();
 
+    /// Escape was pressed: what was typed is not meant.
+    void cancelled();
+
+    /// What a field shows nothing of is to be empty.
+    void emptied();
+
 protected:
+    bool performCommand(ZEVTextCommand command) override;
+    void keyPressEvent(QKeyEvent *event) override;
     bool event(QEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
 };
