@@ -55,12 +55,12 @@ ZEVFindPanelQuery queryOf(const CommandLine &commandLine, ZEVTextFinderViewContr
     return query;
 }
 
-QString folderToOpen(const CommandLine &commandLine)
+QStringList filesToOpen(const CommandLine &commandLine)
 {
-    if (!commandLine.folder.isEmpty())
-        return commandLine.folder;
+    if (!commandLine.files.isEmpty())
+        return commandLine.files;
     const QString last = MainWindow::lastFolder();
-    return last.isEmpty() || commandLine.quits ? CommandLine::sampleFolder() : last;
+    return {last.isEmpty() || commandLine.quits ? CommandLine::sampleFolder() : last};
 }
 
 int runGallery(const CommandLine &commandLine)
@@ -98,6 +98,6 @@ int main(int argc, char **argv)
     if (!commandLine.findText.isEmpty()) // before anything is seen, so that the bar does not slide in
         window.find().find(queryOf(commandLine, window.find().bar()));
     window.show();
-    window.openFolder(folderToOpen(commandLine));
+    window.open(filesToOpen(commandLine));
     return application.exec();
 }

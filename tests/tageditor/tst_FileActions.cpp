@@ -151,7 +151,7 @@ private Q_SLOTS:
                                   folder.filePath(name)));
         Shown shown;
         QVERIFY(shown.visible && shown.open(folder.path()));
-        QVERIFY(Samples::copy(u"Interlude.ogg"_s, folder.filePath(u"same.mp3"_s)));
+        QVERIFY(Samples::copy(u"Maree/04 Ete.mp3"_s, folder.filePath(u"same.mp3"_s)));
         ZEVAlert::setRunner([](ZEVAlert &) {
             QTest::qWait(1200); // as long as it takes to notice what other programs do, and more
             return 1000;
@@ -201,6 +201,8 @@ private Q_SLOTS:
             COMPARE_ROW(button, reopened.changes().size(), button < 2 ? 1 : 0);
             QVERIFY(files.undo() && files.journal.isEmpty());
             COMPARE_ROW(button, files.contents(), QByteArray("a=new b=old"));
+            QCOMPARE(QDir(m_home.path() + u"/Trash/info"_s).entryList({u"b*"_s}, QDir::Files).size(),
+                     QDir(m_home.path() + u"/Trash/files"_s).entryList({u"b*"_s}, QDir::Files).size());
         }
     }
 

@@ -84,6 +84,29 @@ private Q_SLOTS:
         QCOMPARE(shared.title(), u"elsewhere"_s);
     }
 
+    void newFilesAreAdded()
+    {
+        Shared shared;
+        const auto names = [&] {
+            QStringList files;
+            for (const Track &track : shared.shown.window.tracks().tracks())
+                files.append(track.text(TrackField::FileName));
+            return files.join(u' ');
+        };
+        shared.type(u"mine"_s);
+        QVERIFY(QDir(shared.folder.path()).mkdir(u"new"_s)
+                && Samples::copy(u"Interlude.ogg"_s, shared.folder.filePath(u"new/b.ogg"_s))
+                && Samples::copy(u"Interlude.ogg"_s, shared.folder.filePath(u"c.ogg"_s), 40)); // half of it
+        QTRY_COMPARE(names(), u"a.m4a c.ogg b.ogg"_s);
+        QVERIFY(shared.shown.status().contains(u"2 new files"));
+        QVERIFY(Samples::copy(u"Interlude.ogg"_s, shared.folder.filePath(u"c.ogg"_s)));
+        QTRY_COMPARE(shared.shown.text(1, TrackField::Title), u"Interlude"_s);
+        QCOMPARE(shared.saveAnswering(u"Leave"_s), QString());
+        QTest::qWait(600); // long enough for own files to be noticed
+        QCOMPARE(names(), u"a.m4a c.ogg b.ogg"_s);
+        QCOMPARE(shared.title(), u"mine"_s);
+    }
+
     void ownSavesAreNotTakenForThem()
     {
         Shared shared;

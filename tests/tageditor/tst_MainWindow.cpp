@@ -11,7 +11,9 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
+#include <QDragEnterEvent>
 #include <QHeaderView>
+#include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
 
@@ -75,6 +77,33 @@ private Q_SLOTS:
                  u"0 tracks|The folder “/no/such/folder” could not be read: No such file or directory"_s);
         QVERIFY(shown.open(Samples::folder() + u"/Sever"_s));
         QCOMPARE(shown.status(), u"2 tracks|"_s);
+    }
+
+    void filesOpenTheirFolderAndAreSelected()
+    {
+        const QString folder = Samples::folder() + u"/Harbour/"_s;
+        Shown shown;
+        QVERIFY(shown.visible);
+        const auto selected = [&] {
+            QStringList names;
+            for (const QModelIndex &row : shown.window.table().selectionModel()->selectedRows())
+                names.append(row.data().toString().left(2));
+            return names.join(u' ');
+        };
+        QSignalSpy read(&shown.window, &MainWindow::folderRead);
+        shown.window.open({folder + u"03 Percent.m4a"_s});
+        QVERIFY(read.wait());
+        QCOMPARE(selected(), u"03"_s);
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(folder + u"../Harbour/01 Track 12.mp3"_s),
+                      QUrl::fromLocalFile(folder + u"02 Slow Boat.mp3"_s)});
+        QDragEnterEvent enter({10, 10}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+        QDropEvent drop({10, 10}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(&shown.window, &enter);
+        QCoreApplication::sendEvent(&shown.window, &drop);
+        QVERIFY(enter.isAccepted() && drop.dropAction() == Qt::CopyAction);
+        QTRY_COMPARE(selected(), u"01 02"_s);
+        QCOMPARE(shown.window.folder(), Samples::folder() + u"/Harbour"_s);
     }
 
     void unreadableFilesAreRowsOfTheirOwn()

@@ -6,7 +6,9 @@
 #include <tageditor/text/TransformDialog.h>
 #include <tageditor/tracks/TagValues.h>
 
+#include <QClipboard>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QWindow>
 
 using namespace Qt::StringLiterals;
@@ -147,6 +149,48 @@ private Q_SLOTS:
         const Dialog preview(shown, u"Trim Spaces"_s);
         preview.press(Qt::Key_Return);
         QTRY_COMPARE(shown.text(0, TrackField::Artist), TagValues::text({u"_a_b"_s, u"c"_s}));
+    }
+
+    void cellsAreCopiedAndPastedAsATable()
+    {
+        const QString several = TagValues::text({u"a ↵ b"_s, u"c\td \"e\""_s});
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(Samples::folder() + u"/Harbour"_s));
+        auto &tracks = const_cast<TrackTableModel &>(shown.window.tracks());
+        tracks.setTexts({{tracks.track(0).id, TrackField::Title, several}});
+        shown.window.table().horizontalHeader()->moveSection(int(TrackField::Artist), int(TrackField::Title));
+        const auto press = [&](QKeySequence::StandardKey key) {
+            QTest::keySequence(&shown.window.table(), key);
+        };
+        const auto selectOnly = [&](int row, TrackField field) {
+            shown.select(row, field, QItemSelectionModel::ClearAndSelect);
+        };
+        selectOnly(0, TrackField::Title);
+        shown.select(0, TrackField::Artist);
+        shown.select(1, TrackField::Artist);
+        press(QKeySequence::Cut);
+        QCOMPARE(QGuiApplication::clipboard()->text(),
+                 u"The Paper Lanterns\t\"a ↵ b↵c\td \"\"e\"\"\"\nThe Paper Lanterns\t\n"_s);
+        QCOMPARE(shown.text(0, TrackField::Title) + shown.text(1, TrackField::Artist), QString());
+        selectOnly(1, TrackField::Artist);
+        press(QKeySequence::Paste);
+        QCOMPARE(shown.text(1, TrackField::Title), several);
+        QCOMPARE(shown.text(2, TrackField::Artist), u"The Paper Lanterns"_s);
+        QGuiApplication::clipboard()->setText(u"1\t\"2\n3\"\r\n4"_s); // from a spreadsheet
+        selectOnly(0, TrackField::Artist);
+        press(QKeySequence::Paste);
+        QCOMPARE(shown.text(0, TrackField::Artist) + shown.text(0, TrackField::Title), u"12\n3"_s);
+        QCOMPARE(shown.text(1, TrackField::Artist) + shown.text(1, TrackField::Title), u"4"_s + several);
+        QGuiApplication::clipboard()->setText(u"one"_s); // into every selected cell
+        shown.select(2, TrackField::Comment);
+        press(QKeySequence::Paste);
+        QCOMPARE(shown.text(0, TrackField::Artist) + shown.text(2, TrackField::Comment), u"oneone"_s);
+        press(QKeySequence::Delete);
+        QCOMPARE(shown.text(0, TrackField::Artist) + shown.text(2, TrackField::Comment), QString());
+        for (int step = 0; step < 5; ++step)
+            press(QKeySequence::Undo);
+        QCOMPARE(shown.text(0, TrackField::Title), several);
+        QCOMPARE(shown.text(1, TrackField::Artist), u"The Paper Lanterns"_s);
     }
 
     void languageAndSpellingsAreRemembered()

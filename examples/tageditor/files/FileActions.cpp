@@ -53,7 +53,7 @@ FileActions::FileActions(TrackTableModel *model, QTableView *table, TextEditing 
     connect(m_progress, &ProgressView::cancelled, &m_batch, &FileBatch::cancel);
     connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &FileActions::updateActions);
-    connect(model, &TrackTableModel::modelReset, this, [this] {
+    connect(model, &TrackTableModel::cleared, this, [this] {
         m_isOnStack = false;
         updateActions();
     });

@@ -10,6 +10,7 @@
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
@@ -41,6 +42,13 @@ QUrl trashed(const QUrl &url)
 {
     QString place;
     return QFile::moveToTrash(url.toLocalFile(), &place) ? QUrl::fromLocalFile(place) : QUrl();
+}
+
+/// The trash notes where each of its files came from, in a folder beside that of the files.
+void forgetTrashed(const QUrl &url)
+{
+    const QFileInfo file(url.toLocalFile());
+    QFile::remove(file.dir().filePath(u"../info/"_s + file.fileName() + u".trashinfo"_s));
 }
 
 /// First those whose new name nobody has, then those that wait for them. In a circle one has to step aside:
@@ -178,7 +186,7 @@ private:
         else if (answer == ZEVFileExistsRecoveryKeepBoth || answer == ZEVFileExistsRecoveryReplace)
             m_result.errors.append(error);
         if (isFree && !QFileInfo::exists(change.destination.toLocalFile()))
-            m_manager.moveItemAtURL(change.replaced, change.destination);
+            restore(change);
     }
 
     bool follow(unsigned answer, FileChange &change, ZEVError &error)
@@ -216,7 +224,14 @@ private:
         }
         m_result.done.append({change.destination, change.source, {}, change.isCopy, -1});
         if (change.replaced.isValid())
-            m_manager.moveItemAtURL(change.replaced, change.destination);
+            restore(change);
+    }
+
+    /// What was replaced comes out of the trash again.
+    void restore(const FileChange &change)
+    {
+        if (m_manager.moveItemAtURL(change.replaced, change.destination))
+            forgetTrashed(change.replaced);
     }
 
     FileBatch *m_batch;

@@ -15,7 +15,8 @@
 class TrackTableModel;
 
 /// Notices what other programs do to the files of the table, and shows it there: as it comes for files that
-/// come, go or are replaced, and for all when the user returns to the window. Texts that were changed here
+/// come, go or are replaced, and for all when the user returns to the window. New files of the folder are added
+/// to the table. Texts that were changed here
 /// stay; saving asks about them.
 class FileWatch : public QObject {
     Q_OBJECT
@@ -23,6 +24,9 @@ class FileWatch : public QObject {
 public:
     explicit FileWatch(TrackTableModel *model, QObject *parent = nullptr);
     ~FileWatch() override;
+
+    /// Whose new files are added; empty for none.
+    void setFolder(const QString &folder);
 
     /// Looks at all files on another thread, once the events at hand are done.
     void lookSoon() { m_timer.start(); }
@@ -32,8 +36,8 @@ public:
     void setPaused(bool isPaused) { m_isPaused = isPaused; }
 
 Q_SIGNALS:
-    /// Of how many tracks the table shows something else now.
-    void noticed(int changed, int gone);
+    /// Of how many tracks the table shows something else now, and how many are new.
+    void noticed(int changed, int gone, int added);
 
 private:
     /// A file as the table knows it.
@@ -48,13 +52,18 @@ private:
         Track track;
     };
 
-    static QList<Found> look(const QList<Known> &files, const std::atomic_bool &isStopped);
+    static QList<Found> look(const QList<Known> &files, const QString &folder,
+                             const std::atomic_bool &isStopped);
+    void forget();
     void watchFolders(int first, int last);
     void lookNow();
     void show(const QList<Found> &found);
+    bool showAgain(const Found &found);
+    int add(const QList<Found> &found);
 
     TrackTableModel *m_model;
     QFileSystemWatcher m_watcher;
+    QString m_folder;
     QTimer m_timer;
     std::shared_ptr<std::atomic_bool> m_isStopped;
     bool m_isLooking = false;

@@ -3,6 +3,7 @@
 
 #include <tageditor/tracks/FolderReader.h>
 
+#include <tageditor/tracks/FolderListing.h>
 #include <tageditor/tracks/NaturalOrder.h>
 #include <tageditor/tracks/TagReader.h>
 
@@ -29,10 +30,6 @@ std::vector<fs::path> sortedByName(const std::vector<fs::path> &paths)
         sorted.push_back(paths[size_t(index)]);
     return sorted;
 }
-
-/// The trash of a volume, where files are made or wait to be removed, and what other systems note beside each
-/// file: nothing of the user's music.
-bool isHidden(const fs::path &path) { return path.filename().native().starts_with('.'); }
 
 QString message(const std::error_code &error) { return QString::fromStdString(error.message()); }
 
@@ -78,37 +75,15 @@ private:
 
     QString listFiles()
     {
-        std::vector<fs::path> folders{m_folder};
-        while (!folders.empty() && !m_stop.stop_requested()) {
-            const fs::path folder = std::move(folders.back());
-            folders.pop_back();
-            const std::error_code error = listFolder(folder, folders);
-            if (error && folder == m_folder)
-                return message(error);
-            if (error)
-                skip(folder, message(error));
-        }
+        const FolderListing listing{
+            .isStopped = [this] { return m_stop.stop_requested(); },
+            .skipped = [this](const fs::path &folder,
+                              const std::error_code &error) { skip(folder, message(error)); },
+        };
+        if (const std::error_code error = listing.list(m_folder, m_files))
+            return message(error);
         m_files = sortedByName(m_files);
         return {};
-    }
-
-    std::error_code listFolder(const fs::path &folder, std::vector<fs::path> &folders)
-    {
-        std::error_code error;
-        for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
-             entry.increment(error)) {
-            if (m_stop.stop_requested())
-                break;
-            if (isHidden(entry->path()))
-                continue;
-            std::error_code ignored; // what has no type is left to the reader of tags, which says why
-            if (fs::is_directory(entry->symlink_status(ignored))) {
-                folders.push_back(entry->path());
-            } else if (TagReader::isAudioFileName(entry->path()) && !entry->is_directory(ignored)) {
-                m_files.push_back(entry->path());
-            }
-        }
-        return error;
     }
 
     void skip(const fs::path &folder, const QString &reason)

@@ -86,6 +86,7 @@ void TrackTableModel::clear()
     arrange();
     m_numberOfUnreadable = 0;
     endResetModel();
+    Q_EMIT cleared();
     Q_EMIT changesChanged();
 }
 

@@ -113,6 +113,9 @@ Q_SIGNALS:
     void textEntered(const TextChange &change);
     void artworkChanged();
 
+    /// There are no tracks any more, and no changes of them.
+    void cleared();
+
     /// Of some track, shown or not, it may be another answer whether it is changed.
     void changesChanged();
 

@@ -28,9 +28,12 @@ void describe(QCommandLineParser &parser)
 {
     parser.setApplicationDescription(CommandLine::tr("Shows the tags of the audio files in a folder."));
     parser.addHelpOption();
-    parser.addPositionalArgument(CommandLine::tr("FOLDER"),
-                                 CommandLine::tr("The folder to open; else the last one, or the sample."),
-                                 u'[' + CommandLine::tr("FOLDER") + u']');
+    parser.addVersionOption();
+    parser.addPositionalArgument(
+        CommandLine::tr("FOLDER"),
+        CommandLine::tr(
+            "The folder to open, or files to select in theirs; else the last one, or the sample."),
+        u'[' + CommandLine::tr("FOLDER") + u']');
     parser.addOptions({
         {u"find"_s, CommandLine::tr("Find PATTERN."), CommandLine::tr("PATTERN")},
         {u"matching-type"_s, CommandLine::tr("How to match, from 0 (contains) to 5."), u"N"_s, u"0"_s},
@@ -62,7 +65,7 @@ CommandLine CommandLine::parsed(const QCoreApplication &application)
     describe(parser);
     parser.process(application);
     return {
-        .folder = parser.positionalArguments().value(0),
+        .files = parser.positionalArguments(),
         .findText = parser.value(u"find"_s),
         .matchingType = ::matchingType(parser),
         .isCaseSensitive = parser.isSet(u"case-sensitive"_s),

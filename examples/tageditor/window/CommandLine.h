@@ -4,11 +4,11 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QString>
+#include <QStringList>
 
 /// What the application is asked for when it is started.
 struct CommandLine {
-    QString folder; ///< empty when none was named
+    QStringList files; ///< or a folder; empty when none was named
     QString findText;
     qint64 matchingType = 0;
     bool isCaseSensitive = false;

@@ -9,6 +9,7 @@
 #include <tageditor/inspector/Inspector.h>
 #include <tageditor/menus/FolderMenus.h>
 #include <tageditor/menus/TrackMenus.h>
+#include <tageditor/text/CellClipboard.h>
 #include <tageditor/text/TextEditing.h>
 #include <tageditor/tracks/TableColumns.h>
 #include <tageditor/tracks/TrackSaving.h>
@@ -26,6 +27,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QProgressBar>
 #include <QScreen>
 #include <QStatusBar>
@@ -67,8 +69,10 @@ MainWindow::MainWindow(QWidget *parent)
     , m_problem(new MessageLabel)
     , m_progress(new ProgressView(tr("Reading progress")))
 {
+    setAcceptDrops(true);
     setUpTable();
     m_editing = new TextEditing(&m_model, m_table);
+    m_clipboard = new CellClipboard(&m_model, m_table, m_editing);
     m_find = new TrackFind(&m_model, m_table, m_editing);
     setCentralWidget(m_find);
     m_files = new FileActions(&m_model, m_table, m_editing);
@@ -137,14 +141,21 @@ void MainWindow::watchTexts()
 {
     const auto showModified = [this] { setWindowModified(m_model.hasChanges()); };
     connect(&m_model, &TrackTableModel::changesChanged, this, showModified);
-    connect(m_editing, &TextEditing::nothingDone, this,
-            [this](const QString &message) { statusBar()->showMessage(message, MessageDuration); });
+    const auto showShortly = [this](const QString &text) { statusBar()->showMessage(text, MessageDuration); };
+    connect(m_editing, &TextEditing::nothingDone, this, showShortly);
+    connect(m_clipboard, &CellClipboard::refused, this, showShortly);
     connect(m_files, &FileActions::reported, m_problem, &MessageLabel::showMessage);
-    connect(m_files, &FileActions::runningChanged, m_watch, &FileWatch::setPaused);
+    connect(m_files, &FileActions::runningChanged, this, [this](bool isRunning) {
+        m_isBatchRunning = isRunning;
+        updateWatch();
+    });
     connect(m_watch, &FileWatch::noticed, this, &MainWindow::showNoticed);
     connect(m_folders, &FolderMenus::folderChosen, this, &MainWindow::openFolder);
-    connect(m_quickOpen, &QuickOpen::trackChosen, this, &MainWindow::selectTrack);
+    connect(m_quickOpen, &QuickOpen::trackChosen, this, [this](int id) { selectTracks({id}); });
 }
+
+/// What this program reads or moves itself is no news.
+void MainWindow::updateWatch() { m_watch->setPaused(m_isBatchRunning || m_reader.isReading()); }
 
 /// What stands in an open editor is the user's, whatever ends it: a cell's is otherwise only taken over when
 /// the focus goes.
@@ -174,6 +185,56 @@ void MainWindow::openFolder(const QString &folder)
     m_model.clear();
     m_progress->show();
     m_reader.readFolder(m_folder);
+    updateWatch();
+}
+
+void MainWindow::open(const QStringList &files)
+{
+    const QFileInfo first(files.value(0));
+    if (first.isDir() || !first.exists()) {
+        m_filesToSelect.clear();
+        return openFolder(first.filePath());
+    }
+    m_filesToSelect = files;
+    const QString folder = first.absolutePath();
+    if (folder == m_folder && !m_reader.isReading())
+        selectFiles();
+    else
+        openFolder(folder);
+}
+
+/// The argument of a program and what is dropped may name a file in more ways than one.
+void MainWindow::selectFiles()
+{
+    QSet<QString> files;
+    for (const QString &file : std::exchange(m_filesToSelect, {}))
+        files.insert(QFileInfo(file).canonicalFilePath());
+    QList<int> ids;
+    for (const Track &track : m_model.tracks()) {
+        if (!files.isEmpty() && files.contains(QFileInfo(displayedPath(track.path)).canonicalFilePath()))
+            ids.append(track.id);
+    }
+    selectTracks(ids);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (std::ranges::any_of(event->mimeData()->urls(), &QUrl::isLocalFile))
+        event->setDropAction(Qt::CopyAction);
+    event->setAccepted(event->mimeData()->hasUrls());
+}
+
+void MainWindow::dropEvent(QDropEvent *event)
+{
+    QStringList files;
+    for (const QUrl &url : event->mimeData()->urls())
+        files.append(url.toLocalFile());
+    files.removeAll(QString());
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    if (!files.isEmpty()) // once the source has been answered, since a question may come
+        QMetaObject::invokeMethod(
+            this, [this, files] { open(files); }, Qt::QueuedConnection);
 }
 
 void MainWindow::chooseFolder()
@@ -199,15 +260,20 @@ bool MainWindow::save()
     return TrackSaving::save(&m_model, this);
 }
 
-/// The whole row, with the cursor in the title.
-void MainWindow::selectTrack(int trackId)
+/// The whole rows, with the cursor in the first one's title.
+void MainWindow::selectTracks(const QList<int> &trackIds)
 {
-    const int row = m_model.rowOfTrack(trackId);
-    if (row < 0)
+    QItemSelection rows;
+    QModelIndex title;
+    for (const int id : trackIds) {
+        const QModelIndex cell = m_model.index(m_model.rowOfTrack(id), int(TrackField::Title));
+        rows.select(cell, cell);
+        title = title.isValid() ? title : cell;
+    }
+    if (!title.isValid())
         return;
-    const QModelIndex title = m_model.index(row, int(TrackField::Title));
-    m_table->selectionModel()->setCurrentIndex(
-        title, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    m_table->selectionModel()->setCurrentIndex(title, QItemSelectionModel::NoUpdate);
+    m_table->selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     m_table->scrollTo(title, QAbstractItemView::PositionAtCenter);
     m_table->setFocus(Qt::OtherFocusReason);
 }
@@ -236,6 +302,10 @@ void MainWindow::finishReading(const QString &failure)
     if (header->sortIndicatorSection() >= 0)
         m_model.sort(header->sortIndicatorSection(), header->sortIndicatorOrder());
     m_find->actor().searchAgainSoon();
+    if (failure.isEmpty())
+        m_watch->setFolder(m_folder);
+    updateWatch();
+    selectFiles();
     showCounts();
     if (!m_hasOwnColumns)
         fitColumns();
@@ -251,12 +321,15 @@ void MainWindow::stopReading()
 {
     m_reader.cancel();
     finishReading({});
+    m_watch->setFolder({}); // those that are missing are no news
     m_problem->showMessage(tr("Reading was stopped: tracks are missing"), true);
 }
 
-void MainWindow::showNoticed(int changed, int gone)
+void MainWindow::showNoticed(int changed, int gone, int added)
 {
     QStringList texts;
+    if (added > 0)
+        texts.append(tr("%Ln new files", nullptr, added));
     if (changed > 0)
         texts.append(tr("%Ln files were changed by another program and read again", nullptr, changed));
     if (gone > 0)

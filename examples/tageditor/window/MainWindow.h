@@ -11,6 +11,7 @@
 
 #include <functional>
 
+class CellClipboard;
 class FileActions;
 class FileWatch;
 class Inspector;
@@ -37,6 +38,9 @@ public:
     /// Asks first where changed texts would be lost; the folder stays if the user wants to keep them.
     void openFolder(const QString &folder);
 
+    /// A folder, or the folder of \a files, which are selected then.
+    void open(const QStringList &files);
+
     /// The folder that was open last; empty when none was, or when it is not there any more.
     static QString lastFolder();
 
@@ -58,6 +62,8 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
     void makeMenus();
@@ -75,7 +81,7 @@ private:
     void commitTyped();
     void chooseFolder();
     bool askToDiscard();
-    void selectTrack(int trackId);
+    void selectTracks(const QList<int> &trackIds);
     void selectAroundCurrent(QItemSelectionModel::SelectionFlag extent);
     void showProgress(qsizetype read, qsizetype total);
     void showSkippedFolder(const QString &folder, const QString &reason);
@@ -85,9 +91,13 @@ private:
     void fitColumns();
     void restoreFromDefaults();
     void remember() const;
-    void showNoticed(int changed, int gone);
+    void showNoticed(int changed, int gone, int added);
+    void updateWatch();
+    void selectFiles();
 
     QString m_folder;
+    QStringList m_filesToSelect; ///< once they are read
+    bool m_isBatchRunning = false;
     bool m_hasOwnColumns = false; ///< as the user left them
     QString m_firstSkipped; ///< tells of the first folder within that could not be listed
     int m_skippedFolders = 0;
@@ -96,6 +106,7 @@ private:
     std::function<bool()> m_mayDiscard;
     QTableView *m_table;
     TextEditing *m_editing;
+    CellClipboard *m_clipboard;
     TrackFind *m_find;
     Inspector *m_inspector;
     FileActions *m_files;

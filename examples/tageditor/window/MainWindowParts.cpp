@@ -7,6 +7,7 @@
 #include <tageditor/inspector/Inspector.h>
 #include <tageditor/menus/FolderMenus.h>
 #include <tageditor/menus/TrackMenus.h>
+#include <tageditor/text/CellClipboard.h>
 #include <tageditor/text/TextEditing.h>
 #include <tageditor/tracks/TableColumns.h>
 #include <tageditor/window/MainWindow.h>
@@ -58,6 +59,8 @@ void MainWindow::makeMenus()
 
     QMenu *edit = menuBar()->addMenu(tr("&Edit"));
     m_editing->addUndoActions(edit);
+    edit->addSeparator();
+    m_clipboard->addActions(edit);
     edit->addSeparator();
     addSelectActions(edit);
     edit->addSeparator();
