@@ -19,10 +19,21 @@ inline std::filesystem::path path(const QString &name)
     return QString(folder() + u'/' + name).toStdString();
 }
 
+/// One file of each kind that the editor writes: samples, and the bare ones beside this header.
+inline QStringList ofAllKinds()
+{
+    QStringList names{QStringLiteral("Harbour/01 Track 12.mp3"), QStringLiteral("Nordwind/06 Gruesse.flac"),
+                      QStringLiteral("Minato/11 Yoru.ogg"), QStringLiteral("Track 7.m4a")};
+    for (const char *kind : {"opus", "wav", "aiff", "wv", "ape", "mpc", "wma"})
+        names.append(QStringLiteral("formats/a.") + QLatin1StringView(kind));
+    return names;
+}
+
 /// Copies the first \a size bytes of a sample, or all of it.
 inline bool copy(const QString &name, const QString &target, qint64 size = -1)
 {
-    QFile source(folder() + u'/' + name);
+    const bool isBare = name.startsWith(u"formats/");
+    QFile source((isBare ? QStringLiteral(ZEV_SOURCE_DIR "/tests/tageditor") : folder()) + u'/' + name);
     QFile copy(target);
     if (!source.open(QIODevice::ReadOnly) || !copy.open(QIODevice::WriteOnly))
         return false;

@@ -80,7 +80,7 @@ private Q_SLOTS:
     {
         const QString usual = u"%track% - %title%"_s;
         const std::tuple<QString, QString, QString, QByteArray> rows[] = {
-            {usual, u"7/12"_s, u"Été"_s, "07 - Été.mp3"},
+            {usual, u"7"_s, u"Été"_s, "07 - Été.mp3"},
             {usual, u"101"_s, u"AC/DC"_s, "101 - AC-DC.mp3"},
             {usual, {}, u"-x-"_s, "x.mp3"},
             {usual, u"7"_s, {}, "07.mp3"},

@@ -272,6 +272,10 @@ private Q_SLOTS:
         shown.select(0, TrackField::Title);
         QTRY_COMPARE(title->stringValue(), u"Track 12"_s);
         const QString note = comment->toPlainText();
+        title->setFocus();
+        QVERIFY(title->textCursor().hasSelection());
+        QTest::keyClick(title, Qt::Key_Tab);
+        QVERIFY(!title->textCursor().hasSelection());
         for (QWidget *field : QWidgetList{title, comment}) {
             field->setFocus();
             QTest::keyClicks(field, u"x"_s);

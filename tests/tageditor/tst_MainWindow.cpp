@@ -4,6 +4,8 @@
 #include "Shown.h"
 
 #include <tageditor/inspector/Inspector.h>
+#include <tageditor/tracks/TrackInfo.h>
+#include <tageditor/window/FilterField.h>
 #include <tageditor/window/ProgressView.h>
 
 #include <ZEVGlobalUtils/Transforms/Formatters/FileSizeTransformer.h>
@@ -69,6 +71,43 @@ private Q_SLOTS:
         QCOMPARE(firstYear(), u"1998"_s); // as it was read
     }
 
+    void tracksAreFilteredAsOneTypes()
+    {
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(Samples::folder()));
+        const TrackTableModel &tracks = shown.window.tracks();
+        auto *filter = shown.window.findChild<FilterField *>();
+        const auto names = [&] {
+            QStringList files;
+            for (int row = 0; row < tracks.rowCount(); ++row)
+                files.append(tracks.track(row).text(TrackField::FileName).left(2));
+            return files.join(u' ');
+        };
+        shown.select(1, TrackField::Year);
+        const_cast<TrackTableModel &>(tracks).setData(tracks.index(3, 1), u"hidden"_s, Qt::EditRole);
+        QTest::keyClick(&shown.window, Qt::Key_L, Qt::ControlModifier);
+        QTest::keyClicks(filter, u"hrblig 1998"_s); // an abbreviation, and a text as it stands
+        QCOMPARE(names(), u"01 02"_s);
+        QCOMPARE(shown.status(), u"2 of 16 tracks|"_s);
+        QVERIFY(shown.window.isWindowModified());
+        QCOMPARE(shown.window.table().selectionModel()->selectedIndexes(),
+                 {tracks.index(1, int(TrackField::Year))});
+        QTest::keyClick(&shown.window.table(), Qt::Key_Z,
+                        Qt::ControlModifier); // of a track that is not shown
+        QVERIFY(!shown.window.isWindowModified());
+        shown.window.table().sortByColumn(TrackFieldCount + int(TrackFact::Size), Qt::DescendingOrder);
+        QVERIFY(tracks.track(0).fileSize > tracks.track(1).fileSize);
+        QTest::keyClick(filter, Qt::Key_Escape);
+        QCOMPARE(tracks.rowCount(), 16);
+        for (int row = 1; row < 16; ++row) // not by the texts: "994 bytes" are less than "3 KB"
+            QVERIFY(tracks.track(row - 1).fileSize >= tracks.track(row).fileSize);
+        shown.find(u"boat"_s);
+        shown.action(u"Only Tracks"_s)->trigger();
+        QCOMPARE(names(), u"02"_s);
+        shown.action(u"Only Tracks"_s)->trigger();
+        QCOMPARE(tracks.rowCount(), 16);
+    }
+
     void aFolderThatIsNotThereIsTold()
     {
         Shown shown;
@@ -115,7 +154,8 @@ private Q_SLOTS:
         QVERIFY(shown.visible && shown.open(folder.path()));
         QCOMPARE(shown.status(), u"2 tracks, 1 unreadable|"_s);
         const QModelIndex title = shown.window.table().model()->index(0, int(TrackField::Title));
-        QCOMPARE(title.data().toString(), u"Empty file"_s);
+        QCOMPARE(title.data().toString(), QString());
+        QCOMPARE(title.data(TrackTableModel::ErrorRole).toString(), u"Empty file"_s);
         QVERIFY(title.data(Qt::ToolTipRole).toString().contains(u"&lt;b&gt;.ogg"));
     }
 

@@ -51,7 +51,9 @@ private Q_SLOTS:
         const Track track = TagReader::read(Samples::path(file));
         QCOMPARE(track.error, QString());
         QCOMPARE(track.fileSize, QFileInfo(Samples::folder() + u'/' + file).size());
-        QTEST(QStringList(track.fields.begin(), track.fields.end()).join(u'|'), "fields");
+        QTEST(
+            QStringList(track.fields.begin(), track.fields.begin() + int(TrackField::AlbumArtist)).join(u'|'),
+            "fields");
     }
 
     void whatCannotBeReadSaysWhy_data()

@@ -16,11 +16,14 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTableView>
+#include <QToolButton>
 #include <QUndoStack>
 #include <QVBoxLayout>
+#include <QWidgetAction>
 
 using namespace Qt::StringLiterals;
 
@@ -35,6 +38,9 @@ QSpinBox *limitBox(int most, int value, const QString &suffix)
     box->setSingleStep(100);
     return box;
 }
+
+/// What height is left belongs to the tags.
+constexpr int MostLines = 18;
 
 /// Most tracks of a folder share their artwork: equal bytes are kept once.
 QByteArray shared(const QByteArray &bytes, QSet<QByteArray> &known) { return *known.insert(bytes); }
@@ -59,7 +65,7 @@ ArtworkDock::ArtworkDock(TrackTableModel *model, QTableView *table, QUndoStack *
     rows->addWidget(m_well, 1);
     rows->addWidget(m_description);
     rows->addWidget(makeButtons());
-    rows->addWidget(makeLimit());
+    content->setMaximumHeight(content->fontMetrics().height() * MostLines);
     setWidget(content);
     connect(m_selected, &SelectedArtwork::changed, this, &ArtworkDock::showArtwork);
     connect(m_well, &ZEVDragImageView::importWasRefused, m_description,
@@ -76,18 +82,34 @@ QWidget *ArtworkDock::makeButtons()
     m_browse = new QPushButton(tr("&Browse…"));
     m_remove = new QPushButton(tr("Re&move"));
     m_remove->setObjectName(u"remove"_s);
-    row->addWidget(m_browse);
-    row->addWidget(m_remove);
+    row->addWidget(m_browse, 1);
+    row->addWidget(m_remove, 1);
+    row->addWidget(makeLimitButton());
     connect(m_browse, &QPushButton::clicked, m_well, &ZEVDragImageView::browse);
     connect(m_remove, &QPushButton::clicked, this, [this] { changeArtwork({}); }); // mixed artwork, too
     return buttons;
+}
+
+/// Out of the way until somebody wants it.
+QWidget *ArtworkDock::makeLimitButton()
+{
+    auto *const menu = new QMenu(this);
+    auto *const action = new QWidgetAction(menu);
+    action->setDefaultWidget(makeLimit());
+    menu->addAction(action);
+    auto *const button = new QToolButton;
+    button->setText(u"…"_s);
+    button->setToolTip(tr("Limit new artwork"));
+    button->setAccessibleName(button->toolTip());
+    button->setPopupMode(QToolButton::InstantPopup);
+    button->setMenu(menu);
+    return button;
 }
 
 QWidget *ArtworkDock::makeLimit()
 {
     auto *const limit = new QWidget;
     auto *const form = new QFormLayout(limit);
-    form->setContentsMargins(0, 0, 0, 0);
     m_isLimited = new QCheckBox(tr("Limit new art&work"));
     m_pixels = limitBox(10000, 1000, tr(" px"));
     m_kilobytes = limitBox(100000, 500, tr(" kB"));

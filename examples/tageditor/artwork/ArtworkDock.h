@@ -27,6 +27,7 @@ public:
 
 private:
     QWidget *makeButtons();
+    QWidget *makeLimitButton();
     QWidget *makeLimit();
     void updateLimit();
     void showArtwork();

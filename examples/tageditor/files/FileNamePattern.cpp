@@ -14,20 +14,23 @@ namespace {
 constexpr qsizetype LongestName = 255; ///< bytes
 
 constexpr std::pair<QStringView, TrackField> Fields[]{
-    {u"track", TrackField::Number}, {u"title", TrackField::Title}, {u"artist", TrackField::Artist},
-    {u"album", TrackField::Album},  {u"year", TrackField::Year},   {u"genre", TrackField::Genre},
+    {u"track", TrackField::Number},
+    {u"title", TrackField::Title},
+    {u"artist", TrackField::Artist},
+    {u"album", TrackField::Album},
+    {u"year", TrackField::Year},
+    {u"genre", TrackField::Genre},
+    {u"albumartist", TrackField::AlbumArtist},
+    {u"composer", TrackField::Composer},
+    {u"tracktotal", TrackField::TrackTotal},
+    {u"disc", TrackField::Disc},
+    {u"disctotal", TrackField::DiscTotal},
 };
-
-/// Of "7/12" the 7.
-QString twoDigits(const QString &number)
-{
-    return number.section(u'/', 0, 0).trimmed().rightJustified(2, u'0');
-}
 
 QString valueOf(TrackField field, const Track &track)
 {
     const QString text = TagValues::joined(track.text(field)).simplified();
-    return field == TrackField::Number && !text.isEmpty() ? twoDigits(text) : text;
+    return field == TrackField::Number && !text.isEmpty() ? text.rightJustified(2, u'0') : text;
 }
 
 /// Only what a separator begins or ends with, so that "-" in the midst of a name stays.

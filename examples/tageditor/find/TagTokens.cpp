@@ -13,8 +13,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The names of the fields in patterns and archives, whatever the user's language.
-constexpr std::array<QStringView, TrackFieldCount> KeyPaths{u"file", u"title", u"artist", u"album",
-                                                            u"year", u"track", u"genre",  u"comment"};
+constexpr std::array<QStringView, TrackFieldCount> KeyPaths{
+    u"file",    u"title",       u"artist",   u"album",      u"year", u"track",     u"genre",
+    u"comment", u"albumartist", u"composer", u"tracktotal", u"disc", u"disctotal",
+};
 
 constexpr QStringView NextValueKeyPath = u"value";
 
@@ -78,11 +80,9 @@ QVariantList TagTokens::pattern(const QString &text)
     return pattern;
 }
 
-/// Of "7/12" the 7: the number of all tracks belongs to no name.
 QString TagTokens::textOf(TrackField field, const Track &track)
 {
-    const QString text = TagValues::joined(track.text(field));
-    return field == TrackField::Number ? text.section(u'/', 0, 0) : text;
+    return TagValues::joined(track.text(field));
 }
 
 /// A tag that is taken over whole keeps its values.

@@ -5,7 +5,8 @@
 
 #include <ZEVGlobalUtils/FindPanel/FinderClients/ZEVMatchHighlightDelegate.h>
 
-/// Draws the cells of the table, and lets their texts be edited with a mark that shows where a value ends.
+/// Draws the cells of the table, and lets their texts be edited with a mark that shows where a value ends. The
+/// rows with a selected cell, whose tags the inspector shows, are tinted; where no tags could be read stands why.
 class TrackDelegate : public ZEVMatchHighlightDelegate {
     Q_OBJECT
 
@@ -14,4 +15,7 @@ public:
 
     void setEditorData(QWidget *editor, const QModelIndex &index) const override;
     void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
 };

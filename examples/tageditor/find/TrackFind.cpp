@@ -16,6 +16,8 @@
 
 #include <QTableView>
 
+#include <numeric>
+
 TrackFind::TrackFind(TrackTableModel *model, QTableView *table, TextEditing *editing)
     : ZEVFindPlace(static_cast<QWidget *>(table), std::make_unique<FindBar>())
     , m_model(model)
@@ -36,7 +38,9 @@ TrackFind::~TrackFind() = default;
 void TrackFind::searchColumnsOfScope()
 {
     const auto *scope = dynamic_cast<const FieldScope *>(finder().lastRequest().query.scope().get());
-    m_client->setColumns(scope ? scope->columns() : QList<int>());
+    QList<int> fields(TrackFieldCount);
+    std::iota(fields.begin(), fields.end(), 0);
+    m_client->setColumns(scope && !scope->columns().isEmpty() ? scope->columns() : fields);
 }
 
 QList<TrackFind::Match> TrackFind::matches()

@@ -18,7 +18,7 @@
 #include <ZEVGlobalUtils/Transforms/Formatters/ZEVShortDateFormatter.h>
 
 #include <QApplication>
-#include <QFormLayout>
+#include <QGridLayout>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QLabel>
@@ -27,8 +27,14 @@
 
 namespace {
 
-constexpr TrackField LineFields[]{TrackField::Title, TrackField::Artist, TrackField::Album,
-                                  TrackField::Year,  TrackField::Number, TrackField::Genre};
+/// A line each; a number has its total beside it.
+constexpr TrackField LineFields[]{
+    TrackField::Title, TrackField::Artist, TrackField::Album,  TrackField::AlbumArtist, TrackField::Composer,
+    TrackField::Genre, TrackField::Year,   TrackField::Number, TrackField::Disc,
+};
+
+/// The least that is to be seen of a comment, in lines.
+constexpr int CommentLines = 3;
 
 constexpr qint64 NanosecondsPerMillisecond = 1'000'000;
 
@@ -71,14 +77,16 @@ Inspector::~Inspector() = default;
 void Inspector::layOut()
 {
     auto *rows = new QVBoxLayout(this);
-    auto *form = new QFormLayout;
-    addFields(form);
+    auto *grid = new QGridLayout;
+    addFields(grid);
+    rows->setSpacing(grid->verticalSpacing());
     auto *label = new QLabel(tr("&Comment:"));
     label->setBuddy(m_comment);
     m_comment->setAccessibleName(TrackTableModel::titleForField(TrackField::Comment));
     m_comment->setTabChangesFocus(true);
     m_comment->installEventFilter(this);
-    rows->addLayout(form);
+    m_comment->setMinimumHeight(CommentLines * fontMetrics().lineSpacing());
+    rows->addLayout(grid);
     rows->addWidget(label);
     rows->addWidget(m_commentFind, 1);
     m_files->setTextFormat(Qt::PlainText);
@@ -102,19 +110,62 @@ bool Inspector::eventFilter(QObject *watched, QEvent *event)
     return QWidget::eventFilter(watched, event);
 }
 
-void Inspector::addFields(QFormLayout *form)
+/// Labels with letters for the keyboard that no menu has.
+QString Inspector::label(TrackField field)
+{
+    switch (field) {
+    case TrackField::Title:
+        return tr("T&itle:");
+    case TrackField::Artist:
+        return tr("&Artist:");
+    case TrackField::Album:
+        return tr("Al&bum:");
+    case TrackField::AlbumArtist:
+        return tr("Album a&rtist:");
+    case TrackField::Composer:
+        return tr("Com&poser:");
+    case TrackField::Genre:
+        return tr("&Genre:");
+    case TrackField::Year:
+        return tr("&Year:");
+    case TrackField::Number:
+        return tr("Trac&k:");
+    case TrackField::Disc:
+        return tr("&Disc:");
+    default:
+        return {};
+    }
+}
+
+void Inspector::addFields(QGridLayout *grid)
 {
     for (const TrackField field : LineFields) {
-        auto *editor = new TagField(m_tokens);
-        const QString title = TrackTableModel::titleForField(field);
-        editor->setAccessibleName(title);
-        form->addRow(tr("%1:", "a tag's name").arg(title), editor);
-        m_fields.push_back({field, editor, {}});
-        const size_t row = m_fields.size() - 1;
-        connect(editor, &TagField::editingFinished, this, [this, row] { commitField(m_fields.at(row)); });
-        connect(editor, &TagField::cancelled, this, [this, row] { putBack(m_fields.at(row)); });
-        connect(editor, &TagField::emptied, this, [this, field] { emptyMixed(field); });
+        const int row = grid->rowCount();
+        auto *label = new QLabel(Inspector::label(field));
+        TagField *editor = addField(field);
+        label->setBuddy(editor);
+        grid->addWidget(label, row, 0);
+        const std::optional<TrackField> total = totalOf(field);
+        grid->addWidget(editor, row, 1, 1, total ? 1 : 3);
+        if (!total)
+            continue;
+        grid->addWidget(new QLabel(tr("of", "between a track's number and the number of tracks")), row, 2);
+        grid->addWidget(addField(*total), row, 3);
     }
+    grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(3, 1);
+}
+
+TagField *Inspector::addField(TrackField field)
+{
+    auto *editor = new TagField(m_tokens);
+    editor->setAccessibleName(TrackTableModel::titleForField(field));
+    const size_t row = m_fields.size();
+    m_fields.push_back({field, editor, {}});
+    connect(editor, &TagField::editingFinished, this, [this, row] { commitField(m_fields.at(row)); });
+    connect(editor, &TagField::cancelled, this, [this, row] { putBack(m_fields.at(row)); });
+    connect(editor, &TagField::emptied, this, [this, field] { emptyMixed(field); });
+    return editor;
 }
 
 /// Unreadable tracks have no tags to show.

@@ -12,7 +12,7 @@
 #include <vector>
 
 class QPlainTextEdit;
-class QFormLayout;
+class QGridLayout;
 class QLabel;
 class QItemSelectionModel;
 class TagField;
@@ -46,7 +46,9 @@ private:
         QVariantList shown; ///< what the tracks hold
     };
 
-    void addFields(QFormLayout *form);
+    static QString label(TrackField field);
+    void addFields(QGridLayout *grid);
+    TagField *addField(TrackField field);
     void layOut();
     void showTracks();
     std::optional<QString> commonText(TrackField field) const;

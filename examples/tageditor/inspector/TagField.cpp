@@ -51,6 +51,10 @@ void TagField::keyPressEvent(QKeyEvent *event)
 void TagField::focusOutEvent(QFocusEvent *event)
 {
     ZEVTokenField::focusOutEvent(event);
-    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::MenuBarFocusReason)
+    const bool comesBack = event->reason() == Qt::PopupFocusReason
+        || event->reason() == Qt::MenuBarFocusReason || event->reason() == Qt::ActiveWindowFocusReason;
+    if (!comesBack) // one selection is enough for a window
+        moveCursor(QTextCursor::Start);
+    if (!comesBack || event->reason() == Qt::ActiveWindowFocusReason)
         Q_EMIT editingFinished();
 }

@@ -3,6 +3,8 @@
 
 #include <tageditor/tracks/TableColumns.h>
 
+#include <tageditor/tracks/Track.h>
+
 #include <ZEVGlobalUtils/Platform/Values/ZEVUserDefaults.h>
 
 #include <QHeaderView>
@@ -14,6 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString StateKey = u"TrackColumns"_s;
+const QString WidthsKey = u"TrackColumnsHaveOwnWidths"_s;
 
 /// The last column that is shown stays: a table without any could not be told what to show again.
 void fillMenu(QMenu *menu, QHeaderView *header)
@@ -29,6 +32,12 @@ void fillMenu(QMenu *menu, QHeaderView *header)
         action->setChecked(!header->isSectionHidden(section));
         action->setEnabled(!action->isChecked() || shown > 1);
     }
+}
+
+void arrangeFirst(QTableView *table)
+{
+    for (int column = int(TrackField::AlbumArtist); column < table->model()->columnCount(); ++column)
+        table->hideColumn(column);
 }
 
 } // namespace
@@ -49,14 +58,28 @@ bool TableColumns::restore(QTableView *table)
 {
     QHeaderView *header = table->horizontalHeader();
     const QByteArray state = ZEVUserDefaults::standardUserDefaults()->objectForKey(StateKey).toByteArray();
-    if (state.isEmpty() || !header->restoreState(state))
+    if (state.isEmpty() || !header->restoreState(state)) {
+        arrangeFirst(table);
         return false;
+    }
     if (header->hiddenSectionCount() == header->count())
         header->showSection(0);
-    return true;
+    return ZEVUserDefaults::standardUserDefaults()->objectForKey(WidthsKey).toBool();
 }
 
-void TableColumns::remember(const QTableView *table)
+void TableColumns::remember(const QTableView *table, bool hasOwnWidths)
 {
-    ZEVUserDefaults::standardUserDefaults()->setObject(table->horizontalHeader()->saveState(), StateKey);
+    ZEVUserDefaults *defaults = ZEVUserDefaults::standardUserDefaults();
+    defaults->setObject(table->horizontalHeader()->saveState(), StateKey);
+    defaults->setObject(hasOwnWidths, WidthsKey);
+}
+
+int TableColumns::lastShown(const QTableView *table)
+{
+    const QHeaderView *header = table->horizontalHeader();
+    for (int place = header->count(); place-- > 0;) {
+        if (const int column = header->logicalIndex(place); !header->isSectionHidden(column))
+            return column;
+    }
+    return -1;
 }

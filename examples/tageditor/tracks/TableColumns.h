@@ -13,8 +13,11 @@ namespace TableColumns {
 /// Makes \a menu offer the columns whenever it opens, and the header pop it up.
 void setMenu(QTableView *table, QMenu *menu);
 
-/// False when nothing that fits is remembered.
+/// Arranges the columns as they were left, or as they are at first. False when no widths of the user's are remembered.
 bool restore(QTableView *table);
-void remember(const QTableView *table);
+void remember(const QTableView *table, bool hasOwnWidths);
+
+/// The column that takes what room is left; -1 where none is shown.
+int lastShown(const QTableView *table);
 
 } // namespace TableColumns

@@ -3,6 +3,8 @@
 
 #include <tageditor/tracks/TableSelection.h>
 
+#include <tageditor/tracks/TrackInfo.h>
+
 #include <QItemSelectionModel>
 
 #include <algorithm>
@@ -12,7 +14,7 @@ namespace {
 /// Which columns of each row are selected, a bit each: ranges may overlap, and hold many thousands of rows.
 std::vector<quint32> selectedColumns(const QItemSelectionModel &selection)
 {
-    static_assert(TrackFieldCount <= 32);
+    static_assert(TrackFieldCount + TrackFactCount <= 32);
     std::vector<quint32> columns(size_t(selection.model()->rowCount()));
     for (const QItemSelectionRange &range : selection.selection()) {
         for (int column = range.left(); column <= range.right(); ++column) {

@@ -16,6 +16,8 @@
 #include <tpropertymap.h>
 #include <xiphcomment.h>
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 using namespace std::string_view_literals;
 
@@ -41,42 +43,28 @@ bool hasVorbisComments(const TagLib::File &file)
     return dynamic_cast<const TagLib::FLAC::File *>(&file) || dynamic_cast<const TagLib::Ogg::File *>(&file);
 }
 
-const char *key(TrackField field)
-{
-    switch (field) {
-    case TrackField::Title:
-        return "TITLE";
-    case TrackField::Artist:
-        return "ARTIST";
-    case TrackField::Album:
-        return "ALBUM";
-    case TrackField::Year:
-        return "DATE";
-    case TrackField::Number:
-        return "TRACKNUMBER";
-    case TrackField::Genre:
-        return "GENRE";
-    case TrackField::Comment:
-        return "COMMENT";
-    case TrackField::FileName:
-        break; // no text of a tag
-    }
-    return nullptr;
-}
+/// The names that the map of properties has for a field, the usual one first. Of a total, every kind of tag may
+/// have the other one; of the rest, Vorbis comments only.
+struct Keys {
+    const char *usual = nullptr;
+    const char *other = nullptr;
+};
 
-const char *vorbisAlias(TrackField field)
-{
-    switch (field) {
-    case TrackField::Year:
-        return "YEAR";
-    case TrackField::Number:
-        return "TRACKNUM";
-    case TrackField::Comment:
-        return "DESCRIPTION";
-    default:
-        return nullptr;
-    }
-}
+constexpr std::array<Keys, TrackFieldCount> KeysOfFields{{
+    {}, // the file's name is no tag
+    {"TITLE"},
+    {"ARTIST"},
+    {"ALBUM"},
+    {"DATE", "YEAR"},
+    {"TRACKNUMBER", "TRACKNUM"},
+    {"GENRE"},
+    {"COMMENT", "DESCRIPTION"},
+    {"ALBUMARTIST", "ALBUM ARTIST"},
+    {"COMPOSER"},
+    {"TRACKTOTAL", "TOTALTRACKS"},
+    {"DISCNUMBER"},
+    {"DISCTOTAL", "TOTALDISCS"},
+}};
 
 /// What the map of properties has no values for may still stand in another tag of the file.
 QString plainText(const TagLib::Tag &tag, TrackField field)
@@ -96,29 +84,45 @@ QString plainText(const TagLib::Tag &tag, TrackField field)
         return text(tag.genre());
     case TrackField::Comment:
         return text(tag.comment());
-    case TrackField::FileName:
-        break;
+    default:
+        return {};
     }
-    return {};
 }
+
+bool isTotal(TrackField field) { return field == TrackField::TrackTotal || field == TrackField::DiscTotal; }
 
 /// The key under which the file has the field; where both are there, the comment's other name comes first.
 const char *keyInUse(const TagLib::File &file, const TagLib::PropertyMap &properties, TrackField field)
 {
-    const char *alias = hasVorbisComments(file) ? vorbisAlias(field) : nullptr;
-    const bool isAlias = alias && properties.contains(alias)
-        && (field == TrackField::Comment || !properties.contains(key(field)));
-    return isAlias ? alias : key(field);
+    const auto &[usual, other] = KeysOfFields.at(size_t(field));
+    const bool mayBeOther =
+        other && (isTotal(field) || hasVorbisComments(file)) && properties.contains(other);
+    return mayBeOther && (field == TrackField::Comment || !properties.contains(usual)) ? other : usual;
 }
 
-QString readField(const TagLib::File &file, const TagLib::PropertyMap &properties, TrackField field)
+/// As the tag has it, where "7/12" may stand for a number and its total.
+QString wholeText(const TagLib::File &file, const TagLib::PropertyMap &properties, TrackField field)
 {
     const char *used = keyInUse(file, properties, field);
     if (!properties.contains(used))
         return plainText(*file.tag(), field);
     const bool mayRepeat = field == TrackField::Comment;
-    const QString found = text(mayRepeat ? CommentFrames::distinct(properties[used]) : properties[used]);
-    return field == TrackField::Number && found == u"0"_s ? QString() : found;
+    return text(mayRepeat ? CommentFrames::distinct(properties[used]) : properties[used]);
+}
+
+QString readField(const TagLib::File &file, const TagLib::PropertyMap &properties, TrackField field)
+{
+    QString found = wholeText(file, properties, field);
+    if (totalOf(field))
+        found = found.section(u'/', 0, 0);
+    return isNumber(field) && found == u"0"_s ? QString() : found;
+}
+
+/// Where the total stands behind its number.
+QString readTotal(const TagLib::File &file, const TagLib::PropertyMap &properties, TrackField number)
+{
+    const QString total = readField(file, properties, *totalOf(number));
+    return total.isEmpty() ? wholeText(file, properties, number).section(u'/', 1) : total;
 }
 
 /// Only what differs is touched: a tag leaves alone what its map has unchanged.
@@ -171,6 +175,36 @@ bool isDescribedComment(const TagLib::File &file, const TagLib::PropertyMap &pro
         && !file.tag()->comment().isEmpty();
 }
 
+/// A number and its total may be one text, of which the other part stays.
+QStringList withOtherPart(const TagLib::File &file, const TagLib::PropertyMap &properties, TrackField number,
+                          const QStringList &values)
+{
+    const QString total = wholeText(file, properties, number).section(u'/', 1);
+    return total.isEmpty() ? values : QStringList(values.value(0) + u'/' + total);
+}
+
+TagLib::StringList tagTexts(const QStringList &values)
+{
+    TagLib::StringList list;
+    for (const QString &value : values)
+        list.append(tagText(value));
+    return values == QStringList(QString()) ? TagLib::StringList() : list;
+}
+
+/// Into its number's text, where it has no place of its own.
+bool writeTotal(TagLib::File &file, const TagLib::PropertyMap &properties, TrackField number,
+                const QString &total)
+{
+    const QString whole = wholeText(file, properties, number);
+    const char *own = keyInUse(file, properties, *totalOf(number));
+    const bool isApart = properties.contains(own) || (hasVorbisComments(file) && !whole.contains(u'/'));
+    if (isApart)
+        return false;
+    const QString text = whole.section(u'/', 0, 0) + (total.isEmpty() ? QString() : u'/' + total);
+    replaceIn(file, keyInUse(file, properties, number), tagTexts({text}));
+    return true;
+}
+
 } // namespace
 
 void TagFields::read(const TagLib::File &file, Track &track)
@@ -178,18 +212,21 @@ void TagFields::read(const TagLib::File &file, Track &track)
     const TagLib::PropertyMap properties = file.properties();
     for (int field = int(TrackField::Title); field < TrackFieldCount; ++field)
         track.text(TrackField(field)) = readField(file, properties, TrackField(field));
+    for (const TrackField number : {TrackField::Number, TrackField::Disc})
+        track.text(*totalOf(number)) = readTotal(file, properties, number);
 }
 
 void TagFields::write(TagLib::File &file, TrackField field, const QStringList &values)
 {
     if (field == TrackField::FileName)
         return;
-    TagLib::StringList list;
-    if (values != QStringList(QString())) {
-        for (const QString &value : values)
-            list.append(tagText(value));
-    }
     const TagLib::PropertyMap properties = file.properties();
+    for (const TrackField number : {TrackField::Number, TrackField::Disc}) {
+        if (field == totalOf(number) && writeTotal(file, properties, number, values.value(0)))
+            return;
+    }
+    const TagLib::StringList list =
+        tagTexts(totalOf(field) ? withOtherPart(file, properties, field, values) : values);
     if (field == TrackField::Comment && list.size() < 2 && isDescribedComment(file, properties))
         return file.tag()->setComment(list.toString());
     replaceIn(file, keyInUse(file, properties, field), list);

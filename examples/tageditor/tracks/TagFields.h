@@ -14,8 +14,8 @@ class File;
 /// The fields of a track in the tags of an open file, which has such. Any thread.
 namespace TagFields {
 
-/// The texts of all fields of tags, each with all its values and as the file has it: a date stays a date, and
-/// "7/12" is what it says.
+/// The texts of all fields of tags, each with all its values and as the file has it: a date stays a date. Of
+/// "7/12" the total is a field of its own.
 void read(const TagLib::File &file, Track &track);
 
 /// Changes the field's values in every kind of tag that the file has. What a tag cannot hold shows when it is

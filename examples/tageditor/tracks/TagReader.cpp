@@ -5,6 +5,8 @@
 
 #include <tageditor/tracks/TagFields.h>
 
+#include <QSet>
+
 #include <fileref.h>
 #include <tag.h>
 
@@ -29,8 +31,11 @@ QString systemError(int code) { return QString::fromStdString(std::generic_categ
 
 bool TagReader::isAudioFileName(const std::filesystem::path &path)
 {
-    const QString extension = displayedPath(path.extension()).toLower();
-    return extension == u".mp3" || extension == u".flac" || extension == u".ogg" || extension == u".m4a";
+    static const QSet<QString> extensions{
+        u".mp3"_s, u".flac"_s, u".ogg"_s,  u".oga"_s,  u".opus"_s, u".spx"_s, u".m4a"_s, u".m4b"_s, u".mp4"_s,
+        u".wav"_s, u".aif"_s,  u".aiff"_s, u".aifc"_s, u".wv"_s,   u".ape"_s, u".mpc"_s, u".wma"_s, u".asf"_s,
+    };
+    return extensions.contains(displayedPath(path.extension()).toLower());
 }
 
 Track TagReader::read(const std::filesystem::path &path)
@@ -75,5 +80,7 @@ QString TagReader::readTags(Track &track)
     if (!file || !hasAudio(*file))
         return tr("No audio found: damaged or cut off");
     TagFields::read(*file, track);
+    const TagLib::AudioProperties &audio = *file->audioProperties();
+    track.audio = {audio.lengthInMilliseconds(), audio.bitrate(), audio.sampleRate(), audio.channels()};
     return {};
 }

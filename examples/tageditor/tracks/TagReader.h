@@ -7,14 +7,15 @@
 
 #include <QCoreApplication>
 
-/// Reads tags of MP3, FLAC, Ogg Vorbis and MPEG-4 audio files. Any thread.
+/// Reads tags of MP3, FLAC, Ogg (Vorbis, Opus, Speex), MPEG-4, WAV, AIFF, WavPack, Monkey's Audio, Musepack and
+/// Windows Media audio files. Any thread.
 class TagReader {
     Q_DECLARE_TR_FUNCTIONS(TagReader)
 
 public:
     TagReader() = delete;
 
-    /// Whether the name of \a path says that it is one of the four kinds.
+    /// Whether the name of \a path says that it is one of these kinds.
     static bool isAudioFileName(const std::filesystem::path &path);
 
     /// Every field of the file, or its name and the reason why there is no more.

@@ -44,10 +44,9 @@ bool save(TagLib::File &file)
 /// Some tags have numbers where others have texts: there "07" is 7.
 bool isHeld(TrackField field, const QString &wanted, const QString &written)
 {
-    bool isNumber = false;
-    const uint number = wanted.toUInt(&isNumber);
-    const bool hasNumber = field == TrackField::Year || field == TrackField::Number;
-    return written == wanted || (hasNumber && isNumber && written == QString::number(number));
+    bool hasNumber = false;
+    const uint number = wanted.toUInt(&hasNumber);
+    return written == wanted || (isNumber(field) && hasNumber && written == QString::number(number));
 }
 
 /// A folder for the new file, gone with everything that is still in it.

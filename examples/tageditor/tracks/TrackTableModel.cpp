@@ -5,47 +5,39 @@
 
 #include <tageditor/tracks/NaturalOrder.h>
 #include <tageditor/tracks/TagValues.h>
-
-#include <QFont>
-#include <QTextDocument>
+#include <tageditor/tracks/TrackInfo.h>
 
 #include <algorithm>
+#include <numeric>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The reason stands where the title would be.
-QString shownText(const Track &track, TrackField field)
-{
-    return field == TrackField::Title && !track.isReadable() ? track.error : track.text(field);
-}
-
-QString toolTip(const Track &track, TrackField field)
-{
-    const QString path = displayedPath(track.path);
-    if (!track.isReadable())
-        return path + u'\n' + track.error;
-    return field == TrackField::FileName ? path : track.text(field);
-}
-
-/// Tool tips guess at rich text, and what stands in a file's name or tags must never be taken for that.
-QString plainToolTip(const QString &text)
-{
-    const QString lines = QString(text).replace(TagValues::Separator, u'\n');
-    return text.isEmpty() ? QString() : Qt::convertFromPlainText(lines, Qt::WhiteSpaceNormal);
-}
-
-bool isNumber(TrackField field) { return field == TrackField::Year || field == TrackField::Number; }
-
 /// Spaces around a number or date are nothing that was meant.
 QString asTaken(TrackField field, const QString &text) { return isNumber(field) ? text.trimmed() : text; }
 
-QFont boldFont()
+/// "7/12" is what is typed for the seventh of twelve.
+QList<TextChange> apart(const TextChange &change)
 {
-    QFont font;
-    font.setBold(true);
-    return font;
+    const std::optional<TrackField> total = totalOf(change.field);
+    const qsizetype slash = change.text.indexOf(u'/');
+    if (!total || slash < 0)
+        return {change};
+    return {{change.trackId, change.field, change.text.first(slash)},
+            {change.trackId, *total, change.text.sliced(slash + 1)}};
+}
+
+/// What is not known comes last, as empty texts do.
+std::vector<int> orderByNumber(const QList<Track> &tracks, TrackFact fact, Qt::SortOrder order)
+{
+    std::vector<int> places(size_t(tracks.size()));
+    std::iota(places.begin(), places.end(), 0);
+    std::ranges::stable_sort(places, {}, [&](int place) {
+        const qint64 number = TrackInfo::number(tracks.at(place), fact).value_or(0);
+        return std::pair(number == 0, order == Qt::AscendingOrder ? number : -number);
+    });
+    return places;
 }
 
 } // namespace
@@ -114,13 +106,16 @@ void TrackTableModel::setFilter(std::function<bool(const Track &)> filter)
 
 bool TrackTableModel::isEditable(const Track &track, TrackField field)
 {
-    return field != TrackField::FileName && track.isReadable();
+    return field != TrackField::FileName && isField(int(field)) && track.isReadable();
 }
 
 QList<TextChange> TrackTableModel::possibleChanges(const QList<TextChange> &changes) const
 {
     QList<TextChange> possible;
-    for (const auto &[id, field, wanted] : changes) {
+    QList<TextChange> all;
+    for (const TextChange &change : changes)
+        all += apart(change);
+    for (const auto &[id, field, wanted] : std::as_const(all)) {
         if (!hasTrack(id) || !isEditable(trackWithId(id), field))
             continue;
         const QString text = asTaken(field, wanted);
@@ -276,29 +271,6 @@ std::optional<QByteArray> TrackTableModel::changedArtwork(int trackId) const
     return found == m_artwork.cend() ? std::nullopt : std::optional(found->after);
 }
 
-QString TrackTableModel::titleForField(TrackField field)
-{
-    switch (field) {
-    case TrackField::FileName:
-        return tr("File Name");
-    case TrackField::Title:
-        return tr("Title");
-    case TrackField::Artist:
-        return tr("Artist");
-    case TrackField::Album:
-        return tr("Album");
-    case TrackField::Year:
-        return tr("Year");
-    case TrackField::Number:
-        return tr("Track");
-    case TrackField::Genre:
-        return tr("Genre");
-    case TrackField::Comment:
-        return tr("Comment");
-    }
-    return {};
-}
-
 int TrackTableModel::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : int(m_shown.size());
@@ -306,66 +278,29 @@ int TrackTableModel::rowCount(const QModelIndex &parent) const
 
 int TrackTableModel::columnCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : TrackFieldCount;
-}
-
-QVariant TrackTableModel::data(const QModelIndex &index, int role) const
-{
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
-        return {};
-    const Track &track = this->track(index.row());
-    const TrackField field{index.column()};
-    switch (role) {
-    case Qt::DisplayRole:
-        return shownText(track, field);
-    case Qt::EditRole:
-        return track.text(field);
-    case Qt::ToolTipRole:
-        return plainToolTip(toolTip(track, field));
-    case Qt::FontRole:
-        return isChanged(index.row(), field) ? boldFont() : QVariant();
-    case Qt::AccessibleDescriptionRole:
-        return isChanged(index.row(), field) ? tr("Changed, not saved") : QVariant();
-    case IsUnreadableRole:
-        return !track.isReadable();
-    default:
-        return {};
-    }
-}
-
-QVariant TrackTableModel::headerData(int section, Qt::Orientation orientation, int role) const
-{
-    if (orientation != Qt::Horizontal)
-        return QAbstractTableModel::headerData(section, orientation, role);
-    if (role == Qt::TextAlignmentRole)
-        return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
-    return role == Qt::DisplayRole ? titleForField(TrackField(section)) : QVariant();
-}
-
-Qt::ItemFlags TrackTableModel::flags(const QModelIndex &index) const
-{
-    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
-    const bool isEditable =
-        index.isValid() && this->isEditable(track(index.row()), TrackField(index.column()));
-    return isEditable ? flags | Qt::ItemIsEditable : flags;
-}
-
-bool TrackTableModel::setData(const QModelIndex &index, const QVariant &value, int role)
-{
-    if (role != Qt::EditRole || !flags(index).testFlag(Qt::ItemIsEditable))
-        return false;
-    Q_EMIT textEntered({track(index.row()).id, TrackField(index.column()), value.toString()});
-    return true;
+    return parent.isValid() ? 0 : TrackFieldCount + TrackFactCount;
 }
 
 void TrackTableModel::sort(int column, Qt::SortOrder order)
 {
-    const bool byPath = column < 0 || column >= TrackFieldCount;
-    QStringList texts;
-    for (const Track &track : std::as_const(m_tracks))
-        texts.append(byPath ? displayedPath(track.path) : track.text(TrackField(column)));
-    m_sorted = naturalOrder(texts, byPath ? Qt::AscendingOrder : order);
+    m_sorted = orderBy(column, order);
     rearrange();
+}
+
+std::vector<int> TrackTableModel::orderBy(int column, Qt::SortOrder order) const
+{
+    const TrackFact fact{column - TrackFieldCount};
+    const bool byPath = column < 0 || column >= columnCount();
+    if (!byPath && !isField(column) && TrackInfo::number({}, fact))
+        return orderByNumber(m_tracks, fact, order);
+    QStringList texts;
+    for (const Track &track : m_tracks) {
+        if (byPath)
+            texts.append(displayedPath(track.path));
+        else
+            texts.append(isField(column) ? track.text(TrackField(column)) : TrackInfo::text(track, fact));
+    }
+    return naturalOrder(texts, byPath ? Qt::AscendingOrder : order);
 }
 
 /// What has a row, and where, by the order and the filter.

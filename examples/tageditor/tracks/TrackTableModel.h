@@ -25,14 +25,15 @@ struct ArtworkChange {
     QByteArray after;
 };
 
-/// The tracks as a table: a row a track, a column a field. Rows are only ever added behind the others,
+/// The tracks as a table: a row a track, a column a field and, behind these, what else is known of it. Rows are only ever added behind the others,
 /// whatever the table was sorted by; sort() puts them in their places.
 class TrackTableModel : public QAbstractTableModel {
     Q_OBJECT
 
 public:
     enum Role {
-        IsUnreadableRole = Qt::UserRole, ///< bool: the row shows why its file could not be read
+        IsUnreadableRole = Qt::UserRole, ///< bool
+        ErrorRole, ///< why the row's file could not be read
     };
 
     using QAbstractTableModel::QAbstractTableModel;
@@ -95,6 +96,7 @@ public:
     void clear();
 
     static QString titleForField(TrackField field);
+    static constexpr bool isField(int column) { return column >= 0 && column < TrackFieldCount; }
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
@@ -105,7 +107,7 @@ public:
     /// Changes nothing itself, so that whatever is changed can be undone: see textEntered().
     bool setData(const QModelIndex &index, const QVariant &value, int role) override;
 
-    /// By a column's text or, for a \a column that is none, by path.
+    /// By a column's text or number or, for a \a column that is none, by path.
     void sort(int column, Qt::SortOrder order) override;
 
 Q_SIGNALS:
@@ -126,6 +128,7 @@ private:
     QString setText(Track &track, TrackField field, const QString &text);
     void forgetChanges(int trackId);
     void showRow(int trackId, const QList<int> &roles = {});
+    std::vector<int> orderBy(int column, Qt::SortOrder order) const;
     void arrange();
     void rearrange();
 

@@ -27,8 +27,8 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMessageBox>
-#include <QMimeData>
 #include <QProgressBar>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QStatusBar>
 #include <QStyle>
@@ -45,7 +45,7 @@ const QString StateKey = u"MainWindowState"_s;
 const QString FolderKey = u"LastFolder"_s;
 
 /// The widths of columns in average characters: what one begins with, and what its contents may make of it.
-constexpr std::array<int, TrackFieldCount> FirstWidths{24, 24, 22, 20, 8, 8, 14, 30};
+constexpr std::array FirstWidths{24, 24, 22, 20, 8, 8, 14, 30, 22, 20, 8};
 constexpr int NarrowestColumn = 6;
 constexpr int WidestColumn = 36;
 constexpr int ColumnPadding = 2;
@@ -71,6 +71,8 @@ MainWindow::MainWindow(QWidget *parent)
 {
     setAcceptDrops(true);
     setUpTable();
+    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, m_table->viewport(),
+            qOverload<>(&QWidget::update)); // of a row more is drawn than its selected cells
     m_editing = new TextEditing(&m_model, m_table);
     m_clipboard = new CellClipboard(&m_model, m_table, m_editing);
     m_find = new TrackFind(&m_model, m_table, m_editing);
@@ -113,9 +115,10 @@ void MainWindow::setUpTable()
     m_table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     m_table->horizontalHeader()->setSortIndicatorClearable(true);
     m_table->setSortingEnabled(true);
-    for (int column = 0; column < TrackFieldCount; ++column)
-        m_table->setColumnWidth(column,
-                                FirstWidths.at(size_t(column)) * m_table->fontMetrics().averageCharWidth());
+    for (int column = 0; column < m_model.columnCount(); ++column) {
+        const int characters = FirstWidths.at(std::min(size_t(column), FirstWidths.size() - 1));
+        m_table->setColumnWidth(column, characters * m_table->fontMetrics().averageCharWidth());
+    }
 }
 
 void MainWindow::setUpStatusBar()
@@ -188,55 +191,6 @@ void MainWindow::openFolder(const QString &folder)
     updateWatch();
 }
 
-void MainWindow::open(const QStringList &files)
-{
-    const QFileInfo first(files.value(0));
-    if (first.isDir() || !first.exists()) {
-        m_filesToSelect.clear();
-        return openFolder(first.filePath());
-    }
-    m_filesToSelect = files;
-    const QString folder = first.absolutePath();
-    if (folder == m_folder && !m_reader.isReading())
-        selectFiles();
-    else
-        openFolder(folder);
-}
-
-/// The argument of a program and what is dropped may name a file in more ways than one.
-void MainWindow::selectFiles()
-{
-    QSet<QString> files;
-    for (const QString &file : std::exchange(m_filesToSelect, {}))
-        files.insert(QFileInfo(file).canonicalFilePath());
-    QList<int> ids;
-    for (const Track &track : m_model.tracks()) {
-        if (!files.isEmpty() && files.contains(QFileInfo(displayedPath(track.path)).canonicalFilePath()))
-            ids.append(track.id);
-    }
-    selectTracks(ids);
-}
-
-void MainWindow::dragEnterEvent(QDragEnterEvent *event)
-{
-    if (std::ranges::any_of(event->mimeData()->urls(), &QUrl::isLocalFile))
-        event->setDropAction(Qt::CopyAction);
-    event->setAccepted(event->mimeData()->hasUrls());
-}
-
-void MainWindow::dropEvent(QDropEvent *event)
-{
-    QStringList files;
-    for (const QUrl &url : event->mimeData()->urls())
-        files.append(url.toLocalFile());
-    files.removeAll(QString());
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
-    if (!files.isEmpty()) // once the source has been answered, since a question may come
-        QMetaObject::invokeMethod(
-            this, [this, files] { open(files); }, Qt::QueuedConnection);
-}
-
 void MainWindow::chooseFolder()
 {
     const QString folder = QFileDialog::getExistingDirectory(this, tr("Open Folder"), m_folder);
@@ -258,24 +212,6 @@ bool MainWindow::save()
 {
     commitTyped();
     return TrackSaving::save(&m_model, this);
-}
-
-/// The whole rows, with the cursor in the first one's title.
-void MainWindow::selectTracks(const QList<int> &trackIds)
-{
-    QItemSelection rows;
-    QModelIndex title;
-    for (const int id : trackIds) {
-        const QModelIndex cell = m_model.index(m_model.rowOfTrack(id), int(TrackField::Title));
-        rows.select(cell, cell);
-        title = title.isValid() ? title : cell;
-    }
-    if (!title.isValid())
-        return;
-    m_table->selectionModel()->setCurrentIndex(title, QItemSelectionModel::NoUpdate);
-    m_table->selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    m_table->scrollTo(title, QAbstractItemView::PositionAtCenter);
-    m_table->setFocus(Qt::OtherFocusReason);
 }
 
 void MainWindow::showProgress(qsizetype read, qsizetype total)
@@ -340,17 +276,31 @@ void MainWindow::showNoticed(int changed, int gone, int added)
 
 void MainWindow::showCounts()
 {
-    QString text = tr("%Ln tracks", nullptr, m_model.rowCount());
+    const int total = int(m_model.tracks().size());
+    QString text = tr("%Ln tracks", nullptr, total);
+    if (m_model.rowCount() < total)
+        text = tr("%L1 of %2", "tracks that are shown, of so many tracks").arg(m_model.rowCount()).arg(text);
     if (m_model.numberOfUnreadable() > 0)
         text = tr("%1, %Ln unreadable", nullptr, m_model.numberOfUnreadable()).arg(text);
     m_counts->setText(text);
 }
 
+/// What the user makes of a width holds for all folders.
+void MainWindow::keepColumns(int column, int before, int now)
+{
+    const bool isStretched = column == TableColumns::lastShown(m_table);
+    if (before != 0 && now != 0 && !isStretched && !m_isFitting) // else a column is shown or hidden
+        m_hasOwnColumns = true;
+}
+
 void MainWindow::fitColumns()
 {
+    const QScopedValueRollback fitting(m_isFitting, true);
     const int character = m_table->fontMetrics().averageCharWidth();
     m_table->resizeColumnsToContents();
-    for (int column = 0; column < TrackFieldCount - 1; ++column) {
+    for (int column = 0; column < m_model.columnCount(); ++column) {
+        if (column == TableColumns::lastShown(m_table) || m_table->isColumnHidden(column))
+            continue;
         const int width = m_table->columnWidth(column) + ColumnPadding * character;
         m_table->setColumnWidth(column,
                                 std::clamp(width, NarrowestColumn * character, WidestColumn * character));
@@ -361,10 +311,11 @@ void MainWindow::restoreFromDefaults()
 {
     const ZEVUserDefaults *defaults = ZEVUserDefaults::standardUserDefaults();
     m_hasOwnColumns = TableColumns::restore(m_table);
+    connect(m_table->horizontalHeader(), &QHeaderView::sectionResized, this, &MainWindow::keepColumns);
     restoreState(defaults->objectForKey(StateKey).toByteArray());
     if (restoreGeometry(defaults->objectForKey(GeometryKey).toByteArray()))
         return;
-    const QSize wanted(fontMetrics().averageCharWidth() * 200, fontMetrics().height() * 40);
+    const QSize wanted(fontMetrics().averageCharWidth() * 210, fontMetrics().height() * 44);
     resize(wanted.boundedTo(screen()->availableSize() * 9 / 10));
 }
 
@@ -374,7 +325,7 @@ void MainWindow::remember() const
     defaults->setObject(saveGeometry(), GeometryKey);
     defaults->setObject(saveState(), StateKey);
     defaults->setObject(m_folder, FolderKey);
-    TableColumns::remember(m_table);
+    TableColumns::remember(m_table, m_hasOwnColumns);
 }
 
 QString MainWindow::lastFolder()

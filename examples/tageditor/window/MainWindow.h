@@ -14,6 +14,7 @@
 class CellClipboard;
 class FileActions;
 class FileWatch;
+class FilterField;
 class Inspector;
 class FolderMenus;
 class MessageLabel;
@@ -88,6 +89,7 @@ private:
     void finishReading(const QString &failure);
     void stopReading();
     void showCounts();
+    void keepColumns(int column, int before, int now);
     void fitColumns();
     void restoreFromDefaults();
     void remember() const;
@@ -98,7 +100,8 @@ private:
     QString m_folder;
     QStringList m_filesToSelect; ///< once they are read
     bool m_isBatchRunning = false;
-    bool m_hasOwnColumns = false; ///< as the user left them
+    bool m_hasOwnColumns = false; ///< as wide as the user has made them
+    bool m_isFitting = false;
     QString m_firstSkipped; ///< tells of the first folder within that could not be listed
     int m_skippedFolders = 0;
     TrackTableModel m_model;
@@ -113,6 +116,7 @@ private:
     FileWatch *m_watch;
     FolderMenus *m_folders;
     QToolBar *m_folderBar = nullptr;
+    FilterField *m_filter = nullptr;
     TrackMenus *m_trackMenus;
     QuickOpen *m_quickOpen;
     QLabel *m_counts;

@@ -10,6 +10,7 @@
 #include <tageditor/text/CellClipboard.h>
 #include <tageditor/text/TextEditing.h>
 #include <tageditor/tracks/TableColumns.h>
+#include <tageditor/window/FilterField.h>
 #include <tageditor/window/MainWindow.h>
 #include <tageditor/window/QuickOpen.h>
 
@@ -17,6 +18,7 @@
 #include <ZEVGlobalUtils/FindPanel/FindInterfaces/ZEVTextFinderMenu.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QDockWidget>
 #include <QMenuBar>
 #include <QScrollArea>
@@ -24,6 +26,13 @@
 #include <QToolBar>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// In average characters, at first.
+constexpr int TagsWidth = 42;
+
+} // namespace
 
 void MainWindow::addDocks()
 {
@@ -34,14 +43,31 @@ void MainWindow::addDocks()
     scrolled->setWidget(m_inspector);
     scrolled->setWidgetResizable(true);
     scrolled->setFrameShape(QFrame::NoFrame);
+    scrolled->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    scrolled->setMinimumWidth(m_inspector->minimumSizeHint().width() + bar);
+    const auto *inspector = m_inspector;
+    connect(qApp, &QApplication::focusChanged, inspector, [=](const QWidget *, QWidget *now) {
+        if (inspector->isAncestorOf(now)) // what is typed is to be seen, however the focus came
+            scrolled->ensureWidgetVisible(now);
+    });
     dock->setWidget(scrolled);
     addDockWidget(Qt::RightDockWidgetArea, dock);
-    addDockWidget(Qt::RightDockWidgetArea, new ArtworkDock(&m_model, m_table, m_editing->undoStack()));
+    auto *artwork = new ArtworkDock(&m_model, m_table, m_editing->undoStack());
+    addDockWidget(Qt::RightDockWidgetArea, artwork);
+    resizeDocks({dock, artwork}, {m_inspector->sizeHint().height(), 1}, Qt::Vertical); // the tags come first
+    resizeDocks({dock}, {fontMetrics().averageCharWidth() * TagsWidth}, Qt::Horizontal);
 }
 
 void MainWindow::addFolderBar()
 {
     m_folderBar = m_folders->makeToolBar();
+    auto *space = new QWidget;
+    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    m_filter = new FilterField(&m_model, m_table, m_find);
+    connect(m_filter, &FilterField::filtered, this, &MainWindow::showCounts);
+    m_folderBar->addWidget(space);
+    m_folderBar->addWidget(m_filter);
     addToolBar(m_folderBar);
 }
 
@@ -76,8 +102,9 @@ void MainWindow::addFindActions(QMenu *menu)
     menu->addAction(tr("Find in Fi&elds…"), QKeySequence(u"Ctrl+Shift+F"_s), m_find, &TrackFind::showPanel);
     menu->addAction(tr("Preview Replace&ments…"), QKeySequence(u"Ctrl+Shift+H"_s), m_find,
                     &TrackFind::reviewReplacements);
-    m_folderBar->addAction(
-        menu->addAction(tr("&Quick Open…"), QKeySequence(u"Ctrl+K"_s), m_quickOpen, &QuickOpen::open));
+    QAction *open =
+        menu->addAction(tr("&Quick Open…"), QKeySequence(u"Ctrl+K"_s), m_quickOpen, &QuickOpen::open);
+    m_folderBar->insertAction(m_folderBar->actions().at(1), open);
 }
 
 /// What stands around the table can be hidden, and comes back from here.
@@ -86,6 +113,11 @@ void MainWindow::addPanes(QMenu *menu)
     for (const QDockWidget *dock : findChildren<QDockWidget *>())
         menu->addAction(dock->toggleViewAction());
     menu->addAction(m_folderBar->toggleViewAction());
+    menu->addSeparator();
+    menu->addAction(tr("&Filter"), QKeySequence(u"Ctrl+L"_s), m_filter, qOverload<>(&QWidget::setFocus));
+    QAction *matches = menu->addAction(tr("Only Tracks with &Matches"));
+    matches->setCheckable(true);
+    connect(matches, &QAction::toggled, m_filter, &FilterField::setShowsOnlyMatches);
     TableColumns::setMenu(m_table, menu->addMenu(tr("&Columns")));
 }
 
