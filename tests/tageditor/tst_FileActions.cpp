@@ -89,7 +89,9 @@ private Q_SLOTS:
             {u"%title%"_s, {}, u" a\nb  c "_s, "a b c.mp3"},
             {u"%title%"_s, {}, u"%track%"_s, "%track%.mp3"},
             {u"100%% %nothing% %"_s, {}, {}, "100% %nothing% %.mp3"},
-            {u"a/%title%"_s, {}, u"x"_s, "a-x.mp3"},
+            {u"a/%title%"_s, {}, u"x/y"_s, "a/x-y.mp3"},
+            {u"%Album Artist%/%Track%/../%title%"_s, u"1"_s, u"x"_s, "01/_./x.mp3"},
+            {u"50% of %Title%"_s, {}, u"x"_s, "50% of x.mp3"},
             {u"%title%"_s, {}, QString(130, u'\u00E9'), QByteArray("\u00E9").repeated(125) + ".mp3"},
         };
         for (const auto &[pattern, number, title, name] : rows) {
@@ -97,6 +99,9 @@ private Q_SLOTS:
             track.path = "/x/old.mp3";
             COMPARE_ROW(pattern + title, FileNamePattern::fileName(pattern, track), name);
         }
+        const Track track = Samples::track({{}, u"<a:b>?."_s});
+        QCOMPARE(FileNamePattern::fileName(u"%title%/x"_s, track, FileNamePattern::Rules::Windows),
+                 "-a-b--/x");
     }
 
     void filesAreRenamedByAPatternAndBack()
@@ -180,6 +185,19 @@ private Q_SLOTS:
         QCOMPARE(files.contents(), "a=b b=a d=c e=d");
         QVERIFY(files.result.errors.isEmpty() && files.undo());
         QCOMPARE(files.contents(), "a=a b=b c=c d=d");
+    }
+
+    void foldersAreMadeAndGoAgain()
+    {
+        Batches files;
+        QVERIFY(Trees::write(files.path("a"), "a") && Trees::write(files.path("b"), "b"));
+        QVERIFY(files.run({{"a", "x/y/a"}, {"b", "x/z/b"}}));
+        QCOMPARE(Trees::read(files.path("x/y/a")) + Trees::read(files.path("x/z/b")), "ab");
+        QVERIFY(Trees::write(files.path("x/z/other"), "other"));
+        QVERIFY(files.undo());
+        QCOMPARE(Trees::names(files.path("").chopped(1)).join('|'), "a|b|x");
+        QCOMPARE(Trees::names(files.path("x")).join('|') + '|' + Trees::names(files.path("x/z")).join('|'),
+                 "z|other");
     }
 
     void conflictsAreAskedAboutAndUndone()

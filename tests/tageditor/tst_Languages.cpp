@@ -59,7 +59,7 @@ QStringList spoken()
     window.find().bar().view(); // is made when it is first shown
     QStringList shared{
         sharedMnemonics(textsOf(window.menuBar()->actions()) + textsIn(window)),
-        sharedMnemonics(textsIn(RenameDialog({}, nullptr))),
+        sharedMnemonics(textsIn(RenameDialog({}, {}, nullptr))),
         sharedMnemonics(textsIn(FindPanelDialog(nullptr))),
         sharedMnemonics(textsIn(TransformDialog({}, 0, nullptr))),
     };

@@ -94,7 +94,7 @@ void FileActions::updateActions()
 
 void FileActions::askForPattern()
 {
-    auto *dialog = new RenameDialog(selectedTracks(*m_table, *m_model), m_table->window());
+    auto *dialog = new RenameDialog(selectedTracks(*m_table, *m_model), m_folder, m_table->window());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, dialog] { run(tr("Rename Files"), dialog->changes()); });
     dialog->open();

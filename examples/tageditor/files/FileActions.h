@@ -25,6 +25,9 @@ public:
 
     void addActions(QMenu *menu);
 
+    /// The one that is open, in which renaming makes folders.
+    void setFolder(const QString &folder) { m_folder = folder; }
+
     /// How far the batch is, with a way to cancel it; hidden while there is none.
     QWidget *progressView() const;
 
@@ -55,6 +58,7 @@ private:
     TrackTableModel *m_model;
     QTableView *m_table;
     TextEditing *m_editing;
+    QString m_folder;
     FileJournal m_journal;
     FileBatch m_batch;
     ProgressView *m_progress;

@@ -18,6 +18,9 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <filesystem>
+
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -42,6 +45,32 @@ QUrl trashed(const QUrl &url)
 {
     QString place;
     return QFile::moveToTrash(url.toLocalFile(), &place) ? QUrl::fromLocalFile(place) : QUrl();
+}
+
+std::filesystem::path pathOf(const QUrl &url) { return ZEVFileURL::path(url).toStdString(); }
+
+/// With all that lead to it; the topmost one that was not there, or an invalid address. Whatever stands in the
+/// way shows when a file is to go there.
+QUrl makeFolders(const std::filesystem::path &folder)
+{
+    std::error_code ignored;
+    std::filesystem::path topmost;
+    for (std::filesystem::path above = folder;
+         !std::filesystem::exists(above, ignored) && above.has_relative_path(); above = above.parent_path())
+        topmost = above;
+    std::filesystem::create_directories(folder, ignored);
+    return topmost.empty() ? QUrl() : ZEVFileURL::withPath(QByteArray::fromStdString(topmost.native()));
+}
+
+/// Those that were made for it, as long as nothing else is in them.
+void removeFolders(const FileChange &change)
+{
+    if (!change.madeFolder.isValid())
+        return;
+    const std::filesystem::path topmost = pathOf(change.madeFolder);
+    std::filesystem::path folder = pathOf(change.destination).parent_path();
+    while (::rmdir(folder.c_str()) == 0 && folder != topmost)
+        folder = folder.parent_path();
 }
 
 /// The trash notes where each of its files came from, in a folder beside that of the files.
@@ -161,15 +190,17 @@ private:
                              : m_manager.moveItemAtURL(change.source, change.destination, &error);
     }
 
-    void perform(const FileChange &change)
+    void perform(FileChange change)
     {
         ZEVError error;
+        change.madeFolder = makeFolders(pathOf(change.destination).parent_path());
         if (bring(change, error))
             note(change);
         else if (ZEVErrorFileErrorHelpers::ZEV_isFileWriteFileExistsError(error))
             resolve(change, error);
         else if (!m_batch->m_isCancelled)
             m_result.errors.append(error);
+        removeFolders(change); // that were made for nothing
     }
 
     void resolve(FileChange change, const ZEVError &conflict)
@@ -223,6 +254,7 @@ private:
             return;
         }
         m_result.done.append({change.destination, change.source, {}, change.isCopy, -1});
+        removeFolders(change);
         if (change.replaced.isValid())
             restore(change);
     }

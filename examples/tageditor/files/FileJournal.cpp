@@ -22,7 +22,8 @@ QByteArray line(const FileChange &change)
     return QJsonDocument({{u"source"_s, encoded(change.source)},
                           {u"destination"_s, encoded(change.destination)},
                           {u"replaced"_s, encoded(change.replaced)},
-                          {u"isCopy"_s, change.isCopy}})
+                          {u"isCopy"_s, change.isCopy},
+                          {u"madeFolder"_s, encoded(change.madeFolder)}})
                .toJson(QJsonDocument::Compact)
         + '\n';
 }
@@ -31,8 +32,12 @@ QByteArray line(const FileChange &change)
 std::optional<FileChange> change(const QByteArray &line)
 {
     const QJsonObject fields = QJsonDocument::fromJson(line).object();
-    const FileChange change{decoded(fields[u"source"]), decoded(fields[u"destination"]),
-                            decoded(fields[u"replaced"]), fields[u"isCopy"].toBool()};
+    const FileChange change{decoded(fields[u"source"]),
+                            decoded(fields[u"destination"]),
+                            decoded(fields[u"replaced"]),
+                            fields[u"isCopy"].toBool(),
+                            -1,
+                            decoded(fields[u"madeFolder"])};
     const bool isWhole = change.source.isLocalFile() && change.destination.isLocalFile();
     return isWhole ? std::optional(change) : std::nullopt;
 }

@@ -14,6 +14,7 @@ struct FileChange {
     QUrl replaced; ///< where what was there before is now; invalid when there was nothing
     bool isCopy = false;
     int trackId = -1;
+    QUrl madeFolder = {}; ///< the topmost of those that were made for it; invalid when there were none
 };
 
 /// What the last batch did to files, on the disk as soon as it is done, so that it can be undone even after

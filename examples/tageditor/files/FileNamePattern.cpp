@@ -6,6 +6,8 @@
 #include <tageditor/tracks/TagValues.h>
 
 #include <QRegularExpression>
+#include <QSet>
+#include <QStorageInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -40,9 +42,23 @@ QString withoutLooseSeparators(const QString &name)
     return QString(name).remove(loose);
 }
 
+/// A doubled percent sign, too.
+QRegularExpression placeholders()
+{
+    QStringList names;
+    for (const auto &field : Fields) {
+        QString name;
+        for (const QChar character : field.first)
+            name += character + u" *"_s;
+        names.append(name);
+    }
+    return QRegularExpression(u"%("_s + names.join(u'|') + u"|)%"_s,
+                              QRegularExpression::CaseInsensitiveOption);
+}
+
 QString filledIn(const QString &pattern, const Track &track)
 {
-    static const QRegularExpression placeholder(u"%(\\w*)%"_s);
+    static const QRegularExpression placeholder = placeholders();
     QString name;
     qsizetype end = 0;
     bool lacksText = false;
@@ -50,14 +66,14 @@ QString filledIn(const QString &pattern, const Track &track)
         const auto found = match.next();
         name += pattern.sliced(end, found.capturedStart() - end);
         end = found.capturedEnd();
-        const auto *field =
-            std::ranges::find(Fields, found.capturedView(1), &std::pair<QStringView, TrackField>::first);
+        const QString key = found.captured(1).toLower().remove(u' ');
+        const auto *field = std::ranges::find(Fields, key, &std::pair<QStringView, TrackField>::first);
         if (field != std::end(Fields)) {
             const QString value = valueOf(field->second, track);
             lacksText = lacksText || value.isEmpty();
             name += value;
         } else {
-            name += found.capturedView(1).isEmpty() ? u"%"_s : found.captured();
+            name += u'%';
         }
     }
     name += pattern.sliced(end);
@@ -65,14 +81,17 @@ QString filledIn(const QString &pattern, const Track &track)
 }
 
 /// What a file may be called, and what it is not lost to sight by.
-QString tamed(QString name)
+QString tamed(QString name, FileNamePattern::Rules rules)
 {
+    const bool isWindows = rules == FileNamePattern::Rules::Windows;
     for (QChar &character : name) {
-        if (character == u'/')
+        if (character == u'/' || (isWindows && u"<>:\"\\|?*"_s.contains(character)))
             character = u'-';
         else if (character.category() == QChar::Other_Control)
             character = u' ';
     }
+    while (isWindows && (name.endsWith(u'.') || name.endsWith(u' ')))
+        name.chop(1);
     if (name.startsWith(u'.'))
         name.front() = u'_';
     return name;
@@ -95,9 +114,24 @@ QStringList FileNamePattern::placeholders()
     return placeholders;
 }
 
-QByteArray FileNamePattern::fileName(const QString &pattern, const Track &track)
+FileNamePattern::Rules FileNamePattern::rulesIn(const QString &folder)
 {
-    const QString name = tamed(filledIn(pattern, track));
+    static const QSet<QByteArray> windows{"vfat",  "msdos",   "exfat", "ntfs",
+                                          "ntfs3", "fuseblk", "cifs",  "smb3"};
+    return windows.contains(QStorageInfo(folder).fileSystemType()) ? Rules::Windows : Rules::Unix;
+}
+
+QByteArray FileNamePattern::fileName(const QString &pattern, const Track &track, Rules rules)
+{
     const QByteArray extension = QByteArray::fromStdString(track.path.extension().native());
-    return name.isEmpty() ? QByteArray() : shortened(name, LongestName - extension.size()) + extension;
+    QStringList parts = pattern.split(u'/');
+    const QString name = tamed(filledIn(parts.takeLast(), track), rules);
+    if (name.isEmpty())
+        return {};
+    QByteArray path;
+    for (const QString &part : std::as_const(parts)) {
+        if (const QString folder = tamed(filledIn(part, track), rules); !folder.isEmpty())
+            path += shortened(folder, LongestName) + '/';
+    }
+    return path + shortened(name, LongestName - extension.size()) + extension;
 }

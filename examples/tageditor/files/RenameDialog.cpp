@@ -25,15 +25,16 @@ const QString PatternKey = u"RenamePattern"_s;
 
 } // namespace
 
-RenameDialog::RenameDialog(const QList<Track> &tracks, QWidget *parent)
+RenameDialog::RenameDialog(const QList<Track> &tracks, const QString &folder, QWidget *parent)
     : QDialog(parent)
-    , m_model(tracks)
+    , m_model(tracks, folder)
     , m_pattern(new QLineEdit)
     , m_count(new QLabel)
     , m_rename(new QPushButton(tr("&Rename")))
 {
     setWindowTitle(tr("Rename Files"));
     layOut();
+    m_pattern->setToolTip(tr("“/” makes folders, such as %albumartist%/%album%/%track% - %title%"));
     connect(m_pattern, &QLineEdit::textChanged, this, &RenameDialog::updatePreview);
     const QString last = ZEVUserDefaults::standardUserDefaults()->objectForKey(PatternKey).toString();
     m_pattern->setText(last.isEmpty() ? u"%track% - %title%"_s : last);

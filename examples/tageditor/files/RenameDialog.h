@@ -16,7 +16,8 @@ class RenameDialog : public QDialog {
     Q_OBJECT
 
 public:
-    explicit RenameDialog(const QList<Track> &tracks, QWidget *parent = nullptr);
+    /// Folders of a pattern are made in \a folder.
+    RenameDialog(const QList<Track> &tracks, const QString &folder, QWidget *parent = nullptr);
 
     QList<FileChange> changes() const { return m_model.changes(); }
 

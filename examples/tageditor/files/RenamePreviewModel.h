@@ -4,6 +4,7 @@
 #pragma once
 
 #include <tageditor/files/FileJournal.h>
+#include <tageditor/files/FileNamePattern.h>
 #include <tageditor/text/PreviewModel.h>
 #include <tageditor/tracks/Track.h>
 
@@ -16,7 +17,8 @@ class RenamePreviewModel : public PreviewModel {
 public:
     enum Column { Before, After };
 
-    explicit RenamePreviewModel(const QList<Track> &tracks, QObject *parent = nullptr);
+    /// A pattern with folders makes them in \a folder; another one leaves the files in theirs.
+    RenamePreviewModel(const QList<Track> &tracks, const QString &folder, QObject *parent = nullptr);
 
     void setPattern(const QString &pattern);
 
@@ -36,8 +38,12 @@ private:
         bool isTaken = false;
     };
 
+    std::string newPath(const Row &row) const;
     void findConflicts();
 
     std::vector<Row> m_rows;
+    std::filesystem::path m_folder;
+    FileNamePattern::Rules m_rules;
+    bool m_makesFolders = false; ///< the pattern does
     int m_numberOfConflicts = 0;
 };

@@ -180,6 +180,7 @@ void MainWindow::openFolder(const QString &folder)
         return;
     m_folder = QDir::cleanPath(QDir(folder).absolutePath());
     m_folders->setFolder(m_folder);
+    m_files->setFolder(m_folder);
     setWindowTitle(withModifiedMarker(QDir(m_folder).dirName()));
     m_skippedFolders = 0;
     m_firstSkipped.clear();
