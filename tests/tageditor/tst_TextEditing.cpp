@@ -1,8 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The ZEVGlobalUtils authors
 // SPDX-License-Identifier: MIT
 
+#include "../Rows.h"
 #include "Shown.h"
 
+#include <tageditor/find/TagTokens.h>
+#include <tageditor/text/FillTagsDialog.h>
+#include <tageditor/text/NumberingDialog.h>
 #include <tageditor/text/TransformDialog.h>
 #include <tageditor/tracks/TagValues.h>
 
@@ -191,6 +195,68 @@ private Q_SLOTS:
             press(QKeySequence::Undo);
         QCOMPARE(shown.text(0, TrackField::Title), several);
         QCOMPARE(shown.text(1, TrackField::Artist), u"The Paper Lanterns"_s);
+    }
+
+    void textsAreTakenApartByAPattern()
+    {
+        const std::tuple<QString, QString, QString> rows[] = {
+            {u"%track% - %title%"_s, u"07 - A - B"_s, u"Track=07|Title=A - B"_s},
+            {u"%artist% - %title%"_s, u"A - B - C"_s, u"Artist=A|Title=B - C"_s},
+            {u"%track%.%title%"_s, u"1. (Live) [x]"_s, u"Track=1|Title=(Live) [x]"_s},
+            {u"%artist%/%track% %title%"_s, u"K/01 夜の電車"_s, u"Artist=K|Track=01|Title=夜の電車"_s},
+            {u"%track% - %title%"_s, u"A1 - B"_s, {}},
+            {u"%title%"_s, u"a/b"_s, {}},
+            {QString(), u"a"_s, QString()},
+        };
+        ZEVPatternTokens tokens({TagTokens::captureTokens(u"/"_s)});
+        ZEVTokenField field;
+        field.setLossless(true);
+        field.setDelegate(&tokens);
+        for (const auto &[pattern, text, expected] : rows) {
+            TagCapture capture(field.conversionPatternForPatternString(pattern));
+            QStringList texts;
+            for (const auto &[tag, captured] : capture.captured(text).value_or(TagCapture::Captured()))
+                texts.append(TrackTableModel::titleForField(tag) + u'=' + captured);
+            COMPARE_ROW(pattern + text, texts.join(u'|'), expected);
+        }
+    }
+
+    void tagsAreFilledFromNamesAndNumbered()
+    {
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(Samples::folder()));
+        shown.window.table().selectAll();
+        shown.action(u"Fill Tags"_s)->trigger();
+        QPointer fill = shown.window.findChild<FillTagsDialog *>();
+        auto *pattern = fill->findChild<ZEVTokenField *>();
+        pattern->setPatternStringValue(u"%album%/%track% %title%"_s);
+        const QAbstractItemModel &preview = *fill->findChild<QTableView *>()->model();
+        QCOMPARE(preview.index(0, 0).data().toString(), u"Harbour/01 Track 12"_s);
+        QCOMPARE(preview.index(0, 1).data().toString(),
+                 u"Album: Harbour  ·  Track: 01  ·  Title: Track 12"_s);
+        QTest::keyClick(fill, Qt::Key_Return);
+        QTRY_VERIFY(!fill);
+        QCOMPARE(shown.text(1, TrackField::Album) + shown.text(1, TrackField::Number), u"Harbour02"_s);
+        QCOMPARE(shown.text(3, TrackField::Title), u"Interlude"_s); // fits no pattern
+        shown.action(u"Number Tracks"_s)->trigger();
+        QPointer numbers = shown.window.findChild<NumberingDialog *>();
+        QTest::keyClick(numbers, Qt::Key_Return);
+        QTRY_VERIFY(!numbers);
+        const auto number = [&](int row) {
+            return shown.text(row, TrackField::Number) + u'/' + shown.text(row, TrackField::TrackTotal);
+        };
+        QCOMPARE(number(0) + u' ' + number(2) + u' ' + number(5),
+                 u"1/3 3/3 2/2"_s); // three in the first folder
+        shown.action(u"Undo Number"_s)->trigger();
+        QCOMPARE(number(1), u"02/"_s);
+        shown.action(u"Fill Tags"_s)->trigger(); // from one tag to another, with the last pattern at first
+        fill = shown.window.findChild<FillTagsDialog *>();
+        pattern = fill->findChild<ZEVTokenField *>();
+        QCOMPARE(pattern->patternStringValue(), u"%album%/%track% %title%"_s);
+        fill->findChild<QComboBox *>()->setCurrentText(u"Album"_s);
+        pattern->setPatternStringValue(u"%albumartist%"_s);
+        QTest::keyClick(fill, Qt::Key_Return);
+        QTRY_COMPARE(shown.text(0, TrackField::AlbumArtist), u"Harbour"_s);
     }
 
     void languageAndSpellingsAreRemembered()

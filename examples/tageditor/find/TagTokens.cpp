@@ -39,6 +39,18 @@ QList<ZEVPatternItem> TagTokens::fieldTokens()
     return items;
 }
 
+QList<ZEVPatternItem> TagTokens::captureTokens(const QString &excluded)
+{
+    QList<ZEVPatternItem> items;
+    for (int field = int(TrackField::Title); field < TrackFieldCount; ++field) {
+        ZEVPatternItem item = tokenOf(TrackField(field));
+        const QString text = excluded.isEmpty() ? u"(.+?)"_s : u"([^"_s + excluded + u"]+?)"_s;
+        item.setRegexString(isNumber(TrackField(field)) ? u"(\\d+)"_s : text);
+        items.append(item);
+    }
+    return items;
+}
+
 ZEVPatternTokens::Groups TagTokens::findTokens()
 {
     return {ZEVPatternItem::escapeItems(),

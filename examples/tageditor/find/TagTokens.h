@@ -21,6 +21,10 @@ ZEVPatternTokens::Groups replaceTokens();
 /// For the fields of a track.
 QList<ZEVPatternItem> fieldTokens();
 
+/// The same to look for, but for the file's name: a number where a field has one, else as few characters as fit,
+/// of which \a excluded is none.
+QList<ZEVPatternItem> captureTokens(const QString &excluded);
+
 /// Stands between two values of a tag.
 ZEVPatternItem nextValue();
 

@@ -3,6 +3,8 @@
 
 #include <tageditor/text/TextEditing.h>
 
+#include <tageditor/text/FillTagsDialog.h>
+#include <tageditor/text/NumberingDialog.h>
 #include <tageditor/text/TextCommand.h>
 #include <tageditor/text/TransformDialog.h>
 #include <tageditor/tracks/TableSelection.h>
@@ -61,15 +63,47 @@ void TextEditing::addTransforms(QMenu *menu)
     for (int n = 0; n < transforms.size(); ++n) {
         QAction *action = menu->addAction(tr("%1…").arg(transforms.at(n).name));
         connect(action, &QAction::triggered, this, [this, n] { askForTransform(n); });
-        m_transforms.append(action);
+        m_forCells.append(action);
     }
+    menu->addSeparator();
+    m_forCells.append(
+        menu->addAction(tr("&Fill Tags…"), QKeySequence(u"Ctrl+T"_s), this, &TextEditing::askForPattern));
+    m_forCells.append(menu->addAction(tr("Num&ber Tracks…"), QKeySequence(u"Ctrl+Shift+N"_s), this,
+                                      &TextEditing::askForNumbers));
     updateActions();
+}
+
+QList<Track> TextEditing::selectedTracks() const
+{
+    QList<Track> tracks;
+    for (const int row : TableSelection::rows(*m_table->selectionModel())) {
+        if (m_model->track(row).isReadable())
+            tracks.append(m_model->track(row));
+    }
+    return tracks;
+}
+
+void TextEditing::askForPattern()
+{
+    auto *dialog = new FillTagsDialog(selectedTracks(), m_table->window());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, dialog] { change(tr("Fill Tags"), dialog->changes()); });
+    dialog->open();
+}
+
+void TextEditing::askForNumbers()
+{
+    auto *dialog = new NumberingDialog(m_table->window());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this,
+            [this, dialog] { change(tr("Number Tracks"), dialog->changes(selectedTracks())); });
+    dialog->open();
 }
 
 void TextEditing::updateActions()
 {
     const bool isPossible = TableSelection::hasEditableCell(*m_table->selectionModel(), *m_model);
-    for (QAction *action : std::as_const(m_transforms))
+    for (QAction *action : std::as_const(m_forCells))
         action->setEnabled(isPossible);
 }
 

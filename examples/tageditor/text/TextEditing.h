@@ -43,7 +43,10 @@ Q_SIGNALS:
 private:
     void updateActions();
     void updateUndoActions();
+    QList<Track> selectedTracks() const;
     void askForTransform(int transform);
+    void askForPattern();
+    void askForNumbers();
     void perform(const TransformDialog &dialog);
 
     TrackTableModel *m_model;
@@ -52,5 +55,5 @@ private:
     QAction *m_undo = nullptr;
     QAction *m_redo = nullptr;
     bool m_isUndoBlocked = false;
-    QList<QAction *> m_transforms;
+    QList<QAction *> m_forCells; ///< need a selected one that may be changed
 };

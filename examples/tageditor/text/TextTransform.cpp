@@ -7,6 +7,8 @@
 #include <ZEVGlobalUtils/Transforms/Texts/ZEVStringStrip.h>
 #include <ZEVGlobalUtils/Transforms/Texts/ZEVStringTransforms.h>
 
+#include <QLocale>
+
 namespace {
 
 QString withoutOuterSpaces(QStringView text)
@@ -19,6 +21,20 @@ QString withoutOuterSpaces(QStringView text)
     if (cutsPair)
         ++range.length;
     return text.sliced(range.location, range.length).toString();
+}
+
+/// None around the text, and one wherever there are more; a line break is no space.
+QString withSingleSpaces(QStringView text)
+{
+    QString single;
+    for (const QChar character : withoutOuterSpaces(text)) {
+        const bool isSpace = character == u'\t' || character.category() == QChar::Separator_Space;
+        if (!isSpace)
+            single += character;
+        else if (!single.endsWith(u' '))
+            single += u' ';
+    }
+    return single;
 }
 
 /// What Unicode calls punctuation (general category P). It lies in the first plane but for scripts that no
@@ -61,7 +77,10 @@ const QList<TextTransform> &TextTransform::all()
         {tr("c&amelCase"), &ZEVStringTransforms::camelCaseString, true},
         withoutRules(tr("&Underscores to Spaces"), &ZEVStringTransforms::sansUnderscoresString),
         withoutRules(tr("S&paces to Underscores"), &ZEVStringTransforms::withUnderscoresString),
+        withoutRules(tr("UPP&ER CASE"), [](QStringView text) { return QLocale().toUpper(text.toString()); }),
+        withoutRules(tr("&lower case"), [](QStringView text) { return QLocale().toLower(text.toString()); }),
         withoutRules(tr("T&rim Spaces"), &withoutOuterSpaces),
+        withoutRules(tr("Single Space&s"), &withSingleSpaces),
         withoutRules(tr("Strip Pu&nctuation"), &withoutPunctuation),
     };
     return transforms;
