@@ -8,6 +8,7 @@
 #include <tageditor/files/FileActions.h>
 #include <tageditor/files/FileNamePattern.h>
 #include <tageditor/files/RenameDialog.h>
+#include <tageditor/menus/TrackMenus.h>
 
 #include <ZEVGlobalUtils/Platform/Questions/ZEVAlert.h>
 #include <ZEVGlobalUtils/Platform/Questions/ZEVOpenPanel.h>
@@ -174,6 +175,34 @@ private Q_SLOTS:
         QVERIFY2(!shown.status().contains(u"not there") && !shown.status().contains(u"another program"),
                  qPrintable(shown.status()));
         QCOMPARE(shown.window.tracks().numberOfUnreadable(), 0);
+    }
+
+    void whatIsTrashedHasNoRowUntilItComesBack()
+    {
+        const QTemporaryDir folder;
+        for (const QString &name : {u"a.mp3"_s, u"b.mp3"_s, u"c.mp3"_s})
+            QVERIFY(Samples::copy(u"Maree/04 Ete.mp3"_s, folder.filePath(name)));
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(folder.path()));
+        const auto names = [&] {
+            QString rows;
+            for (int row = 0; row < shown.window.tracks().rowCount(); ++row)
+                rows += shown.text(row, TrackField::FileName).left(1);
+            return rows + u'|' + QDir(folder.path()).entryList(QDir::Files).join(QString()).remove(u".mp3"_s);
+        };
+        shown.select(1, TrackField::Title);
+        const std::unique_ptr<QMenu> menu(shown.window.findChild<TrackMenus *>()->makeContextMenu());
+        QVERIFY(menu->actions().contains(shown.action(u"Move to Trash"_s)));
+        for (int round = 0; round < 2; ++round) {
+            shown.action(round == 0 ? u"Move to Trash"_s : u"Redo"_s)->trigger();
+            QTRY_COMPARE(names(), u"ac|ac"_s);
+            QTRY_VERIFY(shown.action(u"Undo"_s)->isEnabled());
+            shown.action(u"Undo"_s)->trigger();
+            QTRY_COMPARE(names(), u"acb|abc"_s);
+            QTRY_VERIFY(shown.action(u"Redo"_s)->isEnabled());
+        }
+        QVERIFY(QDir(m_home.path() + u"/Trash/info"_s).entryList({u"b.mp3*"_s}, QDir::Files).isEmpty());
+        QCOMPARE(shown.status().section(u'|', 0, 0), u"3 tracks"_s);
     }
 
     void filesThatExchangeTheirNamesLoseNone()

@@ -276,6 +276,12 @@ private Q_SLOTS:
         QVERIFY(title->textCursor().hasSelection());
         QTest::keyClick(title, Qt::Key_Tab);
         QVERIFY(!title->textCursor().hasSelection());
+        shown.window.table().setCurrentIndex(shown.window.tracks().index(0, int(TrackField::Title)));
+        title->setFocus(); // from where one steps to the next
+        QTest::keyClick(title, Qt::Key_PageDown, Qt::ControlModifier);
+        QTRY_COMPARE(title->stringValue(), u"Slow Boat (Part 2)"_s);
+        QTest::keyClick(title, Qt::Key_PageUp, Qt::ControlModifier);
+        QTRY_COMPARE(title->stringValue(), u"Track 12"_s);
         for (QWidget *field : QWidgetList{title, comment}) {
             field->setFocus();
             QTest::keyClicks(field, u"x"_s);

@@ -77,6 +77,7 @@ void FileActions::addActions(QMenu *menu)
                         &FileActions::askForPattern),
         menu->addAction(tr("&Move to Folder…"), this, [this] { askForFolder(false); }),
         menu->addAction(tr("&Copy to Folder…"), this, [this] { askForFolder(true); }),
+        menu->addAction(tr("Move to &Trash"), this, &FileActions::trash),
     };
     m_putBack = menu->addAction(tr("Put Files &Back"), this, &FileActions::putBack);
     updateActions();
@@ -117,6 +118,17 @@ void FileActions::askForFolder(bool isCopy)
     run(panel.title, changes);
 }
 
+void FileActions::trash()
+{
+    QList<FileChange> changes;
+    for (const Track &track : selectedTracks(*m_table, *m_model)) {
+        FileChange change{urlOf(track), {}, {}, false, track.id};
+        change.isTrashed = true;
+        changes.append(change);
+    }
+    run(tr("Move to Trash"), changes);
+}
+
 void FileActions::run(const QString &name, const QList<FileChange> &changes)
 {
     start([this, changes] { m_batch.run(changes); },
@@ -133,6 +145,7 @@ void FileActions::run(const QString &name, const QList<FileChange> &changes)
 
 void FileActions::takeBack(const FileCommand::Changes &changes)
 {
+    m_isTakingBack = true;
     start([this, changes] { m_batch.undo(*changes); }, {});
 }
 
@@ -145,6 +158,7 @@ void FileActions::repeat(const FileCommand::Changes &changes)
 
 void FileActions::putBack()
 {
+    m_isTakingBack = true;
     start([this] { m_batch.undo(); }, {});
 }
 
@@ -172,6 +186,7 @@ void FileActions::finish(const FileBatch::Result &result)
 {
     m_progress->hide();
     followFiles(result);
+    m_isTakingBack = false;
     Q_EMIT runningChanged(false);
     m_editing->setUndoBlocked(false);
     if (const auto then = std::exchange(m_then, {}))
@@ -198,6 +213,7 @@ void FileActions::followFiles(const FileBatch::Result &result)
         const int id = ids.value(ZEVFileURL::path(change.source), -1);
         if (change.isCopy || id < 0)
             continue;
+        m_model->setTrashed(id, change.isTrashed && !m_isTakingBack);
         m_model->setPath(id, ZEVFileURL::path(change.destination).toStdString());
         ids.remove(ZEVFileURL::path(change.source));
         ids.insert(ZEVFileURL::path(change.destination), id);

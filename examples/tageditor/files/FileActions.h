@@ -25,6 +25,9 @@ public:
 
     void addActions(QMenu *menu);
 
+    /// Those for the selected files.
+    const QList<QAction *> &actions() const { return m_forSelection; }
+
     /// The one that is open, in which renaming makes folders.
     void setFolder(const QString &folder) { m_folder = folder; }
 
@@ -45,6 +48,7 @@ private:
     void updateActions();
     void askForPattern();
     void askForFolder(bool isCopy);
+    void trash();
     void run(const QString &name, const QList<FileChange> &changes);
     void takeBack(const FileCommand::Changes &changes);
     void repeat(const FileCommand::Changes &changes);
@@ -64,6 +68,7 @@ private:
     ProgressView *m_progress;
     QList<QAction *> m_forSelection;
     QAction *m_putBack = nullptr;
+    bool m_isTakingBack = false; ///< the batch at hand
     bool m_isOnStack = false; ///< the last batch is among the steps to undo
     std::function<void(const QList<FileChange> &)> m_then; ///< takes what the batch at hand has done
 };

@@ -134,7 +134,7 @@ public:
             if (m_batch->m_isCancelled || m_result.isStopped)
                 break;
             begin(change);
-            if (change.destination != change.source)
+            if (change.isTrashed || change.destination != change.source)
                 perform(change);
             m_bytesBefore += m_sizes.takeFirst();
         }
@@ -193,6 +193,8 @@ private:
     void perform(FileChange change)
     {
         ZEVError error;
+        if (change.isTrashed)
+            return trash(change);
         change.madeFolder = makeFolders(pathOf(change.destination).parent_path());
         if (bring(change, error))
             note(change);
@@ -201,6 +203,16 @@ private:
         else if (!m_batch->m_isCancelled)
             m_result.errors.append(error);
         removeFolders(change); // that were made for nothing
+    }
+
+    void trash(FileChange change)
+    {
+        change.destination = trashed(change.source);
+        if (change.destination.isValid())
+            note(change);
+        else
+            m_result.errors.append(
+                ZEVFileErrors::error(ENOTSUP, ZEVFileErrors::Operation::Change, change.source));
     }
 
     void resolve(FileChange change, const ZEVError &conflict)
@@ -253,8 +265,12 @@ private:
             m_left.append(change);
             return;
         }
-        m_result.done.append({change.destination, change.source, {}, change.isCopy, -1});
+        FileChange back{change.destination, change.source, {}, change.isCopy};
+        back.isTrashed = change.isTrashed;
+        m_result.done.append(back);
         removeFolders(change);
+        if (change.isTrashed)
+            forgetTrashed(change.destination);
         if (change.replaced.isValid())
             restore(change);
     }

@@ -13,7 +13,7 @@
 #include <atomic>
 #include <thread>
 
-/// Moves or copies any number of files on a thread of its own. Where a name is taken the user is asked. What
+/// Moves, copies or trashes any number of files on a thread of its own. Where a name is taken the user is asked. What
 /// is replaced goes to the trash, so that the batch can be undone. All signals come on the main thread.
 class FileBatch : public QObject {
     Q_OBJECT

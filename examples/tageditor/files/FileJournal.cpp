@@ -23,6 +23,7 @@ QByteArray line(const FileChange &change)
                           {u"destination"_s, encoded(change.destination)},
                           {u"replaced"_s, encoded(change.replaced)},
                           {u"isCopy"_s, change.isCopy},
+                          {u"isTrashed"_s, change.isTrashed},
                           {u"madeFolder"_s, encoded(change.madeFolder)}})
                .toJson(QJsonDocument::Compact)
         + '\n';
@@ -37,6 +38,7 @@ std::optional<FileChange> change(const QByteArray &line)
                             decoded(fields[u"replaced"]),
                             fields[u"isCopy"].toBool(),
                             -1,
+                            fields[u"isTrashed"].toBool(),
                             decoded(fields[u"madeFolder"])};
     const bool isWhole = change.source.isLocalFile() && change.destination.isLocalFile();
     return isWhole ? std::optional(change) : std::nullopt;

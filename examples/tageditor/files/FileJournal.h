@@ -10,10 +10,11 @@
 /// One file that was moved or copied.
 struct FileChange {
     QUrl source;
-    QUrl destination; ///< where it is now
+    QUrl destination; ///< where it is now; the trash finds one itself
     QUrl replaced; ///< where what was there before is now; invalid when there was nothing
     bool isCopy = false;
     int trackId = -1;
+    bool isTrashed = false; ///< its place is one in the trash
     QUrl madeFolder = {}; ///< the topmost of those that were made for it; invalid when there were none
 };
 

@@ -11,6 +11,7 @@
 #include <ZEVGlobalUtils/Menus/Locations/ZEVWorkspaceOpenWithMenu.h>
 #include <ZEVGlobalUtils/Platform/FileSystem/ZEVFileURL.h>
 
+#include <QDesktopServices>
 #include <QMenuBar>
 #include <QSet>
 #include <QTableView>
@@ -40,8 +41,15 @@ QMenu *TrackMenus::makeContextMenu()
     openWith->setDisabled(files.isEmpty());
     connect(openWith, &QMenu::aboutToShow, openWith,
             [=] { ZEVWorkspaceOpenWithMenu::setupMenu(openWith, files); });
-    if (!files.isEmpty())
-        menu->addMenu(m_genres);
+    if (files.isEmpty())
+        return menu;
+    menu->addAction(tr("&Play"), menu, [=] { QDesktopServices::openUrl(files.first()); });
+    menu->addAction(tr("&Open Containing Folder"), menu, [=] {
+        QDesktopServices::openUrl(ZEVFileURL::byDeletingLastPathComponent(files.first()));
+    });
+    menu->addMenu(m_genres);
+    menu->addSeparator();
+    menu->addActions(m_fileActions);
     return menu;
 }
 

@@ -3,9 +3,11 @@
 
 #pragma once
 
+#include <QList>
 #include <QObject>
 
 class GenreMenu;
+class QAction;
 class QMenu;
 class QMenuBar;
 class QTableView;
@@ -22,6 +24,9 @@ public:
 
     void addGenreMenu(QMenuBar *bar);
 
+    /// What the context menu has for the files beside its own.
+    void setFileActions(const QList<QAction *> &actions) { m_fileActions = actions; }
+
     /// For the tracks that are selected as it is made; the caller owns it.
     QMenu *makeContextMenu();
 
@@ -35,4 +40,5 @@ private:
     QTableView *m_table;
     TextEditing *m_editing;
     GenreMenu *m_genres;
+    QList<QAction *> m_fileActions;
 };

@@ -52,18 +52,10 @@ void TrackTableModel::append(const QList<Track> &tracks)
         m_sorted.push_back(place);
         m_accepted.push_back(!m_filter || m_filter(track));
         m_rows.push_back(-1);
-        if (m_accepted.back())
-            places.push_back(place);
+        places.push_back(place);
     }
     m_numberOfUnreadable += int(std::ranges::count(tracks, false, &Track::isReadable));
-    if (places.empty())
-        return;
-    beginInsertRows({}, rowCount(), rowCount() + int(places.size()) - 1);
-    for (const int place : places) {
-        m_rows[size_t(place)] = rowCount();
-        m_shown.push_back(place);
-    }
-    endInsertRows();
+    showBehind(std::move(places));
 }
 
 void TrackTableModel::clear()
@@ -75,6 +67,7 @@ void TrackTableModel::clear()
     m_tracks.clear();
     m_sorted.clear();
     m_accepted.clear();
+    m_trashed.clear();
     arrange();
     m_numberOfUnreadable = 0;
     endResetModel();
@@ -161,6 +154,41 @@ void TrackTableModel::setPath(int trackId, const std::filesystem::path &path)
         track.stamp = now; // another volume has another inode
     track.text(TrackField::FileName) = displayedPath(path.filename());
     showRow(trackId);
+}
+
+void TrackTableModel::setTrashed(int trackId, bool isTrashed)
+{
+    const int place = placeOf(trackId);
+    if (place < 0 || m_trashed.contains(place) == isTrashed)
+        return;
+    if (const int row = rowOfTrack(trackId); isTrashed) {
+        m_trashed.insert(place);
+        if (row < 0)
+            return;
+        beginRemoveRows({}, row, row);
+        m_shown.erase(m_shown.begin() + row);
+        m_rows[size_t(place)] = -1;
+        for (int next = row; next < rowCount(); ++next)
+            m_rows[size_t(m_shown[size_t(next)])] = next;
+        endRemoveRows();
+    } else {
+        m_trashed.remove(place);
+        showBehind({place});
+    }
+}
+
+/// Of these places, those that the filter accepts.
+void TrackTableModel::showBehind(std::vector<int> places)
+{
+    std::erase_if(places, [this](int place) { return !m_accepted[size_t(place)]; });
+    if (places.empty())
+        return;
+    beginInsertRows({}, rowCount(), rowCount() + int(places.size()) - 1);
+    for (const int place : places) {
+        m_rows[size_t(place)] = rowCount();
+        m_shown.push_back(place);
+    }
+    endInsertRows();
 }
 
 void TrackTableModel::replaceTrack(int trackId, const Track &track)
@@ -309,7 +337,7 @@ void TrackTableModel::arrange()
     m_shown.clear();
     m_rows.assign(size_t(m_tracks.size()), -1);
     for (const int place : m_sorted) {
-        if (!m_accepted[size_t(place)])
+        if (!m_accepted[size_t(place)] || m_trashed.contains(place))
             continue;
         m_rows[size_t(place)] = rowCount();
         m_shown.push_back(place);

@@ -7,6 +7,7 @@
 
 #include <QAbstractTableModel>
 #include <QHash>
+#include <QSet>
 
 #include <functional>
 #include <vector>
@@ -67,6 +68,10 @@ public:
 
     /// Where the file of a track is now, and what it is called.
     void setPath(int trackId, const std::filesystem::path &path);
+
+    /// A track whose file is in the trash has no row, until it comes back: behind the others then.
+    void setTrashed(int trackId, bool isTrashed);
+    int numberOfTracks() const { return int(m_tracks.size() - m_trashed.size()); }
 
     /// Shows what was read again from the track's file.
     void replaceTrack(int trackId, const Track &track);
@@ -129,12 +134,14 @@ private:
     void forgetChanges(int trackId);
     void showRow(int trackId, const QList<int> &roles = {});
     std::vector<int> orderBy(int column, Qt::SortOrder order) const;
+    void showBehind(std::vector<int> places);
     void arrange();
     void rearrange();
 
     QList<Track> m_tracks; ///< a track's place is its id less m_firstId
     std::vector<int> m_sorted; ///< the places in the order that was asked for
     std::vector<bool> m_accepted; ///< by the filter; of each place
+    QSet<int> m_trashed; ///< places
     std::vector<int> m_shown; ///< the places that have a row
     std::vector<int> m_rows; ///< of each place; -1 for none
     std::function<bool(const Track &)> m_filter;

@@ -81,6 +81,8 @@ MainWindow::MainWindow(QWidget *parent)
     m_watch = new FileWatch(&m_model, this);
     m_folders = new FolderMenus(this);
     m_trackMenus = new TrackMenus(&m_model, m_table, m_editing);
+    connect(&m_model, &QAbstractItemModel::rowsRemoved, this, &MainWindow::showCounts);
+    connect(&m_model, &QAbstractItemModel::rowsInserted, this, &MainWindow::showCounts);
     m_quickOpen = new QuickOpen(&m_model, this);
     addFolderBar();
     setUpStatusBar();
@@ -277,7 +279,7 @@ void MainWindow::showNoticed(int changed, int gone, int added)
 
 void MainWindow::showCounts()
 {
-    const int total = int(m_model.tracks().size());
+    const int total = m_model.numberOfTracks();
     QString text = tr("%Ln tracks", nullptr, total);
     if (m_model.rowCount() < total)
         text = tr("%L1 of %2", "tracks that are shown, of so many tracks").arg(m_model.rowCount()).arg(text);

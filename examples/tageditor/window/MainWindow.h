@@ -71,6 +71,8 @@ private:
     void addFindActions(QMenu *menu);
     void addSelectActions(QMenu *menu);
     void addPanes(QMenu *menu);
+    void addSteps(QMenu *menu);
+    void step(int rows);
     void setUpTable();
     void addDocks();
     void addFolderBar();

@@ -80,6 +80,7 @@ void MainWindow::makeMenus()
     file->addAction(tr("&Save"), QKeySequence(u"Ctrl+S"_s), this, &MainWindow::save);
     file->addSeparator();
     m_files->addActions(file);
+    m_trackMenus->setFileActions(m_files->actions());
     file->addSeparator();
     file->addAction(tr("&Quit"), QKeySequence(u"Ctrl+Q"_s), this, &QWidget::close);
 
@@ -118,7 +119,23 @@ void MainWindow::addPanes(QMenu *menu)
     QAction *matches = menu->addAction(tr("Only Tracks with &Matches"));
     matches->setCheckable(true);
     connect(matches, &QAction::toggled, m_filter, &FilterField::setShowsOnlyMatches);
+    addSteps(menu);
     TableColumns::setMenu(m_table, menu->addMenu(tr("&Columns")));
+}
+
+/// From wherever one types: what was typed is taken over.
+void MainWindow::addSteps(QMenu *menu)
+{
+    menu->addAction(tr("&Next Track"), QKeySequence(u"Ctrl+PgDown"_s), this, [this] { step(1); });
+    menu->addAction(tr("&Previous Track"), QKeySequence(u"Ctrl+PgUp"_s), this, [this] { step(-1); });
+}
+
+void MainWindow::step(int rows)
+{
+    const QModelIndex current = m_table->currentIndex();
+    const QModelIndex next = m_model.index(current.row() + rows, std::max(current.column(), 0));
+    if (next.isValid())
+        m_table->selectionModel()->setCurrentIndex(next, QItemSelectionModel::ClearAndSelect);
 }
 
 /// A click on a header sorts, so rows and columns are selected from the cell that has the cursor, by the keys
