@@ -5,14 +5,17 @@
 #include "Shown.h"
 
 #include <tageditor/find/TagTokens.h>
+#include <tageditor/text/AllTagsDialog.h>
 #include <tageditor/text/FillTagsDialog.h>
 #include <tageditor/text/NumberingDialog.h>
 #include <tageditor/text/TransformDialog.h>
+#include <tageditor/tracks/TagReader.h>
 #include <tageditor/tracks/TagValues.h>
 
 #include <QClipboard>
 #include <QComboBox>
 #include <QHeaderView>
+#include <QTableWidget>
 #include <QWindow>
 
 using namespace Qt::StringLiterals;
@@ -257,6 +260,37 @@ private Q_SLOTS:
         pattern->setPatternStringValue(u"%albumartist%"_s);
         QTest::keyClick(fill, Qt::Key_Return);
         QTRY_COMPARE(shown.text(0, TrackField::AlbumArtist), u"Harbour"_s);
+    }
+
+    void allTagsAreChangedAndAddedInOneStep()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"a.flac"_s);
+        QVERIFY(Samples::copy(u"Maree/05 Fenetre.flac"_s, path));
+        Shown shown;
+        QVERIFY(shown.visible && shown.open(folder.path()));
+        const auto open = [&] {
+            shown.select(0, TrackField::Title);
+            shown.action(u"All Tags"_s)->trigger();
+            return shown.window.findChild<AllTagsDialog *>();
+        };
+        const auto table = [](const QDialog *dialog) { return dialog->findChild<QTableWidget *>(); };
+        QPointer dialog = open();
+        dialog->addTag(u"MOOD"_s);
+        table(dialog)->item(table(dialog)->rowCount() - 1, 1)->setText(u"calm↵slow"_s);
+        table(dialog)->item(0, 1)->setText(u"changed"_s);
+        dialog->accept();
+        QTRY_VERIFY(!dialog);
+        QVERIFY(shown.window.isWindowModified());
+        QCOMPARE(shown.text(0, TrackField::Title), u"changed"_s);
+        QVERIFY(shown.window.save());
+        const auto mood = [&] { return TagReader::readOthers(path.toStdString()).value(u"MOOD"_s); };
+        QCOMPARE(mood(), TagValues::text({u"calm"_s, u"slow"_s}));
+        shown.action(u"Undo All Tags"_s)->trigger();
+        QCOMPARE(shown.text(0, TrackField::Title), u"La fenêtre d’Édouard"_s);
+        QVERIFY(shown.window.isWindowModified() && shown.window.save());
+        QCOMPARE(mood(), QString());
+        QVERIFY(!shown.window.isWindowModified());
     }
 
     void languageAndSpellingsAreRemembered()

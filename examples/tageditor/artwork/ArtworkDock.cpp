@@ -3,9 +3,9 @@
 
 #include <tageditor/artwork/ArtworkDock.h>
 
-#include <tageditor/artwork/ArtworkCommand.h>
 #include <tageditor/artwork/ArtworkTag.h>
 #include <tageditor/tracks/TagValues.h>
+#include <tageditor/tracks/ValueCommand.h>
 
 #include <ZEVGlobalUtils/Images/Artwork/ZEVImageDescription.h>
 #include <ZEVGlobalUtils/ImageViews/ZEVDashView.h>

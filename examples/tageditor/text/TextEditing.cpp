@@ -3,13 +3,17 @@
 
 #include <tageditor/text/TextEditing.h>
 
+#include <tageditor/text/AllTagsDialog.h>
 #include <tageditor/text/FillTagsDialog.h>
 #include <tageditor/text/NumberingDialog.h>
 #include <tageditor/text/TextCommand.h>
 #include <tageditor/text/TransformDialog.h>
 #include <tageditor/tracks/TableSelection.h>
+#include <tageditor/tracks/TagReader.h>
+#include <tageditor/tracks/ValueCommand.h>
 
 #include <QAction>
+#include <QGuiApplication>
 #include <QMenu>
 #include <QTableView>
 
@@ -70,6 +74,8 @@ void TextEditing::addTransforms(QMenu *menu)
         menu->addAction(tr("&Fill Tags…"), QKeySequence(u"Ctrl+T"_s), this, &TextEditing::askForPattern));
     m_forCells.append(menu->addAction(tr("Num&ber Tracks…"), QKeySequence(u"Ctrl+Shift+N"_s), this,
                                       &TextEditing::askForNumbers));
+    m_forCells.append(
+        menu->addAction(tr("&All Tags…"), QKeySequence(u"Ctrl+I"_s), this, &TextEditing::askForAllTags));
     updateActions();
 }
 
@@ -89,6 +95,35 @@ void TextEditing::askForPattern()
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::accepted, this, [this, dialog] { change(tr("Fill Tags"), dialog->changes()); });
     dialog->open();
+}
+
+void TextEditing::askForAllTags()
+{
+    const QList<Track> tracks = selectedTracks();
+    QList<OtherTags> others;
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor); // they are read from the files
+    for (const Track &track : tracks) {
+        const std::optional<OtherTags> changed = m_model->changedOtherTags(track.id);
+        others.append(changed ? *changed : TagReader::readOthers(track.path));
+    }
+    QGuiApplication::restoreOverrideCursor();
+    auto *dialog = new AllTagsDialog(tracks, others, m_table->window());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::accepted, this, [this, dialog] { changeTags(*dialog); });
+    dialog->open();
+}
+
+void TextEditing::changeTags(const AllTagsDialog &dialog)
+{
+    const QList<OtherTagsChange> others = dialog.otherChanges();
+    const QList<TextChange> texts = m_model->possibleChanges(dialog.textChanges());
+    if (others.isEmpty() && texts.isEmpty())
+        return;
+    m_stack.beginMacro(tr("All Tags"));
+    change(tr("All Tags"), texts);
+    if (!others.isEmpty())
+        m_stack.push(new OtherTagsCommand(tr("All Tags"), m_model, others));
+    m_stack.endMacro();
 }
 
 void TextEditing::askForNumbers()

@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QUndoStack>
 
+class AllTagsDialog;
 class QAction;
 class QMenu;
 class QTableView;
@@ -47,6 +48,8 @@ private:
     void askForTransform(int transform);
     void askForPattern();
     void askForNumbers();
+    void askForAllTags();
+    void changeTags(const AllTagsDialog &dialog);
     void perform(const TransformDialog &dialog);
 
     TrackTableModel *m_model;

@@ -231,3 +231,21 @@ void TagFields::write(TagLib::File &file, TrackField field, const QStringList &v
         return file.tag()->setComment(list.toString());
     replaceIn(file, keyInUse(file, properties, field), list);
 }
+
+OtherTags TagFields::readOthers(const TagLib::File &file)
+{
+    TagLib::PropertyMap properties = file.properties();
+    for (int field = int(TrackField::Title); field < TrackFieldCount; ++field) {
+        properties.erase(KeysOfFields.at(size_t(field)).usual);
+        properties.erase(keyInUse(file, file.properties(), TrackField(field)));
+    }
+    OtherTags tags;
+    for (const auto &[key, values] : properties)
+        tags.insert(text(key), text(values));
+    return tags;
+}
+
+void TagFields::writeOther(TagLib::File &file, const QString &key, const QStringList &values)
+{
+    replaceIn(file, key.toStdString().c_str(), tagTexts(values));
+}

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <tageditor/tracks/Track.h>
+#include <tageditor/tracks/TagChanges.h>
 
 #include <QStringList>
 
@@ -21,5 +21,9 @@ void read(const TagLib::File &file, Track &track);
 /// Changes the field's values in every kind of tag that the file has. What a tag cannot hold shows when it is
 /// read back.
 void write(TagLib::File &file, TrackField field, const QStringList &values);
+
+/// What else is in the tags.
+OtherTags readOthers(const TagLib::File &file);
+void writeOther(TagLib::File &file, const QString &key, const QStringList &values);
 
 } // namespace TagFields

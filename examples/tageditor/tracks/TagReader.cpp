@@ -48,6 +48,13 @@ Track TagReader::read(const std::filesystem::path &path)
     return track;
 }
 
+OtherTags TagReader::readOthers(const std::filesystem::path &path)
+{
+    const TagLib::FileRef reference(path.c_str(), true, TagLib::AudioProperties::Fast);
+    const TagLib::File *file = reference.file();
+    return file && file->isValid() && file->tag() ? TagFields::readOthers(*file) : OtherTags();
+}
+
 void TagReader::setPath(Track &track, const std::filesystem::path &path)
 {
     track.path = path;

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <tageditor/tracks/Track.h>
+#include <tageditor/tracks/TagChanges.h>
 
 #include <QCoreApplication>
 
@@ -20,6 +20,9 @@ public:
 
     /// Every field of the file, or its name and the reason why there is no more.
     static Track read(const std::filesystem::path &path);
+
+    /// Of a file that can be read, the tags that are no fields.
+    static OtherTags readOthers(const std::filesystem::path &path);
 
     /// What was read of \a track is now in a file of another name, or in a new one of that name.
     static void setPath(Track &track, const std::filesystem::path &path);

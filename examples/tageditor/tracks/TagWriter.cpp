@@ -162,6 +162,8 @@ TagWriter::Result TagWriter::writeInto(const std::filesystem::path &path, const 
             return {tr("No audio found: damaged or cut off"), {}};
         for (auto text = changes.texts.cbegin(); text != changes.texts.cend(); ++text)
             TagFields::write(*file, text.key(), TagValues::of(text.value()));
+        for (auto tag = changes.others.cbegin(); tag != changes.others.cend(); ++tag)
+            TagFields::writeOther(*file, tag.key(), TagValues::of(tag.value()));
         if (changes.artwork && !ArtworkTag::setArtwork(*file, *changes.artwork))
             return {tr("The tags of this file cannot hold artwork"), {}};
         if (!save(*file))
@@ -179,6 +181,11 @@ TagWriter::Result TagWriter::readBack(const std::filesystem::path &path, const T
     for (auto text = changes.texts.cbegin(); text != changes.texts.cend(); ++text) {
         if (!isHeld(text.key(), text.value(), written.text(text.key())))
             return {tr("The tags of this file cannot hold “%1”").arg(TagValues::joined(text.value())), {}};
+    }
+    const OtherTags others = changes.others.isEmpty() ? OtherTags() : TagReader::readOthers(path);
+    for (auto tag = changes.others.cbegin(); tag != changes.others.cend(); ++tag) {
+        if (others.value(tag.key()) != tag.value())
+            return {tr("The tags of this file cannot hold “%1”").arg(tag.key()), {}};
     }
     if (changes.artwork && ArtworkTag::read(path) != *changes.artwork)
         return {tr("The tags of this file cannot hold the artwork"), {}};

@@ -40,6 +40,17 @@ std::vector<int> orderByNumber(const QList<Track> &tracks, TrackFact fact, Qt::S
     return places;
 }
 
+/// Those that differ.
+OtherTags otherTagsToWrite(const OtherTagsChange &change)
+{
+    OtherTags tags;
+    for (const QString &key : change.before.keys() + change.after.keys()) {
+        if (change.before.value(key) != change.after.value(key))
+            tags.insert(key, change.after.value(key));
+    }
+    return tags;
+}
+
 } // namespace
 
 void TrackTableModel::append(const QList<Track> &tracks)
@@ -64,6 +75,7 @@ void TrackTableModel::clear()
     m_firstId += int(m_tracks.size());
     m_savedTexts.clear();
     m_artwork.clear();
+    m_otherTags.clear();
     m_tracks.clear();
     m_sorted.clear();
     m_accepted.clear();
@@ -231,6 +243,7 @@ void TrackTableModel::forgetChanges(int trackId)
 {
     m_savedTexts.removeIf([trackId](const auto &cell) { return cell.key().first == trackId; });
     m_artwork.remove(trackId);
+    m_otherTags.remove(trackId);
 }
 
 bool TrackTableModel::hasChanges(int trackId) const
@@ -239,7 +252,7 @@ bool TrackTableModel::hasChanges(int trackId) const
         if (m_savedTexts.contains({trackId, field}))
             return true;
     }
-    return m_artwork.contains(trackId);
+    return m_artwork.contains(trackId) || m_otherTags.contains(trackId);
 }
 
 QList<int> TrackTableModel::changedTracks() const
@@ -247,7 +260,7 @@ QList<int> TrackTableModel::changedTracks() const
     QList<int> ids;
     for (auto cell = m_savedTexts.keyBegin(); cell != m_savedTexts.keyEnd(); ++cell)
         ids.append(cell->first);
-    ids += m_artwork.keys();
+    ids += m_artwork.keys() + m_otherTags.keys();
     std::ranges::sort(ids, {}, [this](int id) { return std::pair(rowOfTrack(id), id); });
     ids.erase(std::unique(ids.begin(), ids.end()), ids.end());
     return ids;
@@ -255,7 +268,7 @@ QList<int> TrackTableModel::changedTracks() const
 
 TagChanges TrackTableModel::changes(int trackId) const
 {
-    TagChanges changes{{}, changedArtwork(trackId)};
+    TagChanges changes{{}, changedArtwork(trackId), otherTagsToWrite(m_otherTags.value(trackId))};
     for (int field = 0; field < TrackFieldCount; ++field) {
         if (m_savedTexts.contains({trackId, field}))
             changes.texts.insert(TrackField(field), trackWithId(trackId).text(TrackField(field)));
@@ -276,21 +289,37 @@ void TrackTableModel::setSaved(int trackId, const Track &track)
     Q_EMIT changesChanged();
 }
 
-void TrackTableModel::setArtwork(const QList<ArtworkChange> &changes)
+/// What the file holds is kept from the first change on, and forgotten when it is as before.
+template <typename Value>
+void TrackTableModel::setValues(QHash<int, ValueChange<Value>> &values,
+                                const QList<ValueChange<Value>> &changes)
 {
-    for (const ArtworkChange &change : changes) {
+    for (const ValueChange<Value> &change : changes) {
         if (!hasTrack(change.trackId))
             continue;
-        const QByteArray inFile = m_artwork.value(change.trackId, change).before;
+        const Value inFile = values.value(change.trackId, change).before;
         if (inFile == change.after)
-            m_artwork.remove(change.trackId);
+            values.remove(change.trackId);
         else
-            m_artwork.insert(change.trackId, {change.trackId, inFile, change.after});
+            values.insert(change.trackId, {change.trackId, inFile, change.after});
     }
     if (rowCount() > 0)
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, 0), {Qt::FontRole});
-    Q_EMIT artworkChanged();
     Q_EMIT changesChanged();
+}
+
+void TrackTableModel::setArtwork(const QList<ArtworkChange> &changes)
+{
+    setValues(m_artwork, changes);
+    Q_EMIT artworkChanged();
+}
+
+void TrackTableModel::setOtherTags(const QList<OtherTagsChange> &changes) { setValues(m_otherTags, changes); }
+
+std::optional<OtherTags> TrackTableModel::changedOtherTags(int trackId) const
+{
+    const auto found = m_otherTags.constFind(trackId);
+    return found == m_otherTags.cend() ? std::nullopt : std::optional(found->after);
 }
 
 std::optional<QByteArray> TrackTableModel::changedArtwork(int trackId) const

@@ -19,12 +19,18 @@ struct TextChange {
     QString text;
 };
 
-/// The artwork of a track, encoded; empty bytes for none.
-struct ArtworkChange {
+template <typename Value>
+struct ValueChange {
     int trackId = -1;
-    QByteArray before;
-    QByteArray after;
+    Value before;
+    Value after;
 };
+
+/// The artwork of a track, encoded; empty bytes for none.
+using ArtworkChange = ValueChange<QByteArray>;
+
+/// All tags of a track's file that no field shows.
+using OtherTagsChange = ValueChange<OtherTags>;
 
 /// The tracks as a table: a row a track, a column a field and, behind these, what else is known of it. Rows are only ever added behind the others,
 /// whatever the table was sorted by; sort() puts them in their places.
@@ -81,8 +87,15 @@ public:
     /// What is to be written into the file, empty bytes to remove it; nil where it stays as it is.
     std::optional<QByteArray> changedArtwork(int trackId) const;
 
-    /// Whether a text or the artwork differs from what the file holds.
-    bool hasChanges() const { return !m_savedTexts.isEmpty() || !m_artwork.isEmpty(); }
+    /// The same for tags that no field shows.
+    void setOtherTags(const QList<OtherTagsChange> &changes);
+    std::optional<OtherTags> changedOtherTags(int trackId) const;
+
+    /// Whether a text, another tag or the artwork differs from what the file holds.
+    bool hasChanges() const
+    {
+        return !m_savedTexts.isEmpty() || !m_artwork.isEmpty() || !m_otherTags.isEmpty();
+    }
     bool hasChanges(int trackId) const;
     bool isChanged(int row, TrackField field) const;
 
@@ -130,6 +143,8 @@ private:
     using Cell = std::pair<int, int>; ///< a track's id and a column
 
     int placeOf(int trackId) const;
+    template <typename Value>
+    void setValues(QHash<int, ValueChange<Value>> &values, const QList<ValueChange<Value>> &changes);
     QString setText(Track &track, TrackField field, const QString &text);
     void forgetChanges(int trackId);
     void showRow(int trackId, const QList<int> &roles = {});
@@ -147,6 +162,7 @@ private:
     std::function<bool(const Track &)> m_filter;
     int m_firstId = 0; ///< ids are not used again for other tracks
     QHash<Cell, QString> m_savedTexts; ///< of the cells that differ from them
+    QHash<int, OtherTagsChange> m_otherTags; ///< likewise
     QHash<int, ArtworkChange> m_artwork; ///< of the tracks whose files hold another one, by their ids
     int m_numberOfUnreadable = 0;
 };

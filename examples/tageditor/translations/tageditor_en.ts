@@ -36,6 +36,16 @@
     </message>
 </context>
 <context>
+    <name>FillTagsDialog</name>
+    <message numerus="yes">
+        <source>%L1 of %Ln texts fit the pattern</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message numerus="yes">
         <source>%Ln files were changed by another program and read again</source>
@@ -63,6 +73,13 @@
         <translation>
             <numerusform>%1, %Ln unreadable</numerusform>
             <numerusform>%1, %Ln unreadable</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln new files</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
         </translation>
     </message>
 </context>

@@ -2,6 +2,41 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>AllTagsDialog</name>
+    <message>
+        <source>All Tags</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Add…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>‹Mixed›</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add Tag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name, such as MOOD:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ArtworkDock</name>
     <message>
         <source>Artwork</source>
@@ -59,6 +94,10 @@
         <source>Not taken: %1</source>
         <translation>Refusé : %1</translation>
     </message>
+    <message>
+        <source>Limit new artwork</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>AutomatedRun</name>
@@ -75,6 +114,61 @@
     </message>
 </context>
 <context>
+    <name>CapturePreviewModel</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>a tag and its text</comment>
+        <translation type="unfinished">%1, %2 {1:?}</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation type="unfinished">Étiquettes</translation>
+    </message>
+    <message>
+        <source>does not fit the pattern</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CellClipboard</name>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cop&amp;y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cl&amp;ear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing can be pasted here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Shows the tags of the audio files in a folder.</source>
@@ -83,10 +177,6 @@
     <message>
         <source>FOLDER</source>
         <translation>DOSSIER</translation>
-    </message>
-    <message>
-        <source>The folder to open; else the last one, or the sample.</source>
-        <translation>Le dossier à ouvrir&#xa0;; sinon le dernier, ou l’exemple.</translation>
     </message>
     <message>
         <source>Find PATTERN.</source>
@@ -127,6 +217,10 @@
     <message>
         <source>--matching-type takes a number from 0 to 5.</source>
         <translation>--matching-type attend un nombre de 0 à 5.</translation>
+    </message>
+    <message>
+        <source>The folder to open, or files to select in theirs; else the last one, or the sample.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -203,6 +297,63 @@
         <source>Re&amp;name Files…</source>
         <translation>Reno&amp;mmer les fichiers…</translation>
     </message>
+    <message>
+        <source>Move to &amp;Trash</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>FillTagsDialog</name>
+    <message>
+        <source>&amp;Fill</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fill Tags</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pattern</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File Name and Folders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fr&amp;om:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Pattern:</source>
+        <translation type="unfinished">&amp;Motif&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Text and the tags it stands between; “/” stands between folders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%L1 of %Ln texts fit the pattern</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FilterField</name>
+    <message>
+        <source>Filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows only the tracks that have these words</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>FindPanel</name>
@@ -262,11 +413,6 @@
         <translation>&amp;Commentaire&#xa0;:</translation>
     </message>
     <message>
-        <source>%1:</source>
-        <comment>a tag&apos;s name</comment>
-        <translation>%1&#xa0;:</translation>
-    </message>
-    <message>
         <source>Mixed</source>
         <translation>Valeurs multiples</translation>
     </message>
@@ -277,6 +423,51 @@
     <message>
         <source>%1, changed %2</source>
         <translation>%1, modifié %2</translation>
+    </message>
+    <message>
+        <source>T&amp;itle:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Artist:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Al&amp;bum:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Album a&amp;rtist:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Com&amp;poser:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Genre:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Year:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trac&amp;k:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Disc:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>of</source>
+        <comment>between a track&apos;s number and the number of tracks</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tracks differ. The Delete key empties this tag of all.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -413,6 +604,65 @@
         <source>&amp;Columns</source>
         <translation>&amp;Colonnes</translation>
     </message>
+    <message numerus="yes">
+        <source>%Ln new files</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%L1 of %2</source>
+        <comment>tracks that are shown, of so many tracks</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only Tracks with &amp;Matches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Next Track</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Previous Track</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NumberingDialog</name>
+    <message>
+        <source>Set the &amp;total, too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Begin anew in each &amp;folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number Tracks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tracks in their order in the table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discs, one for each folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Number:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Begin with:</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>PreviewTable</name>
@@ -489,6 +739,10 @@
             <numerusform>&#xa0;; %Ln&#xa0;nom est déjà pris</numerusform>
             <numerusform>&#xa0;; %Ln&#xa0;noms sont déjà pris</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>“/” makes folders, such as %albumartist%/%album%/%track% - %title%</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -624,6 +878,30 @@
         <source>%1: nothing to change</source>
         <translation>%1&#xa0;: rien à modifier</translation>
     </message>
+    <message>
+        <source>&amp;Fill Tags…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Num&amp;ber Tracks…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;All Tags…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fill Tags</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All Tags</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number Tracks</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>TextTransform</name>
@@ -659,6 +937,61 @@
         <source>Strip Pu&amp;nctuation</source>
         <translation>Supprimer la po&amp;nctuation</translation>
     </message>
+    <message>
+        <source>UPP&amp;ER CASE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;lower case</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Single Space&amp;s</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TrackInfo</name>
+    <message>
+        <source>Folder</source>
+        <translation type="unfinished">Dossier</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bit Rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sample Rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Modified</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 kbit/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>TrackMenus</name>
@@ -669,6 +1002,14 @@
     <message>
         <source>Genre</source>
         <translation>Genre</translation>
+    </message>
+    <message>
+        <source>&amp;Play</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open Containing Folder</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -754,6 +1095,26 @@
     <message>
         <source>Changed, not saved</source>
         <translation>Modifié, non enregistré</translation>
+    </message>
+    <message>
+        <source>Album Artist</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Composer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tracks</source>
+        <translation type="unfinished">Pistes</translation>
+    </message>
+    <message>
+        <source>Disc</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discs</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
