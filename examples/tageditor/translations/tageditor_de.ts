@@ -5,35 +5,35 @@
     <name>AllTagsDialog</name>
     <message>
         <source>All Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Tags</translation>
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Tag</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>&amp;Add…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hinzufügen …</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Entfernen</translation>
     </message>
     <message>
         <source>‹Mixed›</source>
-        <translation type="unfinished"></translation>
+        <translation>‹Unterschiedlich›</translation>
     </message>
     <message>
         <source>Add Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Tag hinzufügen</translation>
     </message>
     <message>
         <source>Name, such as MOOD:</source>
-        <translation type="unfinished"></translation>
+        <translation>Name, etwa MOOD:</translation>
     </message>
 </context>
 <context>
@@ -96,7 +96,7 @@
     </message>
     <message>
         <source>Limit new artwork</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Cover begrenzen</translation>
     </message>
 </context>
 <context>
@@ -118,54 +118,54 @@
     <message>
         <source>%1: %2</source>
         <comment>a tag and its text</comment>
-        <translation type="unfinished">%1, %2 {1:?}</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Tags</source>
-        <translation type="unfinished">Tags</translation>
+        <translation>Tags</translation>
     </message>
     <message>
         <source>does not fit the pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>passt nicht zum Muster</translation>
     </message>
 </context>
 <context>
     <name>CellClipboard</name>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>Aussc&amp;hneiden</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausschneiden</translation>
     </message>
     <message>
         <source>Cop&amp;y</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopieren</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;infügen</translation>
     </message>
     <message>
         <source>Cl&amp;ear</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Leeren</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Leeren</translation>
     </message>
     <message>
         <source>Nothing can be pasted here</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier kann nichts eingefügt werden</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfügen</translation>
     </message>
 </context>
 <context>
@@ -220,7 +220,7 @@
     </message>
     <message>
         <source>The folder to open, or files to select in theirs; else the last one, or the sample.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner, der geöffnet wird, oder Dateien, die in ihrem ausgewählt werden; sonst der letzte oder das Beispiel.</translation>
     </message>
 </context>
 <context>
@@ -299,48 +299,48 @@
     </message>
     <message>
         <source>Move to &amp;Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>In den &amp;Papierkorb verschieben</translation>
     </message>
     <message>
         <source>Move to Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>In den Papierkorb verschieben</translation>
     </message>
 </context>
 <context>
     <name>FillTagsDialog</name>
     <message>
         <source>&amp;Fill</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Füllen</translation>
     </message>
     <message>
         <source>Fill Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Tags füllen</translation>
     </message>
     <message>
         <source>Pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>Muster</translation>
     </message>
     <message>
         <source>File Name and Folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateiname und Ordner</translation>
     </message>
     <message>
         <source>Fr&amp;om:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aus:</translation>
     </message>
     <message>
         <source>&amp;Pattern:</source>
-        <translation type="unfinished">&amp;Muster:</translation>
+        <translation>&amp;Muster:</translation>
     </message>
     <message>
         <source>Text and the tags it stands between; “/” stands between folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Text und die Tags, zwischen denen er steht; „/“ steht zwischen Ordnern</translation>
     </message>
     <message numerus="yes">
         <source>%L1 of %Ln texts fit the pattern</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%L1 von %Ln Text passt zum Muster</numerusform>
+            <numerusform>%L1 von %Ln Texten passen zum Muster</numerusform>
         </translation>
     </message>
 </context>
@@ -348,11 +348,11 @@
     <name>FilterField</name>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter</translation>
     </message>
     <message>
         <source>Shows only the tracks that have these words</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt nur die Stücke, die diese Wörter haben</translation>
     </message>
 </context>
 <context>
@@ -426,48 +426,48 @@
     </message>
     <message>
         <source>T&amp;itle:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ti&amp;tel:</translation>
     </message>
     <message>
         <source>&amp;Artist:</source>
-        <translation type="unfinished"></translation>
+        <translation>Interpr&amp;et:</translation>
     </message>
     <message>
         <source>Al&amp;bum:</source>
-        <translation type="unfinished"></translation>
+        <translation>Album:</translation>
     </message>
     <message>
         <source>Album a&amp;rtist:</source>
-        <translation type="unfinished"></translation>
+        <translation>Album-Interpret:</translation>
     </message>
     <message>
         <source>Com&amp;poser:</source>
-        <translation type="unfinished"></translation>
+        <translation>Komp&amp;onist:</translation>
     </message>
     <message>
         <source>&amp;Genre:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Genre:</translation>
     </message>
     <message>
         <source>&amp;Year:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jahr:</translation>
     </message>
     <message>
         <source>Trac&amp;k:</source>
-        <translation type="unfinished"></translation>
+        <translation>St&amp;ück:</translation>
     </message>
     <message>
         <source>&amp;Disc:</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;isc:</translation>
     </message>
     <message>
         <source>of</source>
         <comment>between a track&apos;s number and the number of tracks</comment>
-        <translation type="unfinished"></translation>
+        <translation>von</translation>
     </message>
     <message>
         <source>The tracks differ. The Delete key empties this tag of all.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Stücke unterscheiden sich. Die Entf-Taste leert dieses Tag bei allen.</translation>
     </message>
 </context>
 <context>
@@ -606,62 +606,62 @@
     </message>
     <message numerus="yes">
         <source>%Ln new files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln neue Datei</numerusform>
+            <numerusform>%Ln neue Dateien</numerusform>
         </translation>
     </message>
     <message>
         <source>%L1 of %2</source>
         <comment>tracks that are shown, of so many tracks</comment>
-        <translation type="unfinished"></translation>
+        <translation>%L1 von %2</translation>
     </message>
     <message>
         <source>&amp;Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Filtern</translation>
     </message>
     <message>
         <source>Only Tracks with &amp;Matches</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Stücke mit &amp;Treffern</translation>
     </message>
     <message>
         <source>&amp;Next Track</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nächstes Stück</translation>
     </message>
     <message>
         <source>&amp;Previous Track</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Voriges Stück</translation>
     </message>
 </context>
 <context>
     <name>NumberingDialog</name>
     <message>
         <source>Set the &amp;total, too</source>
-        <translation type="unfinished"></translation>
+        <translation>Auch die &amp;Gesamtzahl setzen</translation>
     </message>
     <message>
         <source>Begin anew in each &amp;folder</source>
-        <translation type="unfinished"></translation>
+        <translation>In jedem &amp;Ordner neu beginnen</translation>
     </message>
     <message>
         <source>Number Tracks</source>
-        <translation type="unfinished"></translation>
+        <translation>Stücke nummerieren</translation>
     </message>
     <message>
         <source>Tracks in their order in the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Stücke in der Reihenfolge der Tabelle</translation>
     </message>
     <message>
         <source>Discs, one for each folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Discs, eine für jeden Ordner</translation>
     </message>
     <message>
         <source>&amp;Number:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nummerieren:</translation>
     </message>
     <message>
         <source>&amp;Begin with:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beginnen mit:</translation>
     </message>
 </context>
 <context>
@@ -742,7 +742,7 @@
     </message>
     <message>
         <source>“/” makes folders, such as %albumartist%/%album%/%track% - %title%</source>
-        <translation type="unfinished"></translation>
+        <translation>„/“ legt Ordner an, etwa %albumartist%/%album%/%track% - %title%</translation>
     </message>
 </context>
 <context>
@@ -880,27 +880,27 @@
     </message>
     <message>
         <source>&amp;Fill Tags…</source>
-        <translation type="unfinished"></translation>
+        <translation>Tags &amp;füllen …</translation>
     </message>
     <message>
         <source>Num&amp;ber Tracks…</source>
-        <translation type="unfinished"></translation>
+        <translation>Stücke nummerieren …</translation>
     </message>
     <message>
         <source>&amp;All Tags…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle Tags …</translation>
     </message>
     <message>
         <source>Fill Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Tags füllen</translation>
     </message>
     <message>
         <source>All Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Tags</translation>
     </message>
     <message>
         <source>Number Tracks</source>
-        <translation type="unfinished"></translation>
+        <translation>Stücke nummerieren</translation>
     </message>
 </context>
 <context>
@@ -939,58 +939,58 @@
     </message>
     <message>
         <source>UPP&amp;ER CASE</source>
-        <translation type="unfinished"></translation>
+        <translation>GROSSBUCHSTABEN</translation>
     </message>
     <message>
         <source>&amp;lower case</source>
-        <translation type="unfinished"></translation>
+        <translation>kleinbuchstaben</translation>
     </message>
     <message>
         <source>Single Space&amp;s</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfache Leerzeichen</translation>
     </message>
 </context>
 <context>
     <name>TrackInfo</name>
     <message>
         <source>Folder</source>
-        <translation type="unfinished">Ordner</translation>
+        <translation>Ordner</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauer</translation>
     </message>
     <message>
         <source>Bit Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitrate</translation>
     </message>
     <message>
         <source>Sample Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Abtastrate</translation>
     </message>
     <message>
         <source>Channels</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanäle</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>Modified</source>
-        <translation type="unfinished"></translation>
+        <translation>Geändert</translation>
     </message>
     <message>
         <source>%1 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kbit/s</translation>
     </message>
     <message>
         <source>%1 Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Hz</translation>
     </message>
 </context>
 <context>
@@ -1005,11 +1005,11 @@
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;bspielen</translation>
     </message>
     <message>
         <source>&amp;Open Containing Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner öffnen</translation>
     </message>
 </context>
 <context>
@@ -1098,23 +1098,23 @@
     </message>
     <message>
         <source>Album Artist</source>
-        <translation type="unfinished"></translation>
+        <translation>Album-Interpret</translation>
     </message>
     <message>
         <source>Composer</source>
-        <translation type="unfinished"></translation>
+        <translation>Komponist</translation>
     </message>
     <message>
         <source>Tracks</source>
-        <translation type="unfinished">Stücke</translation>
+        <translation>Stücke</translation>
     </message>
     <message>
         <source>Disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Disc</translation>
     </message>
     <message>
         <source>Discs</source>
-        <translation type="unfinished"></translation>
+        <translation>Discs</translation>
     </message>
 </context>
 <context>

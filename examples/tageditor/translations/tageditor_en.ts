@@ -39,9 +39,9 @@
     <name>FillTagsDialog</name>
     <message numerus="yes">
         <source>%L1 of %Ln texts fit the pattern</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%L1 of %Ln text fits the pattern</numerusform>
+            <numerusform>%L1 of %Ln texts fit the pattern</numerusform>
         </translation>
     </message>
 </context>
@@ -77,9 +77,9 @@
     </message>
     <message numerus="yes">
         <source>%Ln new files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln new file</numerusform>
+            <numerusform>%Ln new files</numerusform>
         </translation>
     </message>
 </context>

@@ -5,35 +5,35 @@
     <name>AllTagsDialog</name>
     <message>
         <source>All Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les étiquettes</translation>
     </message>
     <message>
         <source>Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Étiquette</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>&amp;Add…</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;jouter…</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Supprimer</translation>
     </message>
     <message>
         <source>‹Mixed›</source>
-        <translation type="unfinished"></translation>
+        <translation>‹Différents›</translation>
     </message>
     <message>
         <source>Add Tag</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter une étiquette</translation>
     </message>
     <message>
         <source>Name, such as MOOD:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom, par exemple MOOD :</translation>
     </message>
 </context>
 <context>
@@ -96,7 +96,7 @@
     </message>
     <message>
         <source>Limit new artwork</source>
-        <translation type="unfinished"></translation>
+        <translation>Limiter les nouvelles pochettes</translation>
     </message>
 </context>
 <context>
@@ -118,54 +118,54 @@
     <message>
         <source>%1: %2</source>
         <comment>a tag and its text</comment>
-        <translation type="unfinished">%1, %2 {1:?}</translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>Tags</source>
-        <translation type="unfinished">Étiquettes</translation>
+        <translation>Étiquettes</translation>
     </message>
     <message>
         <source>does not fit the pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>ne correspond pas au motif</translation>
     </message>
 </context>
 <context>
     <name>CellClipboard</name>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;uper</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Couper</translation>
     </message>
     <message>
         <source>Cop&amp;y</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;pier</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;oller</translation>
     </message>
     <message>
         <source>Cl&amp;ear</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vider</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Vider</translation>
     </message>
     <message>
         <source>Nothing can be pasted here</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ne peut être collé ici</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Coller</translation>
     </message>
 </context>
 <context>
@@ -220,7 +220,7 @@
     </message>
     <message>
         <source>The folder to open, or files to select in theirs; else the last one, or the sample.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier à ouvrir, ou des fichiers à sélectionner dans le leur ; sinon le dernier, ou l’exemple.</translation>
     </message>
 </context>
 <context>
@@ -299,48 +299,48 @@
     </message>
     <message>
         <source>Move to &amp;Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>Mettre à la &amp;corbeille</translation>
     </message>
     <message>
         <source>Move to Trash</source>
-        <translation type="unfinished"></translation>
+        <translation>Mettre à la corbeille</translation>
     </message>
 </context>
 <context>
     <name>FillTagsDialog</name>
     <message>
         <source>&amp;Fill</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Remplir</translation>
     </message>
     <message>
         <source>Fill Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplir les étiquettes</translation>
     </message>
     <message>
         <source>Pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>Motif</translation>
     </message>
     <message>
         <source>File Name and Folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom de fichier et dossiers</translation>
     </message>
     <message>
         <source>Fr&amp;om:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Depuis :</translation>
     </message>
     <message>
         <source>&amp;Pattern:</source>
-        <translation type="unfinished">&amp;Motif&#xa0;:</translation>
+        <translation>&amp;Motif :</translation>
     </message>
     <message>
         <source>Text and the tags it stands between; “/” stands between folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Du texte et les étiquettes qu’il sépare ; « / » sépare les dossiers</translation>
     </message>
     <message numerus="yes">
         <source>%L1 of %Ln texts fit the pattern</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%L1 de %Ln texte correspond au motif</numerusform>
+            <numerusform>%L1 de %Ln textes correspondent au motif</numerusform>
         </translation>
     </message>
 </context>
@@ -348,11 +348,11 @@
     <name>FilterField</name>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrer</translation>
     </message>
     <message>
         <source>Shows only the tracks that have these words</source>
-        <translation type="unfinished"></translation>
+        <translation>N’affiche que les pistes qui ont ces mots</translation>
     </message>
 </context>
 <context>
@@ -426,48 +426,48 @@
     </message>
     <message>
         <source>T&amp;itle:</source>
-        <translation type="unfinished"></translation>
+        <translation>T&amp;itre :</translation>
     </message>
     <message>
         <source>&amp;Artist:</source>
-        <translation type="unfinished"></translation>
+        <translation>Artiste :</translation>
     </message>
     <message>
         <source>Al&amp;bum:</source>
-        <translation type="unfinished"></translation>
+        <translation>Al&amp;bum :</translation>
     </message>
     <message>
         <source>Album a&amp;rtist:</source>
-        <translation type="unfinished"></translation>
+        <translation>Artiste de l’album :</translation>
     </message>
     <message>
         <source>Com&amp;poser:</source>
-        <translation type="unfinished"></translation>
+        <translation>Com&amp;positeur :</translation>
     </message>
     <message>
         <source>&amp;Genre:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Genre :</translation>
     </message>
     <message>
         <source>&amp;Year:</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;nnée :</translation>
     </message>
     <message>
         <source>Trac&amp;k:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pis&amp;te :</translation>
     </message>
     <message>
         <source>&amp;Disc:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dis&amp;que :</translation>
     </message>
     <message>
         <source>of</source>
         <comment>between a track&apos;s number and the number of tracks</comment>
-        <translation type="unfinished"></translation>
+        <translation>sur</translation>
     </message>
     <message>
         <source>The tracks differ. The Delete key empties this tag of all.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les pistes diffèrent. La touche Suppr vide cette étiquette pour toutes.</translation>
     </message>
 </context>
 <context>
@@ -606,62 +606,62 @@
     </message>
     <message numerus="yes">
         <source>%Ln new files</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln nouveau fichier</numerusform>
+            <numerusform>%Ln nouveaux fichiers</numerusform>
         </translation>
     </message>
     <message>
         <source>%L1 of %2</source>
         <comment>tracks that are shown, of so many tracks</comment>
-        <translation type="unfinished"></translation>
+        <translation>%L1 sur %2</translation>
     </message>
     <message>
         <source>&amp;Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Filtrer</translation>
     </message>
     <message>
         <source>Only Tracks with &amp;Matches</source>
-        <translation type="unfinished"></translation>
+        <translation>Seulement les pistes &amp;trouvées</translation>
     </message>
     <message>
         <source>&amp;Next Track</source>
-        <translation type="unfinished"></translation>
+        <translation>Piste &amp;suivante</translation>
     </message>
     <message>
         <source>&amp;Previous Track</source>
-        <translation type="unfinished"></translation>
+        <translation>Piste &amp;précédente</translation>
     </message>
 </context>
 <context>
     <name>NumberingDialog</name>
     <message>
         <source>Set the &amp;total, too</source>
-        <translation type="unfinished"></translation>
+        <translation>Indiquer aussi le &amp;total</translation>
     </message>
     <message>
         <source>Begin anew in each &amp;folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Recommencer dans chaque &amp;dossier</translation>
     </message>
     <message>
         <source>Number Tracks</source>
-        <translation type="unfinished"></translation>
+        <translation>Numéroter les pistes</translation>
     </message>
     <message>
         <source>Tracks in their order in the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Les pistes dans l’ordre du tableau</translation>
     </message>
     <message>
         <source>Discs, one for each folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Les disques, un par dossier</translation>
     </message>
     <message>
         <source>&amp;Number:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Numéroter :</translation>
     </message>
     <message>
         <source>&amp;Begin with:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Commencer par :</translation>
     </message>
 </context>
 <context>
@@ -742,7 +742,7 @@
     </message>
     <message>
         <source>“/” makes folders, such as %albumartist%/%album%/%track% - %title%</source>
-        <translation type="unfinished"></translation>
+        <translation>« / » crée des dossiers, par exemple %albumartist%/%album%/%track% - %title%</translation>
     </message>
 </context>
 <context>
@@ -880,27 +880,27 @@
     </message>
     <message>
         <source>&amp;Fill Tags…</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplir les éti&amp;quettes…</translation>
     </message>
     <message>
         <source>Num&amp;ber Tracks…</source>
-        <translation type="unfinished"></translation>
+        <translation>Numéroter les pistes…</translation>
     </message>
     <message>
         <source>&amp;All Tags…</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les étiquettes…</translation>
     </message>
     <message>
         <source>Fill Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplir les étiquettes</translation>
     </message>
     <message>
         <source>All Tags</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les étiquettes</translation>
     </message>
     <message>
         <source>Number Tracks</source>
-        <translation type="unfinished"></translation>
+        <translation>Numéroter les pistes</translation>
     </message>
 </context>
 <context>
@@ -939,58 +939,58 @@
     </message>
     <message>
         <source>UPP&amp;ER CASE</source>
-        <translation type="unfinished"></translation>
+        <translation>MAJUSCULES</translation>
     </message>
     <message>
         <source>&amp;lower case</source>
-        <translation type="unfinished"></translation>
+        <translation>minuscules</translation>
     </message>
     <message>
         <source>Single Space&amp;s</source>
-        <translation type="unfinished"></translation>
+        <translation>Espaces simples</translation>
     </message>
 </context>
 <context>
     <name>TrackInfo</name>
     <message>
         <source>Folder</source>
-        <translation type="unfinished">Dossier</translation>
+        <translation>Dossier</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée</translation>
     </message>
     <message>
         <source>Bit Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Débit</translation>
     </message>
     <message>
         <source>Sample Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Échantillonnage</translation>
     </message>
     <message>
         <source>Channels</source>
-        <translation type="unfinished"></translation>
+        <translation>Canaux</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille</translation>
     </message>
     <message>
         <source>Modified</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifié</translation>
     </message>
     <message>
         <source>%1 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kbit/s</translation>
     </message>
     <message>
         <source>%1 Hz</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Hz</translation>
     </message>
 </context>
 <context>
@@ -1005,11 +1005,11 @@
     </message>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lire</translation>
     </message>
     <message>
         <source>&amp;Open Containing Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir le dossier</translation>
     </message>
 </context>
 <context>
@@ -1098,23 +1098,23 @@
     </message>
     <message>
         <source>Album Artist</source>
-        <translation type="unfinished"></translation>
+        <translation>Artiste de l’album</translation>
     </message>
     <message>
         <source>Composer</source>
-        <translation type="unfinished"></translation>
+        <translation>Compositeur</translation>
     </message>
     <message>
         <source>Tracks</source>
-        <translation type="unfinished">Pistes</translation>
+        <translation>Pistes</translation>
     </message>
     <message>
         <source>Disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Disque</translation>
     </message>
     <message>
         <source>Discs</source>
-        <translation type="unfinished"></translation>
+        <translation>Disques</translation>
     </message>
 </context>
 <context>
