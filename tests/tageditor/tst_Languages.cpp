@@ -25,7 +25,7 @@ QString sharedMnemonics(const QStringList &texts)
     for (const QString &text : texts) {
         const QKeySequence key = QKeySequence::mnemonic(text);
         if (!key.isEmpty() && keys.contains(key))
-            shared += key.toString() + u' ';
+            shared += text + u' ';
         keys.insert(key);
     }
     return shared;
@@ -68,7 +68,7 @@ QStringList spoken()
     const TransformDialog dialog({}, 0, nullptr);
     const auto *buttons = dialog.findChild<QDialogButtonBox *>();
     const QString cancel = buttons->button(QDialogButtonBox::Cancel)->text().remove(u'&');
-    const QString find = window.menuBar()->actions().at(1)->menu()->actions().value(7)->text();
+    const QString find = window.menuBar()->actions().at(1)->menu()->actions().value(12)->text();
     const QString count = MainWindow::tr("%Ln tracks", nullptr, 1) + MainWindow::tr("%Ln tracks", nullptr, 0);
     return {window.menuBar()->actions().first()->text(), find, cancel, count, shared.join(QString())};
 }

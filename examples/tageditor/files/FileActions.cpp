@@ -77,7 +77,7 @@ void FileActions::addActions(QMenu *menu)
                         &FileActions::askForPattern),
         menu->addAction(tr("&Move to Folder…"), this, [this] { askForFolder(false); }),
         menu->addAction(tr("&Copy to Folder…"), this, [this] { askForFolder(true); }),
-        menu->addAction(tr("Move to &Trash"), this, &FileActions::trash),
+        menu->addAction(tr("Move to Tras&h"), this, &FileActions::trash),
     };
     m_putBack = menu->addAction(tr("Put Files &Back"), this, &FileActions::putBack);
     updateActions();

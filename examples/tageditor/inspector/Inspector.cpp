@@ -119,13 +119,13 @@ QString Inspector::label(TrackField field)
     case TrackField::Artist:
         return tr("&Artist:");
     case TrackField::Album:
-        return tr("Al&bum:");
+        return tr("A&lbum:");
     case TrackField::AlbumArtist:
-        return tr("Album a&rtist:");
+        return tr("Album ar&tist:");
     case TrackField::Composer:
         return tr("Com&poser:");
     case TrackField::Genre:
-        return tr("&Genre:");
+        return tr("Ge&nre:");
     case TrackField::Year:
         return tr("&Year:");
     case TrackField::Number:

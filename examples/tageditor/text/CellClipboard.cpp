@@ -63,8 +63,8 @@ void CellClipboard::addActions(QMenu *menu)
         empty(tr("Cut"));
     });
     add(tr("Cop&y"), QKeySequence::Copy, [this] { copy(); });
-    add(tr("&Paste"), QKeySequence::Paste, [this] { paste(); });
-    add(tr("Cl&ear"), QKeySequence::Delete, [this] { empty(tr("Clear")); });
+    add(tr("Paste"), QKeySequence::Paste, [this] { paste(); });
+    add(tr("Clear"), QKeySequence::Delete, [this] { empty(tr("Clear")); });
 }
 
 /// Those that are shown, from the left.

@@ -75,7 +75,7 @@ void TextEditing::addTransforms(QMenu *menu)
     m_forCells.append(menu->addAction(tr("Num&ber Tracks…"), QKeySequence(u"Ctrl+Shift+N"_s), this,
                                       &TextEditing::askForNumbers));
     m_forCells.append(
-        menu->addAction(tr("&All Tags…"), QKeySequence(u"Ctrl+I"_s), this, &TextEditing::askForAllTags));
+        menu->addAction(tr("All Ta&gs…"), QKeySequence(u"Ctrl+I"_s), this, &TextEditing::askForAllTags));
     updateActions();
 }
 

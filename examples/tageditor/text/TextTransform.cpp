@@ -80,7 +80,7 @@ const QList<TextTransform> &TextTransform::all()
         withoutRules(tr("UPP&ER CASE"), [](QStringView text) { return QLocale().toUpper(text.toString()); }),
         withoutRules(tr("&lower case"), [](QStringView text) { return QLocale().toLower(text.toString()); }),
         withoutRules(tr("T&rim Spaces"), &withoutOuterSpaces),
-        withoutRules(tr("Single Space&s"), &withSingleSpaces),
+        withoutRules(tr("Single Spaces"), &withSingleSpaces),
         withoutRules(tr("Strip Pu&nctuation"), &withoutPunctuation),
     };
     return transforms;

@@ -137,7 +137,7 @@
     <name>CellClipboard</name>
     <message>
         <source>Cu&amp;t</source>
-        <translation>Aussc&amp;hneiden</translation>
+        <translation>Ausschneiden</translation>
     </message>
     <message>
         <source>Cut</source>
@@ -145,15 +145,7 @@
     </message>
     <message>
         <source>Cop&amp;y</source>
-        <translation>&amp;Kopieren</translation>
-    </message>
-    <message>
-        <source>&amp;Paste</source>
-        <translation>E&amp;infügen</translation>
-    </message>
-    <message>
-        <source>Cl&amp;ear</source>
-        <translation>&amp;Leeren</translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -298,12 +290,12 @@
         <translation>Dateien &amp;umbenennen …</translation>
     </message>
     <message>
-        <source>Move to &amp;Trash</source>
-        <translation>In den &amp;Papierkorb verschieben</translation>
-    </message>
-    <message>
         <source>Move to Trash</source>
         <translation>In den Papierkorb verschieben</translation>
+    </message>
+    <message>
+        <source>Move to Tras&amp;h</source>
+        <translation>In den &amp;Papierkorb verschieben</translation>
     </message>
 </context>
 <context>
@@ -426,27 +418,15 @@
     </message>
     <message>
         <source>T&amp;itle:</source>
-        <translation>Ti&amp;tel:</translation>
+        <translation>Titel:</translation>
     </message>
     <message>
         <source>&amp;Artist:</source>
         <translation>Interpr&amp;et:</translation>
     </message>
     <message>
-        <source>Al&amp;bum:</source>
-        <translation>Album:</translation>
-    </message>
-    <message>
-        <source>Album a&amp;rtist:</source>
-        <translation>Album-Interpret:</translation>
-    </message>
-    <message>
         <source>Com&amp;poser:</source>
         <translation>Komp&amp;onist:</translation>
-    </message>
-    <message>
-        <source>&amp;Genre:</source>
-        <translation>&amp;Genre:</translation>
     </message>
     <message>
         <source>&amp;Year:</source>
@@ -468,6 +448,18 @@
     <message>
         <source>The tracks differ. The Delete key empties this tag of all.</source>
         <translation>Die Stücke unterscheiden sich. Die Entf-Taste leert dieses Tag bei allen.</translation>
+    </message>
+    <message>
+        <source>A&amp;lbum:</source>
+        <translation>Album:</translation>
+    </message>
+    <message>
+        <source>Album ar&amp;tist:</source>
+        <translation>Album-Interpret:</translation>
+    </message>
+    <message>
+        <source>Ge&amp;nre:</source>
+        <translation>Genre:</translation>
     </message>
 </context>
 <context>
@@ -887,10 +879,6 @@
         <translation>Stücke nummerieren …</translation>
     </message>
     <message>
-        <source>&amp;All Tags…</source>
-        <translation>&amp;Alle Tags …</translation>
-    </message>
-    <message>
         <source>Fill Tags</source>
         <translation>Tags füllen</translation>
     </message>
@@ -901,6 +889,10 @@
     <message>
         <source>Number Tracks</source>
         <translation>Stücke nummerieren</translation>
+    </message>
+    <message>
+        <source>All Ta&amp;gs…</source>
+        <translation>Alle Tags …</translation>
     </message>
 </context>
 <context>
@@ -946,7 +938,7 @@
         <translation>kleinbuchstaben</translation>
     </message>
     <message>
-        <source>Single Space&amp;s</source>
+        <source>Single Spaces</source>
         <translation>Einfache Leerzeichen</translation>
     </message>
 </context>

@@ -137,7 +137,7 @@
     <name>CellClipboard</name>
     <message>
         <source>Cu&amp;t</source>
-        <translation>Co&amp;uper</translation>
+        <translation>Couper</translation>
     </message>
     <message>
         <source>Cut</source>
@@ -145,15 +145,7 @@
     </message>
     <message>
         <source>Cop&amp;y</source>
-        <translation>Co&amp;pier</translation>
-    </message>
-    <message>
-        <source>&amp;Paste</source>
-        <translation>C&amp;oller</translation>
-    </message>
-    <message>
-        <source>Cl&amp;ear</source>
-        <translation>&amp;Vider</translation>
+        <translation>Copier</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -298,11 +290,11 @@
         <translation>Reno&amp;mmer les fichiers…</translation>
     </message>
     <message>
-        <source>Move to &amp;Trash</source>
-        <translation>Mettre à la &amp;corbeille</translation>
+        <source>Move to Trash</source>
+        <translation>Mettre à la corbeille</translation>
     </message>
     <message>
-        <source>Move to Trash</source>
+        <source>Move to Tras&amp;h</source>
         <translation>Mettre à la corbeille</translation>
     </message>
 </context>
@@ -426,27 +418,15 @@
     </message>
     <message>
         <source>T&amp;itle:</source>
-        <translation>T&amp;itre :</translation>
+        <translation>Titre :</translation>
     </message>
     <message>
         <source>&amp;Artist:</source>
         <translation>Artiste :</translation>
     </message>
     <message>
-        <source>Al&amp;bum:</source>
-        <translation>Al&amp;bum :</translation>
-    </message>
-    <message>
-        <source>Album a&amp;rtist:</source>
-        <translation>Artiste de l’album :</translation>
-    </message>
-    <message>
         <source>Com&amp;poser:</source>
-        <translation>Com&amp;positeur :</translation>
-    </message>
-    <message>
-        <source>&amp;Genre:</source>
-        <translation>&amp;Genre :</translation>
+        <translation>Compositeur :</translation>
     </message>
     <message>
         <source>&amp;Year:</source>
@@ -454,7 +434,7 @@
     </message>
     <message>
         <source>Trac&amp;k:</source>
-        <translation>Pis&amp;te :</translation>
+        <translation>Piste :</translation>
     </message>
     <message>
         <source>&amp;Disc:</source>
@@ -468,6 +448,18 @@
     <message>
         <source>The tracks differ. The Delete key empties this tag of all.</source>
         <translation>Les pistes diffèrent. La touche Suppr vide cette étiquette pour toutes.</translation>
+    </message>
+    <message>
+        <source>A&amp;lbum:</source>
+        <translation>Album :</translation>
+    </message>
+    <message>
+        <source>Album ar&amp;tist:</source>
+        <translation>Artiste de l’album :</translation>
+    </message>
+    <message>
+        <source>Ge&amp;nre:</source>
+        <translation>Genre :</translation>
     </message>
 </context>
 <context>
@@ -887,10 +879,6 @@
         <translation>Numéroter les pistes…</translation>
     </message>
     <message>
-        <source>&amp;All Tags…</source>
-        <translation>Toutes les étiquettes…</translation>
-    </message>
-    <message>
         <source>Fill Tags</source>
         <translation>Remplir les étiquettes</translation>
     </message>
@@ -901,6 +889,10 @@
     <message>
         <source>Number Tracks</source>
         <translation>Numéroter les pistes</translation>
+    </message>
+    <message>
+        <source>All Ta&amp;gs…</source>
+        <translation>Toutes les étiquettes…</translation>
     </message>
 </context>
 <context>
@@ -946,7 +938,7 @@
         <translation>minuscules</translation>
     </message>
     <message>
-        <source>Single Space&amp;s</source>
+        <source>Single Spaces</source>
         <translation>Espaces simples</translation>
     </message>
 </context>
