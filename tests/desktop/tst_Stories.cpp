@@ -82,7 +82,7 @@ private Q_SLOTS:
         keys(u"Return"_s);
         type(u" no. "_s);
         keys(u"ctrl+equal"_s);
-        press(u"Down"_s, 14); // the digits
+        press(u"Down"_s, 19); // the digits
         keys(u"Return"_s);
         keys(u"ctrl+shift+h"_s);
         QVERIFY(comes(u"Preview"_s));

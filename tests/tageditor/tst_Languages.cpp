@@ -25,7 +25,7 @@ QString sharedMnemonics(const QStringList &texts)
     for (const QString &text : texts) {
         const QKeySequence key = QKeySequence::mnemonic(text);
         if (!key.isEmpty() && keys.contains(key))
-            shared += text + u' ';
+            shared += key.toString() + u' ';
         keys.insert(key);
     }
     return shared;

@@ -110,14 +110,14 @@ bool Inspector::eventFilter(QObject *watched, QEvent *event)
     return QWidget::eventFilter(watched, event);
 }
 
-/// Labels with letters for the keyboard that no menu has.
+/// Labels with letters for the keyboard, as far as the menus leave some in every language.
 QString Inspector::label(TrackField field)
 {
     switch (field) {
     case TrackField::Title:
         return tr("T&itle:");
     case TrackField::Artist:
-        return tr("&Artist:");
+        return tr("Artist:");
     case TrackField::Album:
         return tr("A&lbum:");
     case TrackField::AlbumArtist:
@@ -125,11 +125,11 @@ QString Inspector::label(TrackField field)
     case TrackField::Composer:
         return tr("Com&poser:");
     case TrackField::Genre:
-        return tr("Ge&nre:");
+        return tr("Genre:");
     case TrackField::Year:
         return tr("&Year:");
     case TrackField::Number:
-        return tr("Trac&k:");
+        return tr("Track:");
     case TrackField::Disc:
         return tr("&Disc:");
     default:

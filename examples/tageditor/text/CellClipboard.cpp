@@ -58,11 +58,11 @@ void CellClipboard::addActions(QMenu *menu)
         action->setShortcutContext(Qt::WidgetShortcut);
         m_table->addAction(action);
     };
-    add(tr("Cu&t"), QKeySequence::Cut, [this] {
+    add(tr("Cut"), QKeySequence::Cut, [this] {
         copy();
         empty(tr("Cut"));
     });
-    add(tr("Cop&y"), QKeySequence::Copy, [this] { copy(); });
+    add(tr("Copy"), QKeySequence::Copy, [this] { copy(); });
     add(tr("Paste"), QKeySequence::Paste, [this] { paste(); });
     add(tr("Clear"), QKeySequence::Delete, [this] { empty(tr("Clear")); });
 }

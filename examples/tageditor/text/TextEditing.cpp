@@ -72,7 +72,7 @@ void TextEditing::addTransforms(QMenu *menu)
     menu->addSeparator();
     m_forCells.append(
         menu->addAction(tr("&Fill Tags…"), QKeySequence(u"Ctrl+T"_s), this, &TextEditing::askForPattern));
-    m_forCells.append(menu->addAction(tr("Num&ber Tracks…"), QKeySequence(u"Ctrl+Shift+N"_s), this,
+    m_forCells.append(menu->addAction(tr("Number Tracks…"), QKeySequence(u"Ctrl+Shift+N"_s), this,
                                       &TextEditing::askForNumbers));
     m_forCells.append(
         menu->addAction(tr("All Ta&gs…"), QKeySequence(u"Ctrl+I"_s), this, &TextEditing::askForAllTags));

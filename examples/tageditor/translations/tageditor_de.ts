@@ -136,16 +136,8 @@
 <context>
     <name>CellClipboard</name>
     <message>
-        <source>Cu&amp;t</source>
-        <translation>Ausschneiden</translation>
-    </message>
-    <message>
         <source>Cut</source>
         <translation>Ausschneiden</translation>
-    </message>
-    <message>
-        <source>Cop&amp;y</source>
-        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -158,6 +150,10 @@
     <message>
         <source>Paste</source>
         <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
     </message>
 </context>
 <context>
@@ -418,11 +414,7 @@
     </message>
     <message>
         <source>T&amp;itle:</source>
-        <translation>Titel:</translation>
-    </message>
-    <message>
-        <source>&amp;Artist:</source>
-        <translation>Interpr&amp;et:</translation>
+        <translation>T&amp;itel:</translation>
     </message>
     <message>
         <source>Com&amp;poser:</source>
@@ -433,12 +425,8 @@
         <translation>&amp;Jahr:</translation>
     </message>
     <message>
-        <source>Trac&amp;k:</source>
-        <translation>St&amp;ück:</translation>
-    </message>
-    <message>
         <source>&amp;Disc:</source>
-        <translation>D&amp;isc:</translation>
+        <translation>Dis&amp;c:</translation>
     </message>
     <message>
         <source>of</source>
@@ -451,15 +439,23 @@
     </message>
     <message>
         <source>A&amp;lbum:</source>
-        <translation>Album:</translation>
+        <translation>Alb&amp;um:</translation>
     </message>
     <message>
         <source>Album ar&amp;tist:</source>
-        <translation>Album-Interpret:</translation>
+        <translation>Album-Inter&amp;pret:</translation>
     </message>
     <message>
-        <source>Ge&amp;nre:</source>
+        <source>Artist:</source>
+        <translation>Interpret:</translation>
+    </message>
+    <message>
+        <source>Genre:</source>
         <translation>Genre:</translation>
+    </message>
+    <message>
+        <source>Track:</source>
+        <translation>Stück:</translation>
     </message>
 </context>
 <context>
@@ -875,10 +871,6 @@
         <translation>Tags &amp;füllen …</translation>
     </message>
     <message>
-        <source>Num&amp;ber Tracks…</source>
-        <translation>Stücke nummerieren …</translation>
-    </message>
-    <message>
         <source>Fill Tags</source>
         <translation>Tags füllen</translation>
     </message>
@@ -892,7 +884,11 @@
     </message>
     <message>
         <source>All Ta&amp;gs…</source>
-        <translation>Alle Tags …</translation>
+        <translation>Alle Ta&amp;gs …</translation>
+    </message>
+    <message>
+        <source>Number Tracks…</source>
+        <translation>Stücke nummerieren …</translation>
     </message>
 </context>
 <context>
@@ -930,16 +926,16 @@
         <translation>Satzzeichen e&amp;ntfernen</translation>
     </message>
     <message>
-        <source>UPP&amp;ER CASE</source>
+        <source>Single Spaces</source>
+        <translation>Einfache Leerzeichen</translation>
+    </message>
+    <message>
+        <source>UPPER CASE</source>
         <translation>GROSSBUCHSTABEN</translation>
     </message>
     <message>
-        <source>&amp;lower case</source>
+        <source>lower case</source>
         <translation>kleinbuchstaben</translation>
-    </message>
-    <message>
-        <source>Single Spaces</source>
-        <translation>Einfache Leerzeichen</translation>
     </message>
 </context>
 <context>

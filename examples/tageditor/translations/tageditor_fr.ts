@@ -136,16 +136,8 @@
 <context>
     <name>CellClipboard</name>
     <message>
-        <source>Cu&amp;t</source>
-        <translation>Couper</translation>
-    </message>
-    <message>
         <source>Cut</source>
         <translation>Couper</translation>
-    </message>
-    <message>
-        <source>Cop&amp;y</source>
-        <translation>Copier</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -158,6 +150,10 @@
     <message>
         <source>Paste</source>
         <translation>Coller</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
     </message>
 </context>
 <context>
@@ -295,7 +291,7 @@
     </message>
     <message>
         <source>Move to Tras&amp;h</source>
-        <translation>Mettre à la corbeille</translation>
+        <translation>Mettre à la corbei&amp;lle</translation>
     </message>
 </context>
 <context>
@@ -418,23 +414,15 @@
     </message>
     <message>
         <source>T&amp;itle:</source>
-        <translation>Titre :</translation>
-    </message>
-    <message>
-        <source>&amp;Artist:</source>
-        <translation>Artiste :</translation>
+        <translation>Tit&amp;re :</translation>
     </message>
     <message>
         <source>Com&amp;poser:</source>
-        <translation>Compositeur :</translation>
+        <translation>C&amp;ompositeur :</translation>
     </message>
     <message>
         <source>&amp;Year:</source>
-        <translation>A&amp;nnée :</translation>
-    </message>
-    <message>
-        <source>Trac&amp;k:</source>
-        <translation>Piste :</translation>
+        <translation>Ann&amp;ée :</translation>
     </message>
     <message>
         <source>&amp;Disc:</source>
@@ -451,15 +439,23 @@
     </message>
     <message>
         <source>A&amp;lbum:</source>
-        <translation>Album :</translation>
+        <translation>Al&amp;bum :</translation>
     </message>
     <message>
         <source>Album ar&amp;tist:</source>
-        <translation>Artiste de l’album :</translation>
+        <translation>Artiste de l’alb&amp;um :</translation>
     </message>
     <message>
-        <source>Ge&amp;nre:</source>
+        <source>Artist:</source>
+        <translation>Artiste :</translation>
+    </message>
+    <message>
+        <source>Genre:</source>
         <translation>Genre :</translation>
+    </message>
+    <message>
+        <source>Track:</source>
+        <translation>Piste :</translation>
     </message>
 </context>
 <context>
@@ -875,10 +871,6 @@
         <translation>Remplir les éti&amp;quettes…</translation>
     </message>
     <message>
-        <source>Num&amp;ber Tracks…</source>
-        <translation>Numéroter les pistes…</translation>
-    </message>
-    <message>
         <source>Fill Tags</source>
         <translation>Remplir les étiquettes</translation>
     </message>
@@ -892,7 +884,11 @@
     </message>
     <message>
         <source>All Ta&amp;gs…</source>
-        <translation>Toutes les étiquettes…</translation>
+        <translation>Toutes les étiqu&amp;ettes…</translation>
+    </message>
+    <message>
+        <source>Number Tracks…</source>
+        <translation>Numéroter les pistes…</translation>
     </message>
 </context>
 <context>
@@ -930,16 +926,16 @@
         <translation>Supprimer la po&amp;nctuation</translation>
     </message>
     <message>
-        <source>UPP&amp;ER CASE</source>
+        <source>Single Spaces</source>
+        <translation>Espaces simples</translation>
+    </message>
+    <message>
+        <source>UPPER CASE</source>
         <translation>MAJUSCULES</translation>
     </message>
     <message>
-        <source>&amp;lower case</source>
+        <source>lower case</source>
         <translation>minuscules</translation>
-    </message>
-    <message>
-        <source>Single Spaces</source>
-        <translation>Espaces simples</translation>
     </message>
 </context>
 <context>
