@@ -868,7 +868,7 @@
     </message>
     <message>
         <source>&amp;Fill Tags…</source>
-        <translation>Remplir les éti&amp;quettes…</translation>
+        <translation>Remp&amp;lir les étiquettes…</translation>
     </message>
     <message>
         <source>Fill Tags</source>
@@ -884,7 +884,7 @@
     </message>
     <message>
         <source>All Ta&amp;gs…</source>
-        <translation>Toutes les étiqu&amp;ettes…</translation>
+        <translation>Toutes les éti&amp;quettes…</translation>
     </message>
     <message>
         <source>Number Tracks…</source>
