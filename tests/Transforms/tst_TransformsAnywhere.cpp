@@ -134,7 +134,7 @@ private Q_SLOTS:
         QCOMPARE(expected.takeFirst(), u"C"_s);
         expected.removeFirst(); // the date
         QVERIFY(expected.size() > 50);
-        for (const QString &name : {u"en_US"_s, u"tr_TR"_s, u"ar_EG"_s, u"ja_JP"_s}) {
+        for (const QString &name : {u"en_US"_s, u"tr_TR"_s, u"ar_EG"_s, u"zh_CN"_s}) {
             QStringList results = resultsUnder(name + u".UTF-8"_s);
             QCOMPARE(results.takeFirst(), name); // else nothing would be shown
             results.removeFirst();

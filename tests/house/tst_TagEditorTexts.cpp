@@ -120,7 +120,7 @@ private Q_SLOTS:
 
     void everyTextIsTranslated()
     {
-        for (const QString &language : {u"de"_s, u"fr"_s, u"en"_s}) {
+        for (const QString &language : {u"de"_s, u"es"_s, u"fr"_s, u"ja"_s, u"en"_s}) {
             const QList<Message> messages = updatedTable(language);
             QVERIFY(messages.size() > 10);
             for (const Message &message : messages)

@@ -85,6 +85,8 @@ private Q_SLOTS:
         const std::tuple<QString, QString> rows[] = {
             {u"de_AT"_s, u"&Datei|&Suchen …|Abbrechen|1 Stück0 Stücke|"_s},
             {u"pl:fr_CA:de"_s, u"&Fichier|Rec&hercher…|Annuler|1\u00a0piste0\u00a0piste|"_s},
+            {u"es_MX"_s, u"&Archivo|&Buscar…|Cancelar|1 pista0 pistas|"_s},
+            {u"ja"_s, u"ファイル(&F)|検索(&F)…|キャンセル|1 トラック0 トラック|"_s},
             {u"en"_s, u"&File|&Find…|Cancel|1 track0 tracks|"_s},
             {u"pl"_s, u"&File|&Find…|Cancel|1 track0 tracks|"_s}, // though Qt itself speaks it
         };
