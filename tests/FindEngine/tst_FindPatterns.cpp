@@ -154,7 +154,8 @@ private Q_SLOTS:
         artist.setRepresentsNumericValue(true);
         Item restored = archivedAndRestored(artist);
         QVERIFY(restored.isDummy());
-        QVERIFY(!restored.valueTransformerName() && !restored.representsNumericValue());
+        QVERIFY(!restored.valueTransformerName());
+        QVERIFY(!restored.representsNumericValue());
         restored.setTitle(u"Other"_s); // the token title was archived as the title stood in for it
         QCOMPARE(*restored.tokenTitle(), u"Artist");
     }
@@ -221,12 +222,14 @@ private Q_SLOTS:
         QStringList presented;
         ZEVErrorPresentation::setPresenter(
             [&](const ZEVError &error) { presented.append(error.localizedDescription()); });
-        QVERIFY(!ZEVFindPanelQuery().searchExpression() && !query({}).searchExpression());
+        QVERIFY(!ZEVFindPanelQuery().searchExpression());
+        QVERIFY(!query({}).searchExpression());
         QVERIFY(query({u""_s}).searchExpression()); // an empty text is a pattern
         QVERIFY(query({u"(a"_s}).searchExpression()); // and a parenthesis literal
         QCOMPARE(presented.size(), 0);
         const auto broken = query({u"(a"_s}, ZEVFindPanelQuery::RegularExpression);
-        QVERIFY(!broken.searchExpression() && !broken.searchExpression());
+        QVERIFY(!broken.searchExpression());
+        QVERIFY(!broken.searchExpression());
         ZEVErrorPresentation::setPresenter({});
         QCOMPARE(presented.size(), 2); // at every call
         QVERIFY(presented.first().contains(u"(a"));

@@ -116,7 +116,8 @@ private Q_SLOTS:
         });
         const QSignalSpy performed(&finder, &ZEVTextFinder::searchPerformed);
         QVERIFY(finder.find(u"a"_s) < 100);
-        QVERIFY(finder.isSearching() && performed.isEmpty());
+        QVERIFY(finder.isSearching());
+        QVERIFY(performed.isEmpty());
         QTRY_COMPARE(performed.size(), 1);
         QCOMPARE(finder.numberOfMatches(), 100);
 

@@ -306,7 +306,8 @@ private Q_SLOTS:
 
         round.finder.search(request);
         QVERIFY(round.finder.stopSearch());
-        QVERIFY(!round.finder.stopSearch() && !round.finder.isSearching());
+        QVERIFY(!round.finder.stopSearch());
+        QVERIFY(!round.finder.isSearching());
         QCOMPARE(round.finder.numberOfMatches(), 1);
         round.finder.search(request);
         round.client.text.prepend(u"!\n"_s); // what has been found lies elsewhere now

@@ -54,9 +54,12 @@ private Q_SLOTS:
         const auto isEnter = [](QEvent::Type type, const QString &text) {
             return ZEVEventHelpers::isEnterKey(QKeyEvent(type, Qt::Key_Return, Qt::NoModifier, text));
         };
-        QVERIFY(isEnter(QEvent::KeyPress, u"\r"_s) && isEnter(QEvent::KeyPress, u"\x03"_s));
-        QVERIFY(!isEnter(QEvent::KeyRelease, u"\r"_s) && !isEnter(QEvent::KeyPress, u"\r\r"_s));
-        QVERIFY(!isEnter(QEvent::KeyPress, u"\n"_s) && !isEnter(QEvent::KeyPress, u""_s));
+        QVERIFY(isEnter(QEvent::KeyPress, u"\r"_s));
+        QVERIFY(isEnter(QEvent::KeyPress, u"\x03"_s));
+        QVERIFY(!isEnter(QEvent::KeyRelease, u"\r"_s));
+        QVERIFY(!isEnter(QEvent::KeyPress, u"\r\r"_s));
+        QVERIFY(!isEnter(QEvent::KeyPress, u"\n"_s));
+        QVERIFY(!isEnter(QEvent::KeyPress, u""_s));
         QVERIFY(!ZEVEventHelpers::isEnterKey(QEvent(QEvent::FocusIn)));
     }
 };

@@ -87,7 +87,8 @@ private Q_SLOTS:
         QDir(m_folder.path()).mkpath(u"pictures"_s);
         QDir(m_folder.path()).mkpath(u"empty"_s);
         QFile picture(m_picture);
-        QVERIFY(picture.open(QFile::WriteOnly) && picture.write(png(30)) > 0);
+        QVERIFY(picture.open(QFile::WriteOnly));
+        QVERIFY(picture.write(png(30)) > 0);
         picture.close();
         QDir(m_desktop->home()).mkpath(u"zevglobalutils"_s);
         ZEVUserDefaults::setStandardStore(std::make_unique<QSettings>(
@@ -125,7 +126,8 @@ private Q_SLOTS:
                                              [&] { return !alerts().isEmpty(); });
         m_desktop->tool(u"key Escape"_s);
         QCOMPARE(umount2(folder.constData(), MNT_DETACH), 0); // the file manager looks at it
-        QVERIFY(isShown && Desktop::waitFor([&] { return alerts().isEmpty(); }));
+        QVERIFY(isShown);
+        QVERIFY(Desktop::waitFor([&] { return alerts().isEmpty(); }));
     }
 
     void aPictureOfTheFolderBecomesTheArtwork()

@@ -111,7 +111,8 @@ private Q_SLOTS:
     {
         for (const QString &name : {u"Track_12.mp3"_s, u"Track_7.m4a"_s}) {
             QFile other(path(name));
-            QVERIFY(other.open(QFile::WriteOnly) && other.write("another") > 0);
+            QVERIFY(other.open(QFile::WriteOnly));
+            QVERIFY(other.write("another") > 0);
         }
         keys(u"ctrl+a ctrl+shift+r"_s);
         QVERIFY(comes(u"Rename"_s));

@@ -164,7 +164,8 @@ private Q_SLOTS:
     {
         Editor editor;
         editor.window.setDiscardQuestion([] { return true; });
-        QVERIFY(editor.ready && !editor.well->isEditable());
+        QVERIFY(editor.ready);
+        QVERIFY(!editor.well->isEditable());
         const QString texts[] = {u"PNG"_s, u"PNG"_s, u"Mixed artwork"_s};
         for (int row = 0; row < 3; ++row) {
             editor.select(row, TrackField::Title);

@@ -246,7 +246,9 @@ private Q_SLOTS:
         for (const Format &format : formats) {
             const QString path = folder.filePath(u"cover."_s + format.extension);
             QFile stored(path);
-            QVERIFY(stored.open(QFile::WriteOnly) && stored.write(format.bytes) > 0 && stored.flush());
+            QVERIFY(stored.open(QFile::WriteOnly));
+            QVERIFY(stored.write(format.bytes) > 0);
+            QVERIFY(stored.flush());
             const QString cells = QStringList{identified(format),
                                               sizes(format),
                                               shown(format),

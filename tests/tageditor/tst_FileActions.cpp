@@ -111,8 +111,10 @@ private Q_SLOTS:
         QVERIFY(Samples::copy(u"Maree/04 Ete.mp3"_s, folder.filePath(u"x.mp3"_s)));
         QVERIFY(Samples::copy(u"Maree/05 Fenetre.flac"_s, folder.filePath(u"y.flac"_s)));
         Shown shown;
-        QVERIFY(shown.visible && shown.open(folder.path()));
-        QVERIFY(!shown.action(u"Rename"_s)->isEnabled() && !shown.action(u"Put Files"_s)->isEnabled());
+        QVERIFY(shown.visible);
+        QVERIFY(shown.open(folder.path()));
+        QVERIFY(!shown.action(u"Rename"_s)->isEnabled());
+        QVERIFY(!shown.action(u"Put Files"_s)->isEnabled());
         shown.select(0, TrackField::Title);
         shown.select(1, TrackField::Title);
         shown.action(u"Rename"_s)->trigger();
@@ -127,11 +129,13 @@ private Q_SLOTS:
         line->setText(u"%track% - %title%"_s);
         QTest::keyClick(dialog, Qt::Key_Return);
         QTRY_COMPARE(shown.text(0, TrackField::FileName), after);
-        QVERIFY(QFile::exists(folder.filePath(after)) && !QFile::exists(folder.filePath(u"x.mp3"_s)));
+        QVERIFY(QFile::exists(folder.filePath(after)));
+        QVERIFY(!QFile::exists(folder.filePath(u"x.mp3"_s)));
         QTRY_VERIFY(shown.action(u"Undo Rename Files"_s) && shown.action(u"Undo"_s)->isEnabled());
         const QByteArray renamed = Trees::names(folder.path().toUtf8()).join('|');
         shown.action(u"Undo"_s)->trigger();
-        QVERIFY(!shown.action(u"Undo"_s)->isEnabled() && !shown.action(u"Redo"_s)->isEnabled()); // under way
+        QVERIFY(!shown.action(u"Undo"_s)->isEnabled());
+        QVERIFY(!shown.action(u"Redo"_s)->isEnabled()); // under way
         QTRY_COMPARE(shown.text(0, TrackField::FileName), u"x.mp3"_s);
         QCOMPARE(Trees::names(folder.path().toUtf8()).join('|'), "x.mp3|y.flac");
         QTRY_VERIFY(shown.action(u"Redo"_s)->isEnabled());
@@ -156,7 +160,8 @@ private Q_SLOTS:
             QVERIFY(Samples::copy(name.endsWith(u'c') ? u"Maree/05 Fenetre.flac"_s : u"Maree/04 Ete.mp3"_s,
                                   folder.filePath(name)));
         Shown shown;
-        QVERIFY(shown.visible && shown.open(folder.path()));
+        QVERIFY(shown.visible);
+        QVERIFY(shown.open(folder.path()));
         QVERIFY(Samples::copy(u"Maree/04 Ete.mp3"_s, folder.filePath(u"same.mp3"_s)));
         ZEVAlert::setRunner([](ZEVAlert &) {
             QTest::qWait(1200); // as long as it takes to notice what other programs do, and more
@@ -183,7 +188,8 @@ private Q_SLOTS:
         for (const QString &name : {u"a.mp3"_s, u"b.mp3"_s, u"c.mp3"_s})
             QVERIFY(Samples::copy(u"Maree/04 Ete.mp3"_s, folder.filePath(name)));
         Shown shown;
-        QVERIFY(shown.visible && shown.open(folder.path()));
+        QVERIFY(shown.visible);
+        QVERIFY(shown.open(folder.path()));
         const auto names = [&] {
             QString rows;
             for (int row = 0; row < shown.window.tracks().rowCount(); ++row)
@@ -212,14 +218,16 @@ private Q_SLOTS:
             QVERIFY(Trees::write(files.path(name), name));
         QVERIFY(files.run({{"a", "b"}, {"b", "a"}, {"c", "d"}, {"d", "e"}}));
         QCOMPARE(files.contents(), "a=b b=a d=c e=d");
-        QVERIFY(files.result.errors.isEmpty() && files.undo());
+        QVERIFY(files.result.errors.isEmpty());
+        QVERIFY(files.undo());
         QCOMPARE(files.contents(), "a=a b=b c=c d=d");
     }
 
     void foldersAreMadeAndGoAgain()
     {
         Batches files;
-        QVERIFY(Trees::write(files.path("a"), "a") && Trees::write(files.path("b"), "b"));
+        QVERIFY(Trees::write(files.path("a"), "a"));
+        QVERIFY(Trees::write(files.path("b"), "b"));
         QVERIFY(files.run({{"a", "x/y/a"}, {"b", "x/z/b"}}));
         QCOMPARE(Trees::read(files.path("x/y/a")) + Trees::read(files.path("x/z/b")), "ab");
         QVERIFY(Trees::write(files.path("x/z/other"), "other"));
@@ -239,14 +247,16 @@ private Q_SLOTS:
         for (const auto &[button, isCopy, expected] : rows) {
             const Answer answer(button);
             Batches files;
-            QVERIFY(Trees::write(files.path("a"), "new") && Trees::write(files.path("b"), "old"));
+            QVERIFY(Trees::write(files.path("a"), "new"));
+            QVERIFY(Trees::write(files.path("b"), "old"));
             QVERIFY(files.run({{"a", "b"}}, isCopy));
             COMPARE_ROW(button, files.contents(), expected);
             COMPARE_ROW(button, files.result.isStopped, button == 3);
             COMPARE_ROW(button, files.result.skipped, button == 2 ? 1 : 0);
             const FileJournal reopened(files.folder.filePath(u"journal"_s));
             COMPARE_ROW(button, reopened.changes().size(), button < 2 ? 1 : 0);
-            QVERIFY(files.undo() && files.journal.isEmpty());
+            QVERIFY(files.undo());
+            QVERIFY(files.journal.isEmpty());
             COMPARE_ROW(button, files.contents(), QByteArray("a=new b=old"));
             QCOMPARE(QDir(m_home.path() + u"/Trash/info"_s).entryList({u"b*"_s}, QDir::Files).size(),
                      QDir(m_home.path() + u"/Trash/files"_s).entryList({u"b*"_s}, QDir::Files).size());
@@ -256,27 +266,30 @@ private Q_SLOTS:
     void whatCannotBeTakenBackStaysInTheJournal()
     {
         Batches files;
-        QVERIFY(Trees::write(files.path("a"), "a") && files.run({{"a", "b"}}));
+        QVERIFY(Trees::write(files.path("a"), "a"));
+        QVERIFY(files.run({{"a", "b"}}));
         QVERIFY(Trees::write(files.path("a"), "another"));
         QVERIFY(files.undo());
         QCOMPARE(files.contents(), "a=another b=a");
         QCOMPARE(files.result.errors.size(), 1);
         QFile(files.folder.filePath(u"journal"_s)).open(QFile::Append); // as a crash leaves it
-        QVERIFY(QFile::remove(QString::fromUtf8(files.path("a"))) && files.undo());
+        QVERIFY(QFile::remove(QString::fromUtf8(files.path("a"))));
+        QVERIFY(files.undo());
         QCOMPARE(files.contents(), "a=a");
     }
 
     void aCancelledCopyLeavesNothing()
     {
         Batches files;
-        QVERIFY(Trees::write(files.path("a"), "a")
-                && Trees::write(files.path("b"), QByteArray(64 << 20, 'x')));
+        QVERIFY(Trees::write(files.path("a"), "a"));
+        QVERIFY(Trees::write(files.path("b"), QByteArray(64 << 20, 'x')));
         connect(&files.batch, &FileBatch::progressed, &files.batch, [&](double, const QString &name) {
             if (name == u"b")
                 files.batch.cancel();
         });
         QVERIFY(files.run({{"a", "c"}, {"b", "d"}}, true));
-        QVERIFY(files.result.isStopped && files.result.errors.isEmpty());
+        QVERIFY(files.result.isStopped);
+        QVERIFY(files.result.errors.isEmpty());
         QCOMPARE(Trees::names(files.path("").chopped(1)).join('|'), "a|b|c");
     }
 
@@ -285,7 +298,8 @@ private Q_SLOTS:
         const QTemporaryDir folder, target;
         QVERIFY(Samples::copy(u"Interlude.ogg"_s, folder.filePath(u"a.ogg"_s)));
         Shown shown;
-        QVERIFY(shown.visible && shown.open(folder.path()));
+        QVERIFY(shown.visible);
+        QVERIFY(shown.open(folder.path()));
         shown.select(0, TrackField::Title);
         ZEVOpenPanel::setRunner([&](ZEVOpenPanel &panel) {
             panel.URL = Trees::url(target.path());
@@ -298,7 +312,8 @@ private Q_SLOTS:
         shown.action(u"Move to"_s)->trigger();
         QTRY_COMPARE(shown.window.tracks().track(0).path.native(), target.filePath(u"a.ogg"_s).toStdString());
         ZEVOpenPanel::setRunner({});
-        QVERIFY(!QFile::exists(folder.filePath(u"a.ogg"_s)) && QFile::exists(target.filePath(u"a.ogg"_s)));
+        QVERIFY(!QFile::exists(folder.filePath(u"a.ogg"_s)));
+        QVERIFY(QFile::exists(target.filePath(u"a.ogg"_s)));
     }
 };
 

@@ -69,7 +69,8 @@ private Q_SLOTS:
     void typingFindsAndReturnSteps()
     {
         Shown shown;
-        QVERIFY(shown.visible && shown.open(Samples::folder()));
+        QVERIFY(shown.visible);
+        QVERIFY(shown.open(Samples::folder()));
         shown.find(u"tra"_s);
         QTRY_COMPARE(shown.count(), u"4 matches"_s);
         ZEVTokenField *field = shown.bar().findTokenField();
@@ -89,7 +90,8 @@ private Q_SLOTS:
     {
         const Folder folder;
         Shown shown;
-        QVERIFY(shown.visible && shown.open(folder.path.path()));
+        QVERIFY(shown.visible);
+        QVERIFY(shown.open(folder.path.path()));
         QTest::keyClick(&shown.window, Qt::Key_H, Qt::ControlModifier);
         ZEVTokenField *find = shown.bar().findTokenField();
         ZEVTokenField *replace = shown.bar().replaceTokenField();
@@ -122,10 +124,12 @@ private Q_SLOTS:
     void thePanelSearchesItsFieldsAndThePreviewSparesTexts()
     {
         Shown shown;
-        QVERIFY(shown.visible && shown.open(Samples::folder()));
+        QVERIFY(shown.visible);
+        QVERIFY(shown.open(Samples::folder()));
         QTest::keyClick(&shown.window, Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
         auto *dialog = shown.window.findChild<FindPanelDialog *>();
-        QVERIFY(dialog && QTest::qWaitForWindowActive(dialog));
+        QVERIFY(dialog);
+        QVERIFY(QTest::qWaitForWindowActive(dialog));
         FindPanel &panel = dialog->panel();
         QTest::keyClicks(panel.findTokenField(), u"track"_s);
         QTest::keyClick(panel.findTokenField(), Qt::Key_Return);
@@ -157,7 +161,8 @@ private Q_SLOTS:
     void anExpressionThatIsNoneOpensNoDialog()
     {
         Shown shown;
-        QVERIFY(shown.visible && shown.open(Samples::folder()));
+        QVERIFY(shown.visible);
+        QVERIFY(shown.open(Samples::folder()));
         shown.find(u"(tr"_s, ZEVFindPanelQuery::RegularExpression);
         QTRY_VERIFY2(shown.message().contains(u"(tr"), qPrintable(shown.message()));
         QCOMPARE(QApplication::activeModalWidget(), nullptr);
@@ -170,7 +175,8 @@ private Q_SLOTS:
     {
         const Folder folder;
         Shown shown;
-        QVERIFY(shown.visible && shown.open(folder.path.path()));
+        QVERIFY(shown.visible);
+        QVERIFY(shown.open(folder.path.path()));
         QVERIFY(shown.window.tracks().rowCount() == 2);
         auto *model = const_cast<TrackTableModel *>(&shown.window.tracks());
         model->setTexts({{model->track(0).id, TrackField::Comment, QString(40, u'a')}});
@@ -182,7 +188,8 @@ private Q_SLOTS:
     void tracksThatComeInAreFoundAndMatchesFollowTheSorting()
     {
         Shown shown;
-        QVERIFY(shown.visible && shown.open(Samples::folder() + u"/Sever"_s));
+        QVERIFY(shown.visible);
+        QVERIFY(shown.open(Samples::folder() + u"/Sever"_s));
         shown.find(u"tra"_s);
         QTRY_COMPARE(shown.count(), u"0 matches"_s);
         QVERIFY(shown.open(Samples::folder()));
@@ -200,7 +207,8 @@ private Q_SLOTS:
     {
         {
             Shown shown;
-            QVERIFY(shown.visible && shown.open(Samples::folder() + u"/Harbour"_s));
+            QVERIFY(shown.visible);
+            QVERIFY(shown.open(Samples::folder() + u"/Harbour"_s));
             shown.find(u"boat "_s);
             insertToken(shown.findField()->menu(), u"Any Word"_s);
             shown.window.close();
@@ -213,14 +221,16 @@ private Q_SLOTS:
     void theCommentIsAPlaceOfItsOwn()
     {
         Shown shown;
-        QVERIFY(shown.visible && shown.open(Samples::folder()));
+        QVERIFY(shown.visible);
+        QVERIFY(shown.open(Samples::folder()));
         shown.select(0, TrackField::Title);
         auto *comment = shown.window.findChild<QPlainTextEdit *>();
         QTRY_VERIFY(comment->toPlainText().startsWith(u"Recorded"));
         comment->setFocus();
         QTest::keyClick(comment, Qt::Key_H, Qt::ControlModifier);
         ZEVFindPlace &place = shown.window.inspector().commentFind();
-        QVERIFY(place.isFindBarVisible() && !shown.window.find().isFindBarVisible());
+        QVERIFY(place.isFindBarVisible());
+        QVERIFY(!shown.window.find().isFindBarVisible());
         QTRY_VERIFY(place.bar().hasFocus());
         place.bar().findTokenField()->setFocus();
         QTest::keyClicks(place.bar().findTokenField(), u"19"_s);
@@ -238,7 +248,8 @@ private Q_SLOTS:
     void theInspectorEditsAllSelectedTracks()
     {
         Shown shown;
-        QVERIFY(shown.visible && shown.open(Samples::folder() + u"/Harbour"_s));
+        QVERIFY(shown.visible);
+        QVERIFY(shown.open(Samples::folder() + u"/Harbour"_s));
         shown.window.table().selectAll();
         const QList<TagField *> fields = shown.window.findChildren<TagField *>();
         TagField *title = fields.at(0);
@@ -266,7 +277,8 @@ private Q_SLOTS:
     void typedTextsAreTakenBackAndMixedOnesEmptied()
     {
         Shown shown;
-        QVERIFY(shown.visible && shown.open(Samples::folder() + u"/Harbour"_s));
+        QVERIFY(shown.visible);
+        QVERIFY(shown.open(Samples::folder() + u"/Harbour"_s));
         TagField *title = shown.window.findChildren<TagField *>().at(0);
         auto *comment = shown.window.findChild<QPlainTextEdit *>();
         shown.select(0, TrackField::Title);
@@ -305,7 +317,8 @@ private Q_SLOTS:
     void anUntouchedFieldLeavesUndoToTheWindow()
     {
         Shown shown;
-        QVERIFY(shown.visible && shown.open(Samples::folder() + u"/Harbour"_s));
+        QVERIFY(shown.visible);
+        QVERIFY(shown.open(Samples::folder() + u"/Harbour"_s));
         const QList<TagField *> fields = shown.window.findChildren<TagField *>();
         auto *comment = shown.window.findChild<QPlainTextEdit *>();
         const auto press = [&](QWidget *field, Qt::KeyboardModifiers more = {}) {
@@ -340,7 +353,8 @@ private Q_SLOTS:
     {
         const Folder folder;
         Shown shown;
-        QVERIFY(shown.visible && shown.open(folder.path.path()));
+        QVERIFY(shown.visible);
+        QVERIFY(shown.open(folder.path.path()));
         QTableView &table = shown.window.table();
         table.setCurrentIndex(shown.window.tracks().index(0, int(TrackField::Title)));
         QTest::keyClick(&table, Qt::Key_F2);
@@ -366,7 +380,8 @@ private Q_SLOTS:
                 .problem,
             QString());
         Shown shown;
-        QVERIFY(shown.visible && shown.open(folder.path.path()));
+        QVERIFY(shown.visible);
+        QVERIFY(shown.open(folder.path.path()));
         QTableView &table = shown.window.table();
         shown.find(u"^(Rock|Pop|Rock.Pop)$"_s, ZEVFindPanelQuery::RegularExpression);
         QTRY_COMPARE(shown.count(), u"2 matches"_s);
@@ -400,7 +415,8 @@ private Q_SLOTS:
     void cellsAreEditedInPlace()
     {
         Shown shown;
-        QVERIFY(shown.visible && shown.open(Samples::folder()));
+        QVERIFY(shown.visible);
+        QVERIFY(shown.open(Samples::folder()));
         shown.window.table().setCurrentIndex(shown.window.tracks().index(0, int(TrackField::Year)));
         QTest::keyClick(&shown.window.table(), Qt::Key_F2);
         auto *editor = shown.window.table().findChild<QLineEdit *>();

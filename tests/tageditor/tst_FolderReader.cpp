@@ -70,9 +70,10 @@ private Q_SLOTS:
         const QString good = u"Track 7.m4a"_s;
         QVERIFY(Samples::copy(good, folder.filePath(u"Track 9/deep/x.M4A"_s)));
         QVERIFY(Samples::copy(good, folder.filePath(u"Track 10.m4a"_s)));
-        for (const QString &hidden : {u".Trash-1000/files"_s, u".zev-1-2.tmp"_s})
-            QVERIFY(QDir(folder.path()).mkpath(hidden)
-                    && Samples::copy(good, folder.filePath(hidden + u"/gone.m4a"_s)));
+        for (const QString &hidden : {u".Trash-1000/files"_s, u".zev-1-2.tmp"_s}) {
+            QVERIFY(QDir(folder.path()).mkpath(hidden));
+            QVERIFY(Samples::copy(good, folder.filePath(hidden + u"/gone.m4a"_s)));
+        }
         QVERIFY(Samples::copy(good, folder.filePath(u"._beside.m4a"_s)));
         QVERIFY(Samples::copy(good, folder.filePath(u"notes.txt"_s)));
         QVERIFY(Samples::copy(good, folder.filePath(u"two\nlines.m4a"_s)));

@@ -94,9 +94,9 @@ private Q_SLOTS:
             return files.join(u' ');
         };
         shared.type(u"mine"_s);
-        QVERIFY(QDir(shared.folder.path()).mkdir(u"new"_s)
-                && Samples::copy(u"Interlude.ogg"_s, shared.folder.filePath(u"new/b.ogg"_s))
-                && Samples::copy(u"Interlude.ogg"_s, shared.folder.filePath(u"c.ogg"_s), 40)); // half of it
+        QVERIFY(QDir(shared.folder.path()).mkdir(u"new"_s));
+        QVERIFY(Samples::copy(u"Interlude.ogg"_s, shared.folder.filePath(u"new/b.ogg"_s)));
+        QVERIFY(Samples::copy(u"Interlude.ogg"_s, shared.folder.filePath(u"c.ogg"_s), 40)); // half of it
         QTRY_COMPARE(names(), u"a.m4a c.ogg b.ogg"_s);
         QVERIFY(shared.shown.status().contains(u"2 new files"));
         QVERIFY(Samples::copy(u"Interlude.ogg"_s, shared.folder.filePath(u"c.ogg"_s)));
@@ -131,8 +131,8 @@ private Q_SLOTS:
         QFETCH(QString, answer);
         Shared shared;
         shared.type(u"mine"_s);
-        QVERIFY(shared.writeElsewhere(TrackField::Title, u"theirs"_s)
-                && shared.writeElsewhere(TrackField::Album, u"kept"_s));
+        QVERIFY(shared.writeElsewhere(TrackField::Title, u"theirs"_s));
+        QVERIFY(shared.writeElsewhere(TrackField::Album, u"kept"_s));
         QTest::qWait(600); // long enough for the change to be noticed, and left alone
         QCOMPARE(shared.title(), u"mine"_s);
         QVERIFY(!shared.saveAnswering(answer).isEmpty());
@@ -148,7 +148,8 @@ private Q_SLOTS:
         const QString folder = Samples::folder() + u"/Sever"_s;
         {
             Shown shown;
-            QVERIFY(shown.visible && shown.open(folder));
+            QVERIFY(shown.visible);
+            QVERIFY(shown.open(folder));
             QHeaderView *header = shown.window.table().horizontalHeader();
             QMenu *columns = shown.action(u"Columns"_s)->menu();
             Q_EMIT columns->aboutToShow();

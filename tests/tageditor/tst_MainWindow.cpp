@@ -56,7 +56,8 @@ private Q_SLOTS:
     void aClickOnAHeaderSorts()
     {
         Shown shown;
-        QVERIFY(shown.visible && shown.open(Samples::folder()));
+        QVERIFY(shown.visible);
+        QVERIFY(shown.open(Samples::folder()));
         const auto firstYear = [&] { return shown.window.tracks().track(0).text(TrackField::Year); };
         QHeaderView *header = shown.window.table().horizontalHeader();
         const int x = header->sectionViewportPosition(int(TrackField::Year)) + 10;
@@ -74,7 +75,8 @@ private Q_SLOTS:
     void tracksAreFilteredAsOneTypes()
     {
         Shown shown;
-        QVERIFY(shown.visible && shown.open(Samples::folder()));
+        QVERIFY(shown.visible);
+        QVERIFY(shown.open(Samples::folder()));
         const TrackTableModel &tracks = shown.window.tracks();
         auto *filter = shown.window.findChild<FilterField *>();
         const auto names = [&] {
@@ -112,7 +114,8 @@ private Q_SLOTS:
     void aFolderThatIsNotThereIsTold()
     {
         Shown shown;
-        QVERIFY(shown.visible && shown.open(u"/no/such/folder"_s));
+        QVERIFY(shown.visible);
+        QVERIFY(shown.open(u"/no/such/folder"_s));
         QCOMPARE(shown.status(),
                  u"0 tracks|The folder “/no/such/folder” could not be read: No such file or directory"_s);
         QVERIFY(shown.open(Samples::folder() + u"/Sever"_s));
@@ -141,7 +144,8 @@ private Q_SLOTS:
         QDropEvent drop({10, 10}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
         QCoreApplication::sendEvent(&shown.window, &enter);
         QCoreApplication::sendEvent(&shown.window, &drop);
-        QVERIFY(enter.isAccepted() && drop.dropAction() == Qt::CopyAction);
+        QVERIFY(enter.isAccepted());
+        QVERIFY(drop.dropAction() == Qt::CopyAction);
         QTRY_COMPARE(selected(), u"01 02"_s);
         QCOMPARE(shown.window.folder(), Samples::folder() + u"/Harbour"_s);
     }
@@ -152,7 +156,8 @@ private Q_SLOTS:
         QVERIFY(Samples::copy(u"Interlude.ogg"_s, folder.filePath(u"<b>.ogg"_s), 0));
         QVERIFY(Samples::copy(u"Interlude.ogg"_s, folder.filePath(u"a.ogg"_s)));
         Shown shown;
-        QVERIFY(shown.visible && shown.open(folder.path()));
+        QVERIFY(shown.visible);
+        QVERIFY(shown.open(folder.path()));
         QCOMPARE(shown.status(), u"2 tracks, 1 unreadable|"_s);
         const QModelIndex title = shown.window.table().model()->index(0, int(TrackField::Title));
         QCOMPARE(title.data().toString(), QString());
@@ -169,14 +174,16 @@ private Q_SLOTS:
         QVERIFY(Samples::copy(u"Interlude.ogg"_s, folder.filePath(u"a.ogg"_s)));
         QVERIFY(Samples::copy(u"Track 7.m4a"_s, folder.filePath(u"b.m4a"_s)));
         QFile damaged(folder.filePath(u"c.ogg"_s)); // and too large to be lost in the rounding
-        QVERIFY(damaged.open(QIODevice::WriteOnly) && damaged.resize(500'000));
+        QVERIFY(damaged.open(QIODevice::WriteOnly));
+        QVERIFY(damaged.resize(500'000));
         const auto texts = [](const QVariantList &sizes) {
             return FileSizeTransformer().transformedValue(sizes).toString();
         };
         const QVariant none = QVariant::fromValue(nullptr);
         const QVariantList all{size("a.ogg"), size("b.m4a"), none};
         Shown shown;
-        QVERIFY(shown.visible && shown.open(folder.path()));
+        QVERIFY(shown.visible);
+        QVERIFY(shown.open(folder.path()));
         QVERIFY(all.at(0) != all.at(1));
         QCOMPARE(shown.sizes(), texts(all));
         shown.select(1, TrackField::Year);
@@ -189,7 +196,8 @@ private Q_SLOTS:
         shown.window.table().clearSelection();
         QCOMPARE(shown.sizes(), texts(all));
         QVERIFY(shown.open(Samples::folder() + u"/Sever"_s)); // nothing of the other folder remains
-        QVERIFY(!shown.sizes().isEmpty() && shown.sizes() != texts(all));
+        QVERIFY(!shown.sizes().isEmpty());
+        QVERIFY(shown.sizes() != texts(all));
     }
 
     void everyControlHasANameForScreenReaders()

@@ -274,7 +274,8 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"file.flac"_s);
         const QString link = folder.filePath(u"link.flac"_s);
-        QVERIFY(Samples::copy(u"Nordwind/06 Gruesse.flac"_s, path) && QFile::link(path, link));
+        QVERIFY(Samples::copy(u"Nordwind/06 Gruesse.flac"_s, path));
+        QVERIFY(QFile::link(path, link));
         QCOMPARE(problem(link, {{{TrackField::Title, u"x"_s}}}), QString());
         QVERIFY(QFileInfo(link).isSymLink());
         QCOMPARE(TagReader::read(native(path)).text(TrackField::Title), u"x"_s);

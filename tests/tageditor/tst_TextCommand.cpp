@@ -68,13 +68,17 @@ private Q_SLOTS:
             return table.model.index(row, int(TrackField::Title)).data(Qt::FontRole).value<QFont>().bold();
         };
         table.change({{table.id(0), TrackField::Title, u"drei"_s}});
-        QVERIFY(isBold(0) && !isBold(1));
+        QVERIFY(isBold(0));
+        QVERIFY(!isBold(1));
         table.model.sort(int(TrackField::FileName), Qt::AscendingOrder);
-        QVERIFY(!isBold(0) && isBold(1));
+        QVERIFY(!isBold(0));
+        QVERIFY(isBold(1));
         table.change({{table.id(1), TrackField::Title, u"zwei"_s}}); // by another way than undoing
-        QVERIFY(!isBold(1) && !table.model.hasChanges());
+        QVERIFY(!isBold(1));
+        QVERIFY(!table.model.hasChanges());
         table.stack.undo();
-        QVERIFY(isBold(1) && table.model.hasChanges());
+        QVERIFY(isBold(1));
+        QVERIFY(table.model.hasChanges());
         table.model.clear();
         QVERIFY(!table.model.hasChanges());
     }

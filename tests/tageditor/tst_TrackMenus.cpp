@@ -38,7 +38,8 @@ private Q_SLOTS:
     void genresAreTypedAndSetInOneStep()
     {
         Shown shown;
-        QVERIFY(shown.visible && shown.open(Samples::folder()));
+        QVERIFY(shown.visible);
+        QVERIFY(shown.open(Samples::folder()));
         auto *genres = shown.window.findChild<GenreMenu *>();
         const auto choose = [&](const QString &typed) {
             genres->popup({50, 50});
@@ -70,7 +71,8 @@ private Q_SLOTS:
     void tracksHaveApplications()
     {
         Shown shown;
-        QVERIFY(shown.visible && shown.open(Samples::folder()));
+        QVERIFY(shown.visible);
+        QVERIFY(shown.open(Samples::folder()));
         auto *menus = shown.window.findChild<TrackMenus *>();
         const std::unique_ptr<QMenu> empty(menus->makeContextMenu());
         QVERIFY(!empty->actions().first()->isEnabled());
@@ -91,7 +93,9 @@ private Q_SLOTS:
         Shown shown;
         auto *button = shown.window.findChild<ZEVURLPopUpButton *>();
         QCOMPARE(titles(*button->menu()), u"Choose…"_s);
-        QVERIFY(shown.visible && shown.open(one.path()) && shown.open(other.path()));
+        QVERIFY(shown.visible);
+        QVERIFY(shown.open(one.path()));
+        QVERIFY(shown.open(other.path()));
         QCOMPARE(titles(*button->menu()), QStringList({second, first, u"Choose…"_s}).join(u'|'));
         QMenu *recents = shown.action(u"Open Recent"_s)->menu();
         recents->popup({50, 50});
@@ -101,7 +105,8 @@ private Q_SLOTS:
         recents->actions()[1]->trigger();
         QTRY_COMPARE(read.size(), 1);
         QCOMPARE(shown.window.folder(), one.path());
-        QVERIFY(Samples::copy(u"Interlude.ogg"_s, one.filePath(u"a.ogg"_s)) && shown.open(one.path()));
+        QVERIFY(Samples::copy(u"Interlude.ogg"_s, one.filePath(u"a.ogg"_s)));
+        QVERIFY(shown.open(one.path()));
         shown.select(0, TrackField::Title);
         Q_EMIT shown.window.findChild<GenreMenu *>()->genreChosen(u"Folk"_s);
         shown.window.setDiscardQuestion([] { return false; });
