@@ -111,7 +111,7 @@ public:
         QString window;
         const auto isActive = [&] {
             window = tool(u"getactivewindow"_s);
-            return !window.isEmpty()
+            return !window.isEmpty() && tool(u"getwindowfocus"_s) == window
                 && tool(u"getwindowpid "_s + window) == QString::number(process.processId());
         };
         return waitFor(isActive) ? window : QString();
