@@ -9,7 +9,8 @@ std::optional<ZEVWholeFile::Failure> ZEVWholeFile::write(const QString &path, co
                                                          QFileDevice::Permissions permissions)
 {
     QSaveFile file(path);
-    const bool isWritten = file.open(QFile::WriteOnly) && (!permissions || file.setPermissions(permissions))
-        && file.write(data) == data.size() && file.flush() && file.commit();
+    const bool isWritten = file.open(QIODevice::WriteOnly)
+        && (!permissions || file.setPermissions(permissions)) && file.write(data) == data.size()
+        && file.flush() && file.commit();
     return isWritten ? std::nullopt : std::optional(Failure{file.error(), file.errorString()});
 }
